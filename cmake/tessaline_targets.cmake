@@ -1,0 +1,64 @@
+# How every target of the project is built: language level, warnings, floating point rules, sanitizers.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+
+add_library(tessaline_flags INTERFACE)
+target_include_directories(tessaline_flags INTERFACE ${PROJECT_SOURCE_DIR})
+# A fused multiply-add rounds once instead of twice, so the text of a number would depend on the processor.
+target_compile_options(tessaline_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off)
+
+if(TESSALINE_SANITIZE OR TESSALINE_FUZZ)
+  set(sanitizers address,undefined)
+  if(TESSALINE_FUZZ)
+    set(sanitizers ${sanitizers},fuzzer-no-link)
+  endif()
+  target_compile_options(tessaline_flags INTERFACE
+    -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tessaline_flags INTERFACE -fsanitize=${sanitizers})
+endif()
+
+if(TESSALINE_COVERAGE)
+  target_compile_options(tessaline_flags INTERFACE --coverage)
+  target_link_options(tessaline_flags INTERFACE --coverage)
+endif()
+
+# tessaline_room(NAME LINK TARGET... [FOLDERS FOLDER...]): a static library of every .cpp of the current folder and of
+# the folders named. A room links only what it may include, so a forbidden include fails to compile or to link.
+function(tessaline_room name)
+  cmake_parse_arguments(room "" "" "LINK;FOLDERS" ${ARGN})
+  set(patterns ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  foreach(folder ${room_FOLDERS})
+    list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC tessaline_flags ${room_LINK})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE tessaline_flags ${room_LINK})
+  endif()
+endfunction()
+
+# tessaline_test(NAME LABEL LINK TARGET... [FOLDERS FOLDER...]): one GoogleTest program of every *_test.cpp (and *.c,
+# and the helper *.cpp files beside them) of the current folder and the folders named; LABEL is the ctest label.
+function(tessaline_test name label)
+  cmake_parse_arguments(test "" "" "LINK;FOLDERS" ${ARGN})
+  set(patterns ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.c)
+  foreach(folder ${test_FOLDERS})
+    list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.c)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  if(sources)
+    add_executable(${name} ${sources})
+    target_link_libraries(${name} PRIVATE tessaline_flags ${test_LINK} GTest::gmock GTest::gtest_main)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+      PROPERTIES LABELS ${label} TIMEOUT 600)
+  endif()
+endfunction()

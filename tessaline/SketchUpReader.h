@@ -1,0 +1,78 @@
+#pragma once
+
+// One reading of one model: the fixed order of the run, the walk, and all that it writes. The members are grouped by the
+// file that holds them.
+
+#include "qlw/qlw_matrix.h"
+#include "sketchup/SketchUpAPI.h"
+#include "tessaline/geometry_stream.h"
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+// 16 numbers as SketchUp gives them: column-major, translation in elements 12 to 14.
+using transform16 = std::array<double, 16>;
+
+// What a face passes to begin_mesh about its block.
+struct mesh_head {
+    std::string_view label;
+    bool casts_shadows = true;
+    std::string groundcover_file; // empty: none
+    int groundcover_orientation = -1;
+    bool invisible = false;
+    bool hide = false;
+    std::string_view layer_name;
+};
+
+// What a pass of a face passes to write_mesh_state.
+struct mesh_state {
+    std::string_view layer_name;
+    bool two_sided = false;
+    int pass = 1; // 1 front, 2 back
+    int front_material = 0;
+    int back_material = 0;
+    bool uses_uv = false;
+};
+
+class SketchUpReader {
+public:
+    // model_reading.cpp: the order of one reading.
+    // Gives 1 when the run ended, -1 when the model could not be opened; nothing has been written then.
+    int ReadSkpFile(const std::string& input_path, const std::string& output_path);
+
+    // mesh_blocks.cpp: what opens and closes a block and what stands at its head.
+    void begin_mesh(const mesh_head& head);
+    void write_mesh_state(const mesh_state& state);
+    void write_layer_list(std::string_view layer_name);
+    void end_mesh(std::string_view label);
+    void begin_lamp_mesh(std::string_view label, int lamp_number, bool forced_hidden);
+    void begin_face_lamp_mesh(int lamp_number, bool hide, bool invisible);
+    void begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material,
+                          int back_material, bool hide, bool invisible);
+    void write_direct_light(std::string_view label, int lamp_number);
+
+    geometry_stream stream; // closed until the run opens it; drops all lines while closed
+
+    // Mesh block state.
+    int vertex_base = 0;            // added to a mesh's own vertex numbers; 0 in every block that gathers nothing
+    bool lamp_block_open = false;   // a group or instance lamp block is open
+    int lamp_block_depth = -1;      // the depth at which it opened
+    bool in_illum_mesh = false;     // an illuminated block is open
+    int illum_material = -1;        // its material number
+    int mesh_count = 0;             // illuminated blocks closed so far
+    int lamp_count = 0;             // lamps met so far
+    bool beam_pass_wanted = false;  // the current lamp is of the type "spot_beams"
+    bool beam_pass_running = false; // its entities are being walked a second time
+    int ilights_saved = 0;          // number of the next lamp
+
+    // Progress and model facts.
+    int total_items = 0;
+    int items_done = 0;
+    int last_percent = 0;
+    bool layer0_hidden = false;
+    int version_major = 0;
+    int version_minor = 0;
+    int version_build = 0;
+};

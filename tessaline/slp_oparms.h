@@ -1,0 +1,85 @@
+#pragma once
+
+// What a group, a component or a face says about its contents, and the stack that hands it down the walk.
+
+#include "qlw/qlw_matrix.h"
+#include "sketchup/SketchUpAPI.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+// What an object says about a lamp. -1 (-1.0) means not set where nothing else stands.
+struct cl_slp_light {
+    std::string lamp_type; // "bulb", "bulb_glow", "spot", "spot_glow", "spot_beams", "rect", "rect_glow", "linear_glow",
+                           // "round_glow", or empty
+    bool use_object_color = false; // an intensity came from the object's attributes
+    bool hide_locked = false;      // `hide` was set by an override and stays
+    bool hide = false;             // the lamp's visible shape is hidden
+    int color = 0;                 // 0xRRGGBB; 0 means not set
+    int channel = -1;
+    int light_direction = -1; // 0 to 5
+    int light_orientation = -1;
+    int light_type = 0; // 0 means not set
+    double beam_length = -1.0;
+    double beam_angle = -1.0;
+    double field_angle = -1.0;
+    double intensity = -1.0; // watts
+    double intensity_lumens = -1.0;
+    double length = -1.0;
+    double size = -1.0;
+    double width = -1.0;
+    fpt direction{0, 0, -1};
+    fpt face_edge_vector{0, 1, 0};
+    fpt face_x_axis{1, 0, 0};
+    std::string light_category;
+    std::string lamp_unit;
+    std::string spotlight_shape;
+    std::string ies_file_name;
+    int ies_pattern = -1;
+    bool treat_as_single_light = false;
+    bool direct_light = false; // a bulb or a spot: a lamp without geometry
+};
+
+// The parameters of one level of the walk. A new level starts as a copy of the one above it.
+struct cl_slp_oparms {
+    int level = -1;
+    std::string layer_name;
+    std::string layer_chain; // layer indices from the outermost level down, joined by commas
+    double reflection = 0;
+    SUMaterialRef material = SU_INVALID; // of the enclosing group or instance
+    cl_slp_light light;
+    bool alpha_channel = false;
+    bool daylight = false;
+    bool monte_carlo = false;
+    bool gather = false;
+    bool caustics = false;
+    bool thick = false;
+    bool invisible = false; // hidden from the camera
+    std::string groundcover_file;
+    int groundcover_orientation = -1;
+};
+
+class cl_oparms_array {
+public:
+    // Adds a level that is a copy of the top one (fresh if there is none) and gives it. The caller assigns the result to
+    // current_oparms. The address stays valid until the level is popped.
+    cl_slp_oparms* push();
+
+    // Removes the top level and gives the one below. The bottom level stays: the attempt is traced, and the level that
+    // is top is given unchanged; null if there is none.
+    cl_slp_oparms* pop();
+
+    // The level at that index, 0 being the bottom. index: 0 to size() - 1; anything else throws std::invalid_argument.
+    cl_slp_oparms* at(int index) const;
+
+    int size() const { return static_cast<int>(levels.size()); }
+    void clear() { levels.clear(); }
+
+private:
+    std::vector<std::unique_ptr<cl_slp_oparms>> levels;
+};
+
+// Names the layer of a level that was just entered and appends the layer's index to the chain that current_oparms
+// holds. A layer that the model's table lacks leaves the chain as inherited.
+void set_layer(cl_slp_oparms& oparms, const std::string& layer_name);
