@@ -85,7 +85,8 @@ public:
 
     // ---- what opens a block and stands at its head
 
-    void write_comment(std::string_view text); // "#;" and the text, which may be empty
+    void write_comment(std::string_view text);      // "#;" and the text, which may be empty
+    void write_block_label(std::string_view label); // the comment "#; " and the label
     void write_mesh_opening();
     void write_image_mesh_opening();        // images spell it without the semicolon
     void write_lamp_shape(int lamp_number); // the block is the shape of that lamp
