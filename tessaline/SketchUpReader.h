@@ -1,7 +1,7 @@
 #pragma once
 
-// One reading of one model: the fixed order of the run, the walk, and all that it writes. The members are grouped by the
-// file that holds them.
+// One reading of one model: the fixed order of the run, the walk, and all that it writes. The members are grouped by
+// the file that holds them.
 
 #include "qlw/qlw_matrix.h"
 #include "sketchup/SketchUpAPI.h"
@@ -49,8 +49,8 @@ public:
     void end_mesh(std::string_view label);
     void begin_lamp_mesh(std::string_view label, int lamp_number, bool forced_hidden);
     void begin_face_lamp_mesh(int lamp_number, bool hide, bool invisible);
-    void begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material,
-                          int back_material, bool hide, bool invisible);
+    void begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material, int back_material,
+                          bool hide, bool invisible);
     void write_direct_light(std::string_view label, int lamp_number);
 
     geometry_stream stream; // closed until the run opens it; drops all lines while closed
