@@ -3,17 +3,13 @@
 // One reading of one model: the fixed order of the run, the walk, and all that it writes. The members are grouped by
 // the file that holds them.
 
-#include "qlw/qlw_matrix.h"
 #include "sketchup/SketchUpAPI.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/transforms.h"
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
-
-// 16 numbers as SketchUp gives them: column-major, translation in elements 12 to 14.
-using transform16 = std::array<double, 16>;
 
 // What a face passes to begin_mesh about its block.
 struct mesh_head {
