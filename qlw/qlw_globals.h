@@ -25,11 +25,11 @@ public:
     // `expected`, its value taken from the profile if that save type is kept there.
     // expected: the save type the caller counts on; 0 for any. A setting of another kind is reported at level 0,
     // unchanged.
-    cl_variable_base& find_global(std::string_view name, save_type expected = SAVE_UNKNOWN);
+    cl_variable_base& find_global(std::string_view name, save_types expected = SAVE_UNKNOWN);
 
     // Adds a setting under a name that the table does not hold yet. The type follows from the first letter: b and i
     // integer, c colour, p point, s string, any other double. The value is the zero of the type.
-    cl_variable_base& create_variable(std::string_view name, save_type saved);
+    cl_variable_base& create_variable(std::string_view name, save_types saved);
 
     // The names of all settings, ascending by byte.
     std::vector<std::string> names() const;
@@ -84,22 +84,22 @@ color_ref get_global_COLORREF(std::string_view name);
 // Writers. A name of the wrong first letter is reported at level 4; set_global_int then stores nothing, the others go
 // on. The value goes to the profile too if it is kept there. expected: the save type that the caller counts on, 0 for
 // any; see find_global.
-void set_global_int(std::string_view name, int value, save_type expected = SAVE_UNKNOWN);
-void set_global_bool(std::string_view name, bool value, save_type expected = SAVE_UNKNOWN);
-void set_global_string(std::string_view name, std::string_view value, save_type expected = SAVE_UNKNOWN);
-void set_global_double(std::string_view name, double value, save_type expected = SAVE_UNKNOWN);
-void set_global_fpt(std::string_view name, const fpt& value, save_type expected = SAVE_UNKNOWN);
+void set_global_int(std::string_view name, int value, save_types expected = SAVE_UNKNOWN);
+void set_global_bool(std::string_view name, bool value, save_types expected = SAVE_UNKNOWN);
+void set_global_string(std::string_view name, std::string_view value, save_types expected = SAVE_UNKNOWN);
+void set_global_double(std::string_view name, double value, save_types expected = SAVE_UNKNOWN);
+void set_global_fpt(std::string_view name, const fpt& value, save_types expected = SAVE_UNKNOWN);
 void set_global_COLORREF(std::string_view name, color_ref value,
-                         save_type expected = SAVE_UNKNOWN); // stored masked to 24 bits
+                         save_types expected = SAVE_UNKNOWN); // stored masked to 24 bits
 
 // Registration. A new setting gets the default, or the value that the profile holds if it is kept there. One that
 // exists changes its save type and default and keeps its value. zero_means_default: a value of 0 from the profile gives
 // way to the default. report_if_new: registering it for the first time is reported, unless it is never saved.
-void preset_global_int(std::string_view name, save_type saved, int default_value, bool zero_means_default,
+void preset_global_int(std::string_view name, save_types saved, int default_value, bool zero_means_default,
                        bool report_if_new);
-void preset_global_bool(std::string_view name, save_type saved, bool default_value);
+void preset_global_bool(std::string_view name, save_types saved, bool default_value);
 // keep_default: the text becomes the value, not the default.
-void preset_global_string(std::string_view name, save_type saved, std::string_view default_value, bool keep_default);
-void preset_global_double(std::string_view name, save_type saved, double default_value);
+void preset_global_string(std::string_view name, save_types saved, std::string_view default_value, bool keep_default);
+void preset_global_double(std::string_view name, save_types saved, double default_value);
 void preset_global_fpt(std::string_view name, const fpt& default_value); // always goes through the option file
-void preset_global_COLORREF(std::string_view name, save_type saved, color_ref default_value);
+void preset_global_COLORREF(std::string_view name, save_types saved, color_ref default_value);

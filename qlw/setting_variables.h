@@ -2,6 +2,7 @@
 
 // One setting: a named, typed value with a default, and the place where it is kept.
 
+#include "qlw/color_text.h"
 #include "qlw/qlw_math.h"
 
 #include <cstdint>
@@ -10,11 +11,8 @@
 
 class cl_profile;
 
-// A colour as 0x00BBGGRR.
-using color_ref = std::uint32_t;
-
 // Where a setting is stored. The numbers are part of messages and of the callers' expectations.
-enum save_type : std::int32_t {
+enum save_types : std::int32_t {
     SAVE_UNKNOWN = 0,               // read before it was registered; goes through the option file
     SAVE_NONE = 1,                  // lives for this run only
     SAVE_PROFILE = 2,               // user profile
@@ -27,7 +25,7 @@ enum save_type : std::int32_t {
 };
 
 // Whether a setting of that save type is kept in the user profile.
-constexpr bool is_kept_in_profile(save_type type) {
+constexpr bool is_kept_in_profile(save_types type) {
     return type == SAVE_PROFILE || type == OPTION_NON_DATABASE_GLOBAL;
 }
 
@@ -35,7 +33,7 @@ constexpr bool is_kept_in_profile(save_type type) {
 // otherwise; a setter of a type that the class does not take does nothing. There is no run-time type error.
 class cl_variable_base {
 public:
-    cl_variable_base(std::string_view variable_name, std::int32_t type, save_type saved_as);
+    cl_variable_base(std::string_view variable_name, std::int32_t type, save_types saved_as);
     virtual ~cl_variable_base() = default;
     cl_variable_base(const cl_variable_base&) = delete;
     cl_variable_base& operator=(const cl_variable_base&) = delete;
@@ -66,18 +64,18 @@ public:
 
     // Moves the setting into save type 2, 3, 4 or 5 and reports a change at level 1. Any other type changes nothing, so
     // a setting never leaves these four again.
-    void set_save_type(save_type new_type);
+    void set_save_type(save_types new_type);
 
     std::string name;
     std::int32_t variable_type; // 1 integer or boolean, 2 string, 3 double, 4 point, 5 colour
-    save_type saved;
+    save_types save_type;
     std::int32_t value_set = 0; // 1 after the first write by name
 };
 
 // An integer, or a boolean as 0 or 1: only the first letter of the name tells which.
 class cl_variable_int : public cl_variable_base {
 public:
-    cl_variable_int(std::string_view variable_name, save_type saved_as);
+    cl_variable_int(std::string_view variable_name, save_types saved_as);
 
     std::int32_t get_int() const override { return value; }
     std::string get_string() const override;
@@ -96,7 +94,7 @@ public:
 
 class cl_variable_string : public cl_variable_base {
 public:
-    cl_variable_string(std::string_view variable_name, save_type saved_as, std::string_view start);
+    cl_variable_string(std::string_view variable_name, save_types saved_as, std::string_view start);
 
     std::int32_t get_int() const override;
     std::string get_string() const override { return value; }
@@ -115,7 +113,7 @@ public:
 
 class cl_variable_double : public cl_variable_base {
 public:
-    cl_variable_double(std::string_view variable_name, save_type saved_as, double start);
+    cl_variable_double(std::string_view variable_name, save_types saved_as, double start);
 
     std::int32_t get_int() const override; // rounded, halves downwards
     std::string get_string() const override;
@@ -134,7 +132,7 @@ public:
 
 class cl_variable_fpt : public cl_variable_base {
 public:
-    cl_variable_fpt(std::string_view variable_name, save_type saved_as, const fpt& start);
+    cl_variable_fpt(std::string_view variable_name, save_types saved_as, const fpt& start);
 
     std::string get_string() const override;
     fpt get_fpt() const override { return value; }
@@ -151,7 +149,7 @@ public:
 
 class cl_variable_COLORREF : public cl_variable_base {
 public:
-    cl_variable_COLORREF(std::string_view variable_name, save_type saved_as);
+    cl_variable_COLORREF(std::string_view variable_name, save_types saved_as);
 
     std::int32_t get_int() const override { return static_cast<std::int32_t>(value); } // all 32 bits
     color_ref get_COLORREF() const override { return value & 0xFFFFFF; }
@@ -166,18 +164,3 @@ public:
     color_ref value = 0;
     color_ref default_value = 0;
 };
-
-// Whether the first letter of a setting's name fits its type; a misfit is reported at level 4.
-bool check_global_name_int(std::string_view name);      // "i" or "b"
-bool check_global_name_bool(std::string_view name);     // "b"
-bool check_global_name_double(std::string_view name);   // "r"
-bool check_global_name_String(std::string_view name);   // "s"
-bool check_global_name_fpt(std::string_view name);      // "p"
-bool check_global_name_COLORREF(std::string_view name); // "c"
-
-// "#rrggbb", lower case.
-std::string color_to_text(color_ref color);
-
-// The colour that a text holds: "#rrggbb", "rgb(r,g,b)" or a decimal number, which is taken as the colour without a
-// mask. Never fails: what cannot be read is 0; "rgb(" without a comma is 0, with one comma it is red alone.
-color_ref text_to_color(std::string_view text);

@@ -2,6 +2,8 @@
 
 // Numbers as text, exactly as the C library's conversions give them in the C locale, several times faster.
 
+#include "qlw/qlw_math.h"
+
 // What write_number and write_integer may touch behind the pointer they are given; the text itself is shorter.
 inline constexpr int number_room = 32;
 
@@ -13,7 +15,9 @@ char* write_number(char* out, double value);
 // Writes an int as "%d" does, under the same rules.
 char* write_integer(char* out, int value);
 
-// A component as the stream knows it: what is nearer to zero than 1e-7 is a plain 0, without a sign.
+// What is nearer to zero than this is written as a plain 0, without a sign: metres, or parts of a unit vector.
+inline constexpr double snap_limit = 1e-7;
+
 inline double snapped(double value) {
-    return value < 1e-7 && value > -1e-7 ? 0.0 : value;
+    return snap_to_zero(value, snap_limit);
 }
