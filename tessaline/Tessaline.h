@@ -23,6 +23,16 @@ public:
     bool run_conversion(std::string input_path, std::string program_folder, std::string output_path,
                         std::string progress_argument);
 
+    // The steps of InitInstance, each one decision; see there for their order.
+    void find_program_folder();
+    // Fills the paths and switches. An old stream at a path that was derived from the input is deleted.
+    void settle_paths_from(const std::string& command_line);
+    // Asks for what is still missing. False if the user gave none.
+    bool ask_for_missing_paths();
+    // False, with a report, if the input does not exist or the output is not known.
+    bool paths_are_usable() const;
+    void run_dialog();
+
     CXMLOptions xml_options;
     std::string model_path;                        // the input path of the conversion that runs
     std::string model_file_name;                   // the same without folders
