@@ -1,0 +1,31 @@
+#pragma once
+
+// From the steps of a loop to its corners.
+
+#include "sketchup/model/model.h"
+
+namespace sketchup {
+
+// The vertex that a step of a loop leaves from: the edge's end if the step is reversed, else its start.
+inline index corner_vertex(const model& m, const edge_use& use) {
+    const edge& e = m.edges[use.edge];
+    return use.reversed ? e.end : e.start;
+}
+
+// The same, of a step given by its position in model::edge_uses. Such a position names a corner of a face for good.
+inline index corner_vertex(const model& m, index corner) {
+    return corner_vertex(m, m.edge_uses[corner]);
+}
+
+inline const vec3& corner_position(const model& m, index corner) {
+    return m.vertices[corner_vertex(m, corner)].position;
+}
+
+// Appends the corners of a loop in its order, as positions in model::vertices. Corners on the same vertex are kept.
+inline void append_loop_corners(const model& m, const loop& l, std::vector<index>& corners) {
+    for (index i = 0; i < l.uses.count; ++i) {
+        corners.push_back(corner_vertex(m, l.uses.first + i));
+    }
+}
+
+} // namespace sketchup
