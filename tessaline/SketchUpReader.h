@@ -1,19 +1,15 @@
 #pragma once
 
-// One reading of one model: the fixed order of the run, the walk, and all that it writes. The members are grouped by the
-// file that holds them.
+// One reading of one model: the fixed order of the run, the walk, and all that it writes. The members are grouped by
+// the file that holds them.
 
-#include "qlw/qlw_matrix.h"
 #include "sketchup/SketchUpAPI.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/transforms.h"
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
-
-// 16 numbers as SketchUp gives them: column-major, translation in elements 12 to 14.
-using transform16 = std::array<double, 16>;
 
 // What a face passes to begin_mesh about its block.
 struct mesh_head {
@@ -49,8 +45,8 @@ public:
     void end_mesh(std::string_view label);
     void begin_lamp_mesh(std::string_view label, int lamp_number, bool forced_hidden);
     void begin_face_lamp_mesh(int lamp_number, bool hide, bool invisible);
-    void begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material,
-                          int back_material, bool hide, bool invisible);
+    void begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material, int back_material,
+                          bool hide, bool invisible);
     void write_direct_light(std::string_view label, int lamp_number);
 
     geometry_stream stream; // closed until the run opens it; drops all lines while closed

@@ -11,8 +11,8 @@
 
 // What an object says about a lamp. -1 (-1.0) means not set where nothing else stands.
 struct cl_slp_light {
-    std::string lamp_type; // "bulb", "bulb_glow", "spot", "spot_glow", "spot_beams", "rect", "rect_glow", "linear_glow",
-                           // "round_glow", or empty
+    std::string lamp_type;         // "bulb", "bulb_glow", "spot", "spot_glow", "spot_beams", "rect", "rect_glow",
+                                   // "linear_glow", "round_glow", or empty
     bool use_object_color = false; // an intensity came from the object's attributes
     bool hide_locked = false;      // `hide` was set by an override and stays
     bool hide = false;             // the lamp's visible shape is hidden
@@ -62,8 +62,8 @@ struct cl_slp_oparms {
 
 class cl_oparms_array {
 public:
-    // Adds a level that is a copy of the top one (fresh if there is none) and gives it. The caller assigns the result to
-    // current_oparms. The address stays valid until the level is popped.
+    // Adds a level that is a copy of the top one (fresh if there is none) and gives it. The caller assigns the result
+    // to current_oparms. The address stays valid until the level is popped.
     cl_slp_oparms* push();
 
     // Removes the top level and gives the one below. The bottom level stays: the attempt is traced, and the level that
