@@ -4,12 +4,13 @@
 // the file that holds them.
 
 #include "sketchup/SketchUpAPI.h"
+#include "tessaline/face_mesh.h"
+#include "tessaline/face_sides.h"
 #include "tessaline/geometry_stream.h"
 #include "tessaline/placements.h"
 #include "tessaline/plants.h"
 #include "tessaline/transforms.h"
 
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -17,7 +18,7 @@
 struct mesh_head {
     std::string_view label;
     bool casts_shadows = true;
-    std::string groundcover_file; // empty: none
+    std::string_view groundcover_file; // empty: none
     int groundcover_orientation = -1;
     bool invisible = false;
     bool hide = false;
@@ -28,10 +29,19 @@ struct mesh_head {
 struct mesh_state {
     std::string_view layer_name;
     bool two_sided = false;
-    int pass = 1; // 1 front, 2 back
+    face_pass pass = face_pass::front;
     int front_material = 0;
     int back_material = 0;
     bool uses_uv = false;
+};
+
+// A face where the walk meets it.
+struct face_in_walk {
+    SUFaceRef face;
+    const transform16& matrix;   // from the face's list to the world, inches
+    bool flip;                   // the matrix mirrors
+    std::string_view layer_name; // the layer that the face counts as being on
+    bool casts_shadows;
 };
 
 class SketchUpReader {
@@ -98,6 +108,20 @@ public:
                           bool hide, bool invisible);
     void write_direct_light(std::string_view label, int lamp_number);
 
+    // face_meshing.cpp: which side of a face becomes which block, and what stands in it.
+    // Writes one face of the list that is being walked, on the parameter level that was pushed for it.
+    // matrix: from the list to the world, in inches. flip: the matrix mirrors. path: of the entities down to the face;
+    // without effect. Gives 1 when the face was handled, 0 when it was skipped.
+    int ProcessFace(SUFaceRef face, const transform16& matrix, bool flip, const std::string& path);
+    // The part of it that follows when the sides are known.
+    int write_face_sides(const face_in_walk& walked, const face_side& front, const face_side& back);
+
+    // material_numbers.cpp: the number of a face's side.
+    // kind: what asks, "face". has_texture: set, unless there is no material. not_affine, has_glow: set to true if the
+    // side's texture is distorted, if the material glows; never cleared. Gives 0 for no material, else 10 or above.
+    int get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front,
+                            bool& has_texture, bool& not_affine, bool& has_glow);
+
     geometry_stream stream; // closed until the run opens it; drops all lines while closed
 
     // Mesh block state.
@@ -111,6 +135,9 @@ public:
     bool beam_pass_wanted = false;  // the current lamp is of the type "spot_beams"
     bool beam_pass_running = false; // its entities are being walked a second time
     int ilights_saved = 0;          // number of the next lamp
+
+    // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
+    face_scratch scratch;
 
     // Progress and model facts.
     int total_items = 0;
@@ -142,7 +169,16 @@ private:
     void walk_beams(const placement_walk& walk, std::string& path);
 
     // placements.cpp
-    placement_decision enter_level(const placement_walk& walk, bool invisible);
     bool writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
                          const transform16& transform);
+
+    // face_meshing.cpp
+    void leave_illum_mesh();
+    bool begins_face_lamp() const;
+    void begin_face_lamp(const transform16& matrix);
+    void end_face_lamp(SUFaceRef face);
+    bool write_face_pass(const face_in_walk& walked, const face_plan& plan, face_pass pass, bool face_lamp);
+    void begin_face_pass(const face_in_walk& walked, const face_plan& plan, face_pass pass);
+    void write_face_vertices(const transform16& matrix, const face_plan& plan, face_pass pass, const uv_helper& uv);
+    void write_face_triangles(bool reversed);
 };
