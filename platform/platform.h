@@ -1,0 +1,237 @@
+#pragma once
+
+// What the program asks of the operating system. Names of files and folders are plain bytes in the platform's own
+// multi-byte encoding (UTF-8 on POSIX, the ANSI code page on Windows) and travel unchanged. Nothing here throws but for
+// lack of memory; every failure is a result.
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+// ---- paths
+
+#ifdef _WIN32
+inline constexpr char path_separator = '\\';
+inline constexpr bool has_drive_letters = true; // names follow the rules for drives and network shares
+inline constexpr std::string_view last_resort_temporary_folder = "c:\\tmp";
+inline constexpr bool lives_on_the_console = false; // asks and tells in windows
+#else
+inline constexpr char path_separator = '/';
+inline constexpr bool has_drive_letters = false;
+inline constexpr std::string_view last_resort_temporary_folder = "/tmp";
+inline constexpr bool lives_on_the_console = true; // asks and tells on the terminal that started it
+#endif
+
+// ---- the process (process.cpp)
+
+// The command line as one text: the arguments joined by one blank, each that is empty or holds a blank put in double
+// quotation marks. argv: argc texts, the program's own path first. On Windows the arguments are ignored: the system
+// keeps the text as it was typed.
+std::string raw_command_line(int argc, const char* const* argv);
+
+// Full path of the running program; empty if the system does not tell.
+std::string program_path();
+
+// Bytes of physical memory that the process occupies now; 0 if the system does not tell.
+std::uint64_t working_set_bytes();
+
+// Value of an environment variable; nothing if it is not set. A variable set to an empty text gives the empty text.
+std::optional<std::string> environment_variable(const std::string& name);
+
+// Network name of the computer as the system spells it; empty if it has none.
+std::string computer_name();
+
+// What the system says about its own version. On a system that is not Windows `description` holds a readable text and
+// the numbers are 0; on Windows it is empty and the numbers are those of the system call.
+struct os_version {
+    std::string description;
+    int platform_id = 0;
+    int major = 0;
+    int minor = 0;
+    int build = 0;
+    std::string service_pack;
+};
+os_version system_version();
+
+// ---- the console (console.cpp)
+
+enum class standard_stream { input, output, error };
+bool is_terminal(standard_stream stream);
+
+// Writes the bytes at once and unchanged; a failure is ignored, since there is no other place to tell of it.
+void write_standard_output(std::string_view text);
+void write_standard_error(std::string_view text);
+
+// Text for developers: the debugger's output window on Windows; on POSIX the file that the environment variable
+// TESSALINE_TRACE names (each call appends to it and closes it, so that nothing is lost in a crash), standard error if
+// it is "-", nowhere if it is not set.
+void debug_output(std::string_view text);
+
+// Shows a text that the user must see and goes on when it has been read. POSIX: a line "title: text" on standard error,
+// or the text alone if the title is empty; nothing waits.
+void message_box(std::string_view title, std::string_view text);
+
+// ---- the progress window (progress.cpp)
+
+// The one window of a run. POSIX: a bar on standard error that redraws in place if that is a terminal; otherwise its
+// last state is written as one line when the window closes.
+class progress_window {
+public:
+    virtual ~progress_window() = default;
+    virtual void set_title(std::string_view title) = 0;
+    virtual void set_percent(int percent) = 0; // 0 to 100; drawn within the call
+    virtual void set_text(std::string_view text) = 0;
+};
+
+// Opens the window with that caption, runs `work` while it is open, and closes it. False if the window could not be
+// opened; `work` has not run then.
+bool run_with_progress_window(std::string_view caption, const std::function<void(progress_window&)>& work);
+
+// ---- asking for a file (file_chooser.cpp)
+
+struct file_question {
+    std::string title;
+    std::string default_extension; // without the dot
+    std::string default_name;      // offered to the user
+    std::string filter;            // pairs of description and pattern, each closed by "|", the list closed by "|" again
+    bool asks_before_overwriting = false;
+};
+
+// Whether the user can be asked at all: always on Windows; on POSIX if standard input and error are terminals.
+bool can_ask_for_file();
+
+// The name that the user chose; nothing if the question was dismissed or cannot be asked. On a POSIX terminal the title
+// and the default name are shown and one line is read; an empty line takes the default name, end of input dismisses.
+std::optional<std::string> ask_for_file_to_open(const file_question& question);
+std::optional<std::string> ask_for_file_to_save(const file_question& question);
+
+// ---- known folders (known_folders.cpp); full names without a separator at the end, empty if the system has none
+
+std::string home_folder();
+std::string user_config_folder(); // POSIX: XDG_CONFIG_HOME, else ~/.config; Windows: roaming application data
+std::string documents_folder();   // POSIX: XDG_DOCUMENTS_DIR, else ~/Documents
+std::string temporary_folder();   // POSIX: TMPDIR, else /tmp; may be missing on disk
+std::string current_folder();
+
+// ---- the file system (file_system.cpp)
+
+// All of these follow symbolic links unless told otherwise, and answer "no" for a name that cannot be examined.
+bool exists(const std::string& name);
+bool is_folder(const std::string& name);
+bool is_symbolic_link(const std::string& name);                   // looks at the name itself
+std::optional<std::uint64_t> file_size(const std::string& name);  // bytes; nothing for what is no plain file
+std::optional<std::int64_t> modified_at(const std::string& name); // whole seconds since the epoch
+std::optional<std::string> real_name(const std::string& name);    // full name without links, "." and ".."
+// The name made full by putting the current folder in front. Doubled separators are folded to one; nothing else is
+// changed. The empty name stays empty.
+std::string absolute_name(const std::string& name);
+
+bool make_folder(const std::string& name); // the parent must exist; false also if the name is taken
+bool delete_file(const std::string& name); // a file or a link itself, never a folder
+bool rename_replacing(const std::string& from, const std::string& to); // atomic; an old file `to` is replaced
+
+struct folder_entry {
+    std::string name;       // without folder
+    bool is_folder = false; // false for a link, whatever it leads to
+    bool is_symbolic_link = false;
+    std::uint64_t size = 0; // bytes; 0 for all but plain files
+};
+// The entries of a folder but "." and "..", sorted by the bytes of their names, so that the order in which a disk keeps
+// them reaches no output. Nothing if the folder cannot be read.
+std::optional<std::vector<folder_entry>> list_folder(const std::string& name);
+
+// ---- files (file.cpp)
+
+enum class open_mode {
+    read,   // must exist and be no folder
+    write,  // made or emptied
+    append, // made if missing, positioned at the end
+};
+
+// An open file of plain bytes: no buffer, no line ends changed. Where the system knows sharing modes, others may read
+// the file while it is open and may not write it.
+class file {
+public:
+    file() = default;
+    file(file&& other) noexcept;
+    file& operator=(file&& other) noexcept;
+    file(const file&) = delete;
+    file& operator=(const file&) = delete;
+    ~file();
+
+    // Closes what was open and opens another file. False on failure, with the system's words in failure().
+    bool open(const std::string& name, open_mode mode);
+    bool is_open() const { return handle != closed; }
+
+    // Reads up to `size` bytes, fewer only at the end of the file. Gives the number read; 0 at the end and on an error.
+    std::size_t read(void* buffer, std::size_t size);
+    // Writes all bytes, in as many steps as the system needs. False if not all could be written.
+    bool write_all(std::string_view bytes);
+    bool seek(std::uint64_t offset); // bytes from the start
+    // False if the system reports a late write error, or if the file was not open.
+    bool close();
+
+    // Why the last open failed, in the system's words; may be empty.
+    const std::string& failure() const { return failure_text; }
+
+private:
+    static constexpr std::intptr_t closed = -1;
+    std::intptr_t handle = closed;
+    std::string failure_text;
+};
+
+// The whole file. Nothing if it cannot be opened, is no plain file, or has more than `limit` bytes.
+std::optional<std::vector<std::byte>> read_file(const std::string& name, std::uint64_t limit);
+
+// ---- the clock (clock.cpp)
+
+double seconds_since_epoch(); // with milliseconds
+
+// The moment that a run writes into its output: SOURCE_DATE_EPOCH if that holds a whole number, else now. Seconds since
+// the epoch. Whatever puts a date into a file asks here.
+std::int64_t run_date();
+
+// run_date() as `strftime` forms it. Local time; UTC if SOURCE_DATE_EPOCH fixes the date, so that the text does not
+// depend on where the machine stands.
+std::string run_date_text(const std::string& strftime_format);
+
+// Any moment as `strftime` forms it, in local time. Empty for a moment that the calendar cannot hold.
+std::string local_time_text(std::int64_t seconds, const std::string& strftime_format);
+
+// ---- the registry (registry.cpp)
+
+enum class registry_hive { local_machine, current_user };
+
+struct registry_answer {
+    bool key_found = false;
+    bool value_found = false;
+    std::uint32_t type = 0;      // the system's code: 1 text, 3 binary, 4 a 32-bit number
+    std::vector<std::byte> data; // as stored; a text ends in a zero byte
+};
+
+class registry {
+public:
+    virtual ~registry() = default;
+    virtual registry_answer read(registry_hive hive, const std::string& key, const std::string& value_name) = 0;
+    virtual bool has_key(registry_hive hive, const std::string& key) = 0;
+    virtual bool make_key(registry_hive hive, const std::string& key) = 0; // the parent key must exist
+    virtual bool write_text(registry_hive hive, const std::string& key, const std::string& value_name,
+                            const std::string& value) = 0;
+};
+
+// The system's registry; one that holds no key and takes none where the system has no such thing.
+std::unique_ptr<registry> system_registry();
+
+// ---- the clipboard (clipboard.cpp)
+
+enum class clipboard_result { done, no_memory, cannot_open, cannot_put };
+clipboard_result set_clipboard_text(const std::string& text); // cannot_open where there is no clipboard
+
+} // namespace platform

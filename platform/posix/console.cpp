@@ -1,0 +1,73 @@
+// Text for the user and for developers, where there are no windows.
+
+#include "platform/platform.h"
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+int descriptor_of(standard_stream stream) {
+    switch (stream) {
+    case standard_stream::input:
+        return STDIN_FILENO;
+    case standard_stream::output:
+        return STDOUT_FILENO;
+    case standard_stream::error:
+        return STDERR_FILENO;
+    }
+    return STDERR_FILENO;
+}
+
+void write_standard(standard_stream stream, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t written = write(descriptor_of(stream), text.data(), text.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return;
+        text.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+} // namespace
+
+bool is_terminal(standard_stream stream) {
+    return isatty(descriptor_of(stream)) == 1;
+}
+
+void write_standard_output(std::string_view text) {
+    write_standard(standard_stream::output, text);
+}
+
+void write_standard_error(std::string_view text) {
+    write_standard(standard_stream::error, text);
+}
+
+void debug_output(std::string_view text) {
+    const auto target = environment_variable("TESSALINE_TRACE");
+    if (!target || target->empty())
+        return;
+    if (*target == "-") {
+        write_standard_error(text);
+        return;
+    }
+    file output;
+    if (output.open(*target, open_mode::append))
+        output.write_all(text);
+}
+
+void message_box(std::string_view title, std::string_view text) {
+    std::string message(title);
+    if (!title.empty())
+        message += ": ";
+    message += text;
+    if (message.empty() || message.back() != '\n')
+        message += '\n';
+    write_standard_error(message);
+}
+
+} // namespace platform

@@ -1,0 +1,133 @@
+// Plain files over the system's descriptors.
+
+#include "platform/platform.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+// The kernel hands over at most this much in one call; a larger request is only cut.
+constexpr std::size_t largest_step = 0x7ffff000;
+
+int flags_of(open_mode mode) {
+    switch (mode) {
+    case open_mode::read:
+        return O_RDONLY;
+    case open_mode::write:
+        return O_WRONLY | O_CREAT | O_TRUNC;
+    case open_mode::append:
+        return O_WRONLY | O_CREAT | O_APPEND;
+    }
+    return O_RDONLY;
+}
+
+std::string words_for(int error) {
+    return std::generic_category().message(error);
+}
+
+// 0, or the error number that says why the descriptor is of no use: reading a folder opens without complaint.
+int error_of_folder(int descriptor) {
+    struct stat status;
+    if (fstat(descriptor, &status) != 0)
+        return errno;
+    return S_ISDIR(status.st_mode) ? EISDIR : 0;
+}
+
+} // namespace
+
+file::file(file&& other) noexcept
+    : handle(std::exchange(other.handle, closed)), failure_text(std::move(other.failure_text)) {}
+
+file& file::operator=(file&& other) noexcept {
+    if (this != &other) {
+        close();
+        handle = std::exchange(other.handle, closed);
+        failure_text = std::move(other.failure_text);
+    }
+    return *this;
+}
+
+file::~file() {
+    close();
+}
+
+bool file::open(const std::string& name, open_mode mode) {
+    close();
+    failure_text.clear();
+    int descriptor = -1;
+    do {
+        descriptor = ::open(name.c_str(), flags_of(mode) | O_CLOEXEC, 0666);
+    } while (descriptor < 0 && errno == EINTR);
+    if (descriptor < 0) {
+        failure_text = words_for(errno);
+        return false;
+    }
+    if (const int error = error_of_folder(descriptor)) {
+        failure_text = words_for(error);
+        ::close(descriptor);
+        return false;
+    }
+    handle = descriptor;
+    return true;
+}
+
+std::size_t file::read(void* buffer, std::size_t size) {
+    std::size_t total = 0;
+    while (is_open() && total < size) {
+        const ssize_t count =
+            ::read(static_cast<int>(handle), static_cast<char*>(buffer) + total, std::min(size - total, largest_step));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            break;
+        total += static_cast<std::size_t>(count);
+    }
+    return total;
+}
+
+bool file::write_all(std::string_view bytes) {
+    if (!is_open())
+        return false;
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(static_cast<int>(handle), bytes.data(), std::min(bytes.size(), largest_step));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+bool file::seek(std::uint64_t offset) {
+    return is_open() && lseek(static_cast<int>(handle), static_cast<off_t>(offset), SEEK_SET) >= 0;
+}
+
+bool file::close() {
+    if (!is_open())
+        return false;
+    const int descriptor = static_cast<int>(std::exchange(handle, closed));
+    // An interrupted close has released the descriptor all the same: trying again could close another file.
+    return ::close(descriptor) == 0 || errno == EINTR;
+}
+
+std::optional<std::vector<std::byte>> read_file(const std::string& name, std::uint64_t limit) {
+    const auto size = file_size(name);
+    file input;
+    if (!size || *size > limit || !input.open(name, open_mode::read))
+        return std::nullopt;
+    std::vector<std::byte> bytes(static_cast<std::size_t>(*size));
+    bytes.resize(input.read(bytes.data(), bytes.size())); // shorter if someone cut the file meanwhile
+    return bytes;
+}
+
+} // namespace platform

@@ -1,0 +1,112 @@
+// Names on the disk: what stands behind them, making and removing them.
+
+#include "platform/platform.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include <dirent.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+std::optional<struct stat> status_of(const std::string& name) {
+    struct stat status;
+    return stat(name.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+std::optional<struct stat> status_of_name_itself(const std::string& name) {
+    struct stat status;
+    return lstat(name.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+struct free_memory {
+    void operator()(char* memory) const { std::free(memory); }
+};
+
+struct close_folder {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
+
+} // namespace
+
+bool exists(const std::string& name) {
+    return status_of(name).has_value();
+}
+
+bool is_folder(const std::string& name) {
+    const auto status = status_of(name);
+    return status && S_ISDIR(status->st_mode);
+}
+
+bool is_symbolic_link(const std::string& name) {
+    const auto status = status_of_name_itself(name);
+    return status && S_ISLNK(status->st_mode);
+}
+
+std::optional<std::uint64_t> file_size(const std::string& name) {
+    const auto status = status_of(name);
+    if (!status || !S_ISREG(status->st_mode))
+        return std::nullopt;
+    return static_cast<std::uint64_t>(status->st_size);
+}
+
+std::optional<std::int64_t> modified_at(const std::string& name) {
+    const auto status = status_of(name);
+    return status ? std::optional<std::int64_t>(status->st_mtime) : std::nullopt;
+}
+
+std::optional<std::string> real_name(const std::string& name) {
+    const std::unique_ptr<char, free_memory> resolved(realpath(name.c_str(), nullptr));
+    return resolved ? std::optional<std::string>(resolved.get()) : std::nullopt;
+}
+
+std::string absolute_name(const std::string& name) {
+    if (name.empty())
+        return name;
+    std::string joined = name.front() == path_separator ? name : current_folder() + path_separator + name;
+    const auto both_separators = [](char a, char b) { return a == path_separator && b == path_separator; };
+    joined.erase(std::unique(joined.begin(), joined.end(), both_separators), joined.end());
+    return joined;
+}
+
+bool make_folder(const std::string& name) {
+    return mkdir(name.c_str(), 0777) == 0; // the user's mask takes its share
+}
+
+bool delete_file(const std::string& name) {
+    return unlink(name.c_str()) == 0;
+}
+
+bool rename_replacing(const std::string& from, const std::string& to) {
+    return std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+std::optional<std::vector<folder_entry>> list_folder(const std::string& name) {
+    const std::unique_ptr<DIR, close_folder> folder(opendir(name.c_str()));
+    if (!folder)
+        return std::nullopt;
+    std::vector<folder_entry> entries;
+    while (const dirent* const item = readdir(folder.get())) {
+        folder_entry entry;
+        entry.name = item->d_name;
+        if (entry.name == "." || entry.name == "..")
+            continue;
+        if (const auto status = status_of_name_itself(name + path_separator + entry.name)) {
+            entry.is_folder = S_ISDIR(status->st_mode);
+            entry.is_symbolic_link = S_ISLNK(status->st_mode);
+            entry.size = S_ISREG(status->st_mode) ? static_cast<std::uint64_t>(status->st_size) : 0;
+        }
+        entries.push_back(std::move(entry));
+    }
+    std::sort(entries.begin(), entries.end(),
+              [](const folder_entry& a, const folder_entry& b) { return a.name < b.name; });
+    return entries;
+}
+
+} // namespace platform
