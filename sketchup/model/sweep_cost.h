@@ -18,10 +18,10 @@ class sweep_cost {
 public:
     // A face of no more corners is cheap whatever its shape.
     static constexpr std::size_t always_cheap = 256;
-    // Crossings allowed for each corner.
+    // Crossings and pairs of lines upon each other allowed for each corner.
     static constexpr std::size_t most_crossings = 8;
-    // Pairs of lines side by side in the sweep; the tessellator needs about ten seconds for as many.
-    static constexpr std::size_t most_pairs = 1'000'000'000;
+    // Pairs of lines side by side in the sweep; the tessellator needs about two seconds for as many.
+    static constexpr std::size_t most_pairs = 200'000'000;
 
     // points, loop_sizes: as in tessellator; all finite.
     bool is_bearable(std::span<const vec3> points, std::span<const std::uint32_t> loop_sizes, const vec3& normal);

@@ -57,6 +57,39 @@ TEST(SweepCost, lines_that_only_meet_at_corners_do_not_cross) {
     EXPECT_TRUE(is_bearable(fan));
 }
 
+TEST(SweepCost, lines_that_lie_upon_each_other_in_heaps_are_not_bearable) {
+    std::vector<vec3> heap;
+    for (int i = 0; i < 1000; ++i) {
+        heap.push_back({0, double((i * 7919) % 1000), 0});
+    }
+    EXPECT_FALSE(is_bearable(heap));
+}
+
+TEST(SweepCost, a_few_holes_joined_to_the_outline_by_doubled_lines_are_bearable) {
+    std::vector<vec3> notched = {{1000, -1, 0}, {1000, 1, 0}};
+    for (int i = 999; i > 0; --i) {
+        notched.push_back({double(i), 1, 0});
+        notched.push_back({double(i), 0.5, 0});
+        notched.push_back({double(i), 1, 0});
+    }
+    notched.push_back({0, -1, 0});
+    EXPECT_TRUE(is_bearable(notched));
+}
+
+// A thousand teeth are a million pairs.
+TEST(SweepCost, lines_side_by_side_are_bearable_until_there_are_too_many) {
+    for (const int teeth : {1000, 20'000}) {
+        std::vector<vec3> comb = {{-1, 0, 0}};
+        for (int i = 0; i < teeth; ++i) {
+            comb.push_back({0, 2.0 * i, 0});
+            comb.push_back({500, 2.0 * i + 0.5, 0});
+            comb.push_back({0, 2.0 * i + 1, 0});
+        }
+        comb.push_back({-1, 2.0 * teeth, 0});
+        EXPECT_EQ(is_bearable(comb), teeth == 1000);
+    }
+}
+
 TEST(SweepPlane, drops_the_longest_axis_of_the_normal_and_keeps_the_turning_sense) {
     const vec3 p{1, 2, 3};
     EXPECT_EQ(sweep_plane({0, 0, 1}).project(p), (sweep_point{1, 2}));
