@@ -26,7 +26,9 @@ std::optional<struct stat> status_of_name_itself(const std::string& name) {
 }
 
 struct free_memory {
-    void operator()(char* memory) const { std::free(memory); }
+    void operator()(char* memory) const {
+        std::free(memory);
+    } // NOLINT(cppcoreguidelines-owning-memory): it is the owner
 };
 
 struct close_folder {
