@@ -58,8 +58,8 @@ public:
     // Walks a list and all that it places: groups, instances, at depth 0 the scattered components, then faces, images,
     // edges and, at depth 0, section planes.
     // transform: from the list to the model, in inches; element 15 is 1. path: the ids of what encloses the list, each
-    // followed by "-"; grows and shrinks with the walk. depth: 0 at the top, where the bottom parameter record is pushed
-    // and stays. Always 1.
+    // followed by "-"; grows and shrinks with the walk. depth: 0 at the top, where the bottom parameter record is
+    // pushed and stays. Always 1.
     int ProcessEntities(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth);
     void advance_progress(); // one more item is done; the display moves every 100 items at most
 
