@@ -5,12 +5,17 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 struct CXMLOptions {
     std::array<bool, 7> switches{true, true, true, true, false, true, true}; // kept for the record; nothing reads them
     std::int64_t reading_started = 0;                                        // seconds since the epoch
     std::int64_t reading_ended = 0;
 };
+
+// The two values of extract_mode that a run can have.
+inline constexpr std::string_view usual_extract_mode = "Tessaline";
+inline constexpr std::string_view document_extract_mode = "QLW 3D PDF"; // the parent prepares a 3D document
 
 class CTessalineApp {
 public:
@@ -22,6 +27,16 @@ public:
     // Converts the model at input_path into the stream at output_path. The other two have no effect. Always true.
     bool run_conversion(std::string input_path, std::string program_folder, std::string output_path,
                         std::string progress_argument);
+
+    // The steps of InitInstance, each one decision; see there for their order.
+    void find_program_folder();
+    // Fills the paths and switches. An old stream at a path that was derived from the input is deleted.
+    void settle_paths_from(const std::string& command_line);
+    // Asks for what is still missing. False if the user gave none.
+    bool ask_for_missing_paths();
+    // False, with a report, if the input does not exist or the output is not known.
+    bool paths_are_usable() const;
+    void run_dialog();
 
     CXMLOptions xml_options;
     std::string model_path;                        // the input path of the conversion that runs

@@ -4,7 +4,6 @@
 
 CTessalineApp theApp;
 cl_skp_progress_dlg* progress_dialog = nullptr;
-cl_output_file extraction_log;
 
 SUModelRef open_model = SU_INVALID;
 SUTextureWriterRef texture_writer = SU_INVALID;
@@ -39,7 +38,6 @@ void reset_process() {
     begin_reading();
     theApp = CTessalineApp();
     progress_dialog = nullptr;
-    extraction_log.close();
     SUSetInvalid(open_model);
     SUSetInvalid(texture_writer);
     oparms_array.clear();

@@ -5,7 +5,6 @@
 // through every call would hide that there is exactly one of each. Nothing else in the program is mutable at namespace
 // scope, but for the settings table and the trace, which are one object each in their own room.
 
-#include "qlw/qlw_text_files.h"
 #include "sketchup/SketchUpAPI.h"
 #include "tessaline/attribute_record.h"
 #include "tessaline/edge_record.h"
@@ -29,10 +28,6 @@ extern CTessalineApp theApp;
 // The dialog that shows the run, null while there is none. Process-wide because the walk reports a percentage and
 // knows nothing of the dialog.
 extern cl_skp_progress_dlg* progress_dialog;
-
-// The log of what the walk met. Process-wide because a developer's build opens it from outside of the run. Nothing in
-// this program does, so the lines for it are normally not written.
-extern cl_output_file extraction_log;
 
 // ---- the open model; both invalid while no model is open
 

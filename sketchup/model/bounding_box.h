@@ -43,7 +43,8 @@ public:
     // The box of a group, component instance or image in the space of the list that holds it.
     box of_placement(const placement& p);
 
-    // The box of a section plane in the space of its list: plane_box with the box of that list.
+    // The box of a section plane in the space of its list: plane_box with the box of that list, which for a plane in no
+    // list is empty.
     box of_section_plane(const section_plane& s);
 
 private:
@@ -53,10 +54,10 @@ private:
     };
 
     box box_of_content(const entity_list& list);
-    void include_transformed(const entity_list& list, const transform& t, box& found);
-    void include_transformed_placements(const std::vector<index>& placements, const transform& t, box& found);
+    void include_placements(const entity_list& list, const transform& outer, box& found);
+    void include_placement(const placement& p, const transform& outer, box& found);
     bool spend(std::size_t visits);
-    const entity_list& list_of_section_plane(index section_plane);
+    const entity_list* list_of_section_plane(std::size_t section_plane);
 
     const model& model_;
     std::size_t visits_left_;

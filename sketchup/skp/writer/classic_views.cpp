@@ -2,7 +2,7 @@
 
 #include "sketchup/skp/writer/classic_bodies.h"
 
-#include "sketchup/skp/classic/rendering_option_fields.h"
+#include "sketchup/skp/classic/option_fields.h"
 
 #include <algorithm>
 
@@ -64,6 +64,45 @@ void write_scene(classic_output& c, const sketchup::scene& scene) {
     }
 }
 
+const sketchup::typed_value* find_option(const sketchup::rendering_options& options, std::string_view name) {
+    const auto found = std::find_if(options.values.begin(), options.values.end(),
+                                    [&](const sketchup::attribute& one) { return one.key == name; });
+    return found == options.values.end() ? nullptr : &found->value;
+}
+
+// The value of an option of that type; all zero if it is not set or of another type.
+template<class T>
+T option_value(const sketchup::rendering_options& options, const char* name) {
+    const sketchup::typed_value* value = name == nullptr ? nullptr : find_option(options, name);
+    const T* held = value == nullptr ? nullptr : std::get_if<T>(&value->data);
+    return held == nullptr ? T() : *held;
+}
+
+void write_option(object_archive& out, const option_field& field, const sketchup::rendering_options& options,
+                  const sketchup::shadow_info& shadows) {
+    switch (field.type) {
+    case option_type::integer:
+        out.u32(static_cast<std::uint32_t>(option_value<std::int64_t>(options, field.name)));
+        break;
+    case option_type::boolean:
+        out.boolean(option_value<bool>(options, field.name));
+        break;
+    case option_type::color:
+        out.rgba(option_value<sketchup::rgba>(options, field.name));
+        break;
+    case option_type::real:
+        out.f64(option_value<double>(options, field.name));
+        break;
+    case option_type::shadows:
+        out.boolean(shadows.display_shadows);
+        break;
+    case option_type::section_display:
+        out.u32((option_value<bool>(options, "DisplaySectionPlanes") ? section_planes_bit : 0) |
+                (option_value<bool>(options, "DisplaySectionCuts") ? section_cuts_bit : 0));
+        break;
+    }
+}
+
 } // namespace
 
 void write_camera(classic_output& c, const sketchup::camera& camera) {
@@ -93,17 +132,9 @@ void write_rendering_options(classic_output& c, const sketchup::rendering_option
     object_archive& out = c.out;
     write_entity(c, options);
     const int layout = out.number("CRenderingOptions");
-    for (const rendering_option_field& field : rendering_option_fields()) {
-        if (layout < field.since)
-            continue;
-        if (field.name == "DisplayShadows") {
-            out.boolean(shadows.display_shadows);
-            continue;
-        }
-        const auto known = std::find_if(options.values.begin(), options.values.end(),
-                                        [&](const sketchup::attribute& one) { return one.key == field.name; });
-        write_rendering_option(out, field, known == options.values.end() ? nullptr : &known->value);
-    }
+    for (const option_field& field : option_fields())
+        if (field.is_in(layout))
+            write_option(out, field, options, shadows);
 }
 
 void write_shadow_info(classic_output& c, const sketchup::shadow_info& info) {

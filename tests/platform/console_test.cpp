@@ -1,0 +1,85 @@
+#include "platform/platform.h"
+#include "tests/support/environment.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+std::string written_to_error(const std::function<void()>& action) {
+    testing::internal::CaptureStderr();
+    action();
+    return testing::internal::GetCapturedStderr();
+}
+
+TEST(MessageBox, prints_title_and_text_as_one_line) {
+    EXPECT_EQ(written_to_error([] { platform::message_box("sin", "/a/geometry.qlm"); }), "sin: /a/geometry.qlm\n");
+}
+
+TEST(MessageBox, prints_the_text_alone_without_a_title) {
+    EXPECT_EQ(written_to_error([] { platform::message_box("", "text\n"); }), "text\n");
+}
+
+TEST(MessageBox, prints_an_empty_line_for_nothing) {
+    EXPECT_EQ(written_to_error([] { platform::message_box("", ""); }), "\n");
+}
+
+TEST(DebugOutput, goes_nowhere_unless_it_is_asked_for) {
+    const with_environment unset("TESSALINE_TRACE", std::nullopt);
+    EXPECT_EQ(written_to_error([] { platform::debug_output("line\n"); }), "");
+}
+
+TEST(DebugOutput, goes_to_standard_error_for_a_minus_sign) {
+    const with_environment trace("TESSALINE_TRACE", "-");
+    EXPECT_EQ(written_to_error([] { platform::debug_output("line\n"); }), "line\n");
+}
+
+TEST(DebugOutput, is_appended_to_the_file_that_is_named) {
+    const temporary_folder folder;
+    const with_environment trace("TESSALINE_TRACE", folder / "trace.txt");
+    EXPECT_EQ(written_to_error([] {
+                  platform::debug_output("first\n");
+                  platform::debug_output("second\n");
+              }),
+              "");
+    EXPECT_EQ(folder.read("trace.txt"), "first\nsecond\n");
+}
+
+TEST(DebugOutput, is_lost_quietly_if_the_file_cannot_be_made) {
+    const temporary_folder folder;
+    const with_environment trace("TESSALINE_TRACE", folder / "missing/trace.txt");
+    EXPECT_EQ(written_to_error([] { platform::debug_output("line\n"); }), "");
+}
+
+TEST(Console, a_pipe_is_no_terminal) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    const int kept = dup(STDIN_FILENO);
+    dup2(ends[0], STDIN_FILENO);
+    EXPECT_FALSE(platform::is_terminal(platform::standard_stream::input));
+    EXPECT_FALSE(platform::can_ask_for_file());
+    EXPECT_FALSE(platform::ask_for_file_to_open({}).has_value());
+    EXPECT_FALSE(platform::ask_for_file_to_save({}).has_value());
+    dup2(kept, STDIN_FILENO);
+    for (const int descriptor : {ends[0], ends[1], kept})
+        close(descriptor);
+}
+
+TEST(Console, a_pseudo_terminal_is_a_terminal) {
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    if (terminal < 0 || grantpt(terminal) != 0 || unlockpt(terminal) != 0)
+        GTEST_SKIP() << "no pseudo terminal here";
+    const int inner = open(ptsname(terminal), O_RDWR | O_NOCTTY);
+    ASSERT_GE(inner, 0);
+    const int kept = dup(STDIN_FILENO);
+    dup2(inner, STDIN_FILENO);
+    EXPECT_TRUE(platform::is_terminal(platform::standard_stream::input));
+    dup2(kept, STDIN_FILENO);
+    for (const int descriptor : {terminal, inner, kept})
+        close(descriptor);
+}
+
+} // namespace

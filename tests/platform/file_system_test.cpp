@@ -1,0 +1,118 @@
+#include "platform/platform.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+TEST(FileSystem, tells_files_folders_and_links_apart) {
+    const temporary_folder folder;
+    const std::string file = folder.write("a.txt", "abc");
+    const std::string inner = folder.make_folder("inner");
+    std::filesystem::create_symlink("inner", folder / "link");
+    std::filesystem::create_symlink("nothing", folder / "broken");
+
+    EXPECT_TRUE(platform::exists(file));
+    EXPECT_FALSE(platform::is_folder(file));
+    EXPECT_TRUE(platform::is_folder(inner));
+    EXPECT_TRUE(platform::is_folder(folder / "link"));
+    EXPECT_TRUE(platform::is_symbolic_link(folder / "link"));
+    EXPECT_FALSE(platform::is_symbolic_link(inner));
+    EXPECT_FALSE(platform::exists(folder / "broken"));
+    EXPECT_TRUE(platform::is_symbolic_link(folder / "broken"));
+    EXPECT_FALSE(platform::exists(""));
+}
+
+TEST(FileSystem, gives_the_size_of_plain_files_only) {
+    const temporary_folder folder;
+    EXPECT_EQ(platform::file_size(folder.write("a.txt", "abc")), 3u);
+    EXPECT_FALSE(platform::file_size(folder.name()).has_value());
+    EXPECT_FALSE(platform::file_size(folder / "missing").has_value());
+}
+
+TEST(FileSystem, a_file_just_written_was_modified_now) {
+    const temporary_folder folder;
+    const auto modified = platform::modified_at(folder.write("a.txt", ""));
+    ASSERT_TRUE(modified.has_value());
+    EXPECT_NEAR(static_cast<double>(*modified), platform::seconds_since_epoch(), 5.0);
+    EXPECT_FALSE(platform::modified_at(folder / "missing").has_value());
+}
+
+TEST(FileSystem, lists_a_folder_in_the_order_of_the_names_without_the_dots) {
+    const temporary_folder folder;
+    folder.write("b.txt", "12345");
+    folder.write("B.txt", "");
+    folder.make_folder("c");
+    folder.write("a.txt", "");
+    std::filesystem::create_symlink("c", folder / "d");
+    const auto entries = platform::list_folder(folder.name());
+    ASSERT_TRUE(entries.has_value());
+    std::vector<std::string> seen;
+    for (const auto& entry : *entries)
+        seen.push_back(entry.name +
+                       (entry.is_folder          ? " folder"
+                        : entry.is_symbolic_link ? " link"
+                                                 : " file") +
+                       " " + std::to_string(entry.size));
+    EXPECT_THAT(seen, ElementsAre("B.txt file 0", "a.txt file 0", "b.txt file 5", "c folder 0", "d link 0"));
+}
+
+TEST(FileSystem, a_folder_that_is_missing_has_no_list_and_an_empty_one_an_empty_list) {
+    const temporary_folder folder;
+    EXPECT_FALSE(platform::list_folder(folder / "missing").has_value());
+    EXPECT_FALSE(platform::list_folder(folder.write("a.txt", "")).has_value());
+    ASSERT_TRUE(platform::list_folder(folder.make_folder("empty")).has_value());
+    EXPECT_TRUE(platform::list_folder(folder / "empty")->empty());
+}
+
+TEST(FileSystem, makes_one_folder_at_a_time) {
+    const temporary_folder folder;
+    EXPECT_FALSE(platform::make_folder(folder / "a/b"));
+    EXPECT_TRUE(platform::make_folder(folder / "a"));
+    EXPECT_FALSE(platform::make_folder(folder / "a"));
+    EXPECT_TRUE(platform::make_folder(folder / "a/b"));
+    EXPECT_TRUE(platform::is_folder(folder / "a/b"));
+}
+
+TEST(FileSystem, deletes_files_and_links_but_no_folders) {
+    const temporary_folder folder;
+    folder.write("inner/a.txt", "");
+    std::filesystem::create_symlink("inner", folder / "link");
+    EXPECT_TRUE(platform::delete_file(folder / "link"));
+    EXPECT_FALSE(folder.has("link"));
+    EXPECT_TRUE(folder.has("inner/a.txt"));
+    EXPECT_FALSE(platform::delete_file(folder / "inner"));
+    EXPECT_TRUE(folder.has("inner"));
+    EXPECT_TRUE(platform::delete_file(folder / "inner/a.txt"));
+    EXPECT_FALSE(platform::delete_file(folder / "inner/a.txt"));
+}
+
+TEST(FileSystem, a_rename_replaces_the_old_file) {
+    const temporary_folder folder;
+    folder.write("new", "new text");
+    folder.write("old", "old text");
+    EXPECT_TRUE(platform::rename_replacing(folder / "new", folder / "old"));
+    EXPECT_EQ(folder.read("old"), "new text");
+    EXPECT_FALSE(folder.has("new"));
+    EXPECT_FALSE(platform::rename_replacing(folder / "new", folder / "old"));
+}
+
+TEST(FileSystem, an_absolute_name_folds_doubled_separators_and_changes_nothing_else) {
+    EXPECT_EQ(platform::absolute_name("//a///b\\c/../d/"), "/a/b\\c/../d/");
+    EXPECT_EQ(platform::absolute_name("x//y"), platform::current_folder() + "/x/y");
+    EXPECT_EQ(platform::absolute_name(""), "");
+}
+
+TEST(FileSystem, a_real_name_has_no_links_and_no_dots) {
+    const temporary_folder folder;
+    folder.make_folder("inner/deep");
+    std::filesystem::create_symlink("inner", folder / "link");
+    EXPECT_EQ(platform::real_name(folder / "link/deep/.."), platform::real_name(folder / "inner"));
+    EXPECT_FALSE(platform::real_name(folder / "missing").has_value());
+    EXPECT_FALSE(platform::real_name("").has_value());
+}
+
+} // namespace
