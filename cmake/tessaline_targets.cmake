@@ -58,6 +58,7 @@ function(tessaline_test name label)
   if(sources)
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE tessaline_flags ${test_LINK} GTest::gmock GTest::gtest_main)
+    target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
       PROPERTIES LABELS ${label} TIMEOUT 600)
   endif()

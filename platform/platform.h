@@ -21,10 +21,12 @@ namespace platform {
 inline constexpr char path_separator = '\\';
 inline constexpr bool has_drive_letters = true; // names follow the rules for drives and network shares
 inline constexpr std::string_view last_resort_temporary_folder = "c:\\tmp";
+inline constexpr bool lives_on_the_console = false; // asks and tells in windows
 #else
 inline constexpr char path_separator = '/';
 inline constexpr bool has_drive_letters = false;
 inline constexpr std::string_view last_resort_temporary_folder = "/tmp";
+inline constexpr bool lives_on_the_console = true; // asks and tells on the terminal that started it
 #endif
 
 // ---- the process (process.cpp)

@@ -10,8 +10,9 @@
 
 namespace skp {
 
-// Reads the whole body of a classic file, to its last byte, into an empty model. bytes: the whole file; pictures keep it
-// alive instead of copying their part. Throws format_error.
-void read_classic(std::shared_ptr<const std::vector<std::uint8_t>> bytes, const file_header& header, sketchup::model& m);
+// Reads the whole body of a classic file, to its last byte, into an empty model. bytes: the whole file; pictures keep
+// it alive instead of copying their part. Throws format_error.
+void read_classic(std::shared_ptr<const std::vector<std::uint8_t>> bytes, const file_header& header,
+                  sketchup::model& m);
 
 } // namespace skp

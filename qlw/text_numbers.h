@@ -1,0 +1,21 @@
+#pragma once
+
+// Numbers read from text and written as text, in the same way on every platform and in every locale.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The decimal number at the start of the text, behind white space and one sign; 0 if there is none. What follows the
+// digits is ignored. The digits are read as an unsigned number of 32 bits: 4294967295 gives -1, and so does any number
+// above it; a minus sign then negates.
+std::int32_t decimal_value(std::string_view text);
+
+// The number at the start of the text, as the C library reads a double; 0 if there is none.
+double double_value(std::string_view text);
+
+// "%d".
+std::string integer_text(std::int32_t number);
+
+// "%.9g".
+std::string number_text(double number);

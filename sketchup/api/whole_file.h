@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace sketchup::api {
+
+// The bytes of a file; nothing if it is missing, a folder, unreadable or longer than memory can hold.
+std::optional<std::vector<std::uint8_t>> read_whole_file(const std::string& path);
+
+// Writes a file anew. False, and no file is left, if that fails.
+bool write_whole_file(const std::string& path, const std::vector<std::uint8_t>& bytes);
+
+} // namespace sketchup::api

@@ -1,0 +1,196 @@
+// What belongs to the model as a whole while it is being built: definitions, layers, materials, scenes, attributes.
+
+#include "sketchup/model/model_builder.h"
+
+#include <array>
+#include <stdexcept>
+
+namespace sketchup {
+
+namespace {
+
+constexpr std::string_view material_prefix = "Layer_"; // the program names a layer's private material so
+
+// The number that the classic container gives a picture format, from the first bytes of the file.
+std::uint32_t format_of(const std::vector<std::uint8_t>& bytes) {
+    const auto begins = [&](std::initializer_list<int> signature) {
+        std::size_t i = 0;
+        for (const int byte : signature)
+            if (i >= bytes.size() || bytes[i++] != byte)
+                return false;
+        return true;
+    };
+    if (begins({0xFF, 0xD8, 0xFF}))
+        return 1;
+    if (begins({'B', 'M'}))
+        return 2;
+    if (begins({'I', 'I', 42, 0}) || begins({'M', 'M', 0, 42}))
+        return 3;
+    return begins({0x89, 'P', 'N', 'G'}) ? 4 : 0;
+}
+
+} // namespace
+
+model_builder::model_builder() : model_(std::make_unique<sketchup::model>()) {
+    model_->version = {17, 0, 1};
+    model_->camera.eye = {100, -100, 100};
+    layer("Layer0");
+}
+
+list_builder model_builder::component(std::string_view name) {
+    return {*this, add_definition(name, definition_kind::component)};
+}
+
+index model_builder::image_definition(std::vector<std::uint8_t> picture_file, std::string_view file_name,
+                                      double pixels_wide, double pixels_high) {
+    const index made =
+        add_definition("Image#" + std::to_string(model_->definitions.size() + 1), definition_kind::image);
+    sketchup::material painted;
+    painted.name = file_name;
+    painted.type = material_type::textured;
+    painted.is_private = true;
+    painted.texture = add_texture(add_picture(std::move(picture_file), file_name), file_name, pixels_wide, pixels_high);
+    const index material_at = add(model_->materials, std::move(painted));
+    list_builder content(*this, made);
+    const entity_place rectangle =
+        content.face({{0, 0, 0}, {pixels_wide, 0, 0}, {pixels_wide, pixels_high, 0}, {0, pixels_high, 0}});
+    face(rectangle).material = material_at;
+    face(rectangle).back_material = material_at;
+    return made;
+}
+
+index model_builder::layer(std::string_view name, bool visible, rgba color) {
+    sketchup::material shown;
+    shown.name = std::string(material_prefix) + std::string(name);
+    shown.color = color;
+    shown.is_private = true;
+    sketchup::layer made;
+    made.name = name;
+    made.hidden = !visible;
+    made.material = add(model_->materials, std::move(shown));
+    return add(model_->layers, std::move(made));
+}
+
+index model_builder::material(std::string_view name, rgba color, double opacity) {
+    sketchup::material made;
+    made.name = name;
+    made.color = color;
+    made.transparency = 1 - opacity;
+    made.use_transparency = opacity < 1;
+    const index at = add(model_->materials, std::move(made));
+    model_->listed_materials.push_back(at);
+    return at;
+}
+
+index model_builder::textured_material(std::string_view name, std::vector<std::uint8_t> picture_file,
+                                       std::string_view file_name, double tile_width, double tile_height) {
+    const index at = material(name, {128, 128, 128, 0});
+    const index picture_at = add_picture(std::move(picture_file), file_name);
+    model_->materials[at].texture = add_texture(picture_at, file_name, tile_width, tile_height);
+    model_->materials[at].type = material_type::textured;
+    return at;
+}
+
+index model_builder::scene(std::string_view name, bool active) {
+    sketchup::scene made;
+    made.name = name;
+    const index at = add(model_->scenes, std::move(made));
+    if (active)
+        model_->active_scene = at;
+    return at;
+}
+
+void model_builder::attribute(entity_place owner, std::string_view dictionary, std::string_view key,
+                              typed_value value) {
+    std::vector<attribute_dictionary>& all = dictionaries_[owner];
+    for (attribute_dictionary& one : all)
+        if (one.name == dictionary) {
+            one.entries.push_back({std::string(key), std::move(value)});
+            return;
+        }
+    attribute_dictionary& made = all.emplace_back();
+    made.id = model_->give_id();
+    made.name = dictionary;
+    made.entries.push_back({std::string(key), std::move(value)});
+}
+
+entity_list& model_builder::list_of(index definition) {
+    return definition == no_index ? model_->root : model_->definitions[definition].entities;
+}
+
+entity& model_builder::entity_at(entity_place where) {
+    switch (where.kind) {
+    case entity_kind::entities:
+        return where.at == no_index ? static_cast<entity&>(model_->root) : model_->definitions[where.at];
+    case entity_kind::component_definition:
+        return model_->definitions[where.at];
+    case entity_kind::layer:
+        return model_->layers[where.at];
+    case entity_kind::material:
+        return model_->materials[where.at];
+    case entity_kind::vertex:
+        return model_->vertices[where.at];
+    default:
+        return element(where);
+    }
+}
+
+drawing_element& model_builder::element(entity_place where) {
+    switch (where.kind) {
+    case entity_kind::face:
+        return model_->faces[where.at];
+    case entity_kind::edge:
+        return model_->edges[where.at];
+    case entity_kind::section_plane:
+        return model_->section_planes[where.at];
+    case entity_kind::group:
+    case entity_kind::component_instance:
+    case entity_kind::image:
+        return model_->placements[where.at];
+    default:
+        throw std::invalid_argument("a place that is no drawing element");
+    }
+}
+
+index model_builder::add_definition(std::string_view name, definition_kind kind) {
+    component_definition made;
+    made.what = kind;
+    made.name = name;
+    return add(model_->definitions, std::move(made));
+}
+
+index model_builder::add_picture(std::vector<std::uint8_t> picture_file, std::string_view file_name) {
+    picture made;
+    made.name = file_name;
+    made.format = format_of(picture_file);
+    made.load = [bytes = std::make_shared<const std::vector<std::uint8_t>>(std::move(picture_file))] { return *bytes; };
+    model_->pictures.push_back(std::move(made));
+    return static_cast<index>(model_->pictures.size() - 1);
+}
+
+index model_builder::add_texture(index picture, std::string_view file_name, double tile_width, double tile_height) {
+    texture made;
+    made.picture = picture;
+    made.file_name = file_name;
+    made.width = tile_width;
+    made.height = tile_height;
+    return add(model_->textures, std::move(made));
+}
+
+std::unique_ptr<sketchup::model> model_builder::finish() {
+    for (auto& [owner, dictionaries] : dictionaries_) {
+        const index_range range{static_cast<index>(model_->dictionaries.size()),
+                                static_cast<index>(dictionaries.size())};
+        entity_at(owner).dictionaries = range;
+        if (owner.kind == entity_kind::entities && owner.at != no_index)
+            model_->definitions[owner.at].entities.dictionaries = range;
+        for (attribute_dictionary& one : dictionaries)
+            model_->dictionaries.push_back(std::move(one));
+    }
+    dictionaries_.clear();
+    vertices_.clear();
+    edges_.clear();
+    return std::move(model_);
+}
+
+} // namespace sketchup

@@ -1,0 +1,147 @@
+// The nesting of a model: components with their entity lists, definitions, and what places them.
+
+#include "sketchup/skp/classic/model_reader.h"
+
+#include <algorithm>
+#include <array>
+
+namespace skp {
+namespace {
+
+sketchup::transform read_transform(archive& in) {
+    std::array<double, 13> numbers{};
+    for (double& n : numbers)
+        n = in.f64();
+    return sketchup::transform_from_file(numbers);
+}
+
+sketchup::guid read_guid(archive& in) {
+    sketchup::guid id{};
+    std::ranges::copy(in.bytes(id.size()), id.begin());
+    return id;
+}
+
+constexpr class_set placements = {object_class::component_instance, object_class::group, object_class::image};
+
+// The list of its kind that an element of an entity list joins.
+std::vector<sketchup::index>& list_of(sketchup::entity_list& list, object_class what) {
+    switch (what) {
+    case object_class::edge:
+        return list.edges;
+    case object_class::face:
+        return list.faces;
+    case object_class::group:
+        return list.groups;
+    case object_class::component_instance:
+        return list.instances;
+    case object_class::image:
+        return list.images;
+    case object_class::section_plane:
+        return list.section_planes;
+    default:
+        return list.annotations;
+    }
+}
+
+} // namespace
+
+// CComponent. A definition's own materials, layers and definitions are read for the slots they take; it has none of
+// use.
+void model_reader::read_component(sketchup::drawing_element& base, sketchup::entity_list& list, bool is_root) {
+    const reading here(in_, "CComponent");
+    list.id = m_.give_id();
+    read_drawing(base);
+    list.dictionaries = base.dictionaries;
+    list.persistent_id = base.persistent_id;
+    read_material_manager(is_root);
+    read_layer_manager(is_root);
+    read_definition_list(is_root);
+    read_entity_list(list);
+    read_relationships(list);
+    list.active_section_plane = ref(object_class::section_plane).place;
+}
+
+// CDefinitionList
+void model_reader::read_definition_list(bool is_root) {
+    const std::uint32_t count = list_count();
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const object definition = required_ref(object_class::component_definition);
+        if (is_root)
+            definition_order_.push_back(definition.place);
+    }
+}
+
+// The place in the list, not that of the body, gives the order: an edge may have come with a face before it.
+void model_reader::read_entity_list(sketchup::entity_list& list) {
+    const std::uint32_t count = list_count();
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const object element = ref(listed_classes);
+        if (!element.is_null())
+            list_of(list, element.what).push_back(element.place);
+    }
+}
+
+// CRelationshipMap
+void model_reader::read_relationships(sketchup::entity_list& list) {
+    list.glued = list_count();
+    for (std::uint32_t i = 0; i < list.glued; ++i)
+        required_ref(object_class::relationship);
+}
+
+// CRelationship: the second is glued to the first.
+void model_reader::read_relationship(std::uint32_t) {
+    skip_entity();
+    ref(placements | object_class::face);
+    ref(placements);
+}
+
+// CComponentDefinition
+void model_reader::read_component_definition(std::uint32_t slot) {
+    sketchup::component_definition d = begin(m_.definitions, slot);
+    read_component(d, d.entities, false);
+    d.guid = read_guid(in_);
+    d.name = in_.text();
+    d.description = in_.text();
+    d.path = in_.text();
+    d.time = in_.u32();
+    in_.boolean(); // modified
+    d.insertion_point = in_.v3();
+    d.behavior = read_component_behavior();
+    const std::uint32_t kind = in_.u32();
+    if (kind > static_cast<std::uint32_t>(sketchup::definition_kind::image))
+        in_.fail("unknown kind of definition " + std::to_string(kind));
+    d.what = static_cast<sketchup::definition_kind>(kind);
+    ref(object_class::thumbnail);
+    keep(m_.definitions, slot, d);
+}
+
+// CComponentBehavior
+sketchup::component_behavior model_reader::read_component_behavior() {
+    const reading here(in_, "CComponentBehavior");
+    const int number = layout_.component_behavior;
+    sketchup::component_behavior b;
+    skip_entity();
+    b.glues = number >= 3 && in_.boolean();
+    b.cuts_opening = in_.boolean();
+    b.snap_to = number >= 2 ? in_.u32() : 0;
+    const std::uint8_t camera = number >= 4 ? in_.u8() : 0;
+    b.always_faces_camera = (camera & 1) != 0;
+    b.shadow_faces_sun = (camera & 2) != 0;
+    b.no_scale_mask = number >= 5 ? in_.u32() : 0;
+    return b;
+}
+
+// CComponentInstance, CGroup, CImage. The definition may be introduced here.
+void model_reader::read_placement(std::uint32_t slot, sketchup::entity_kind kind) {
+    sketchup::placement p = begin(m_.placements, slot, kind);
+    p.locked = read_drawing(p).locked;
+    p.definition = required_ref(object_class::component_definition).place;
+    p.transform = read_transform(in_);
+    if (layout_.component_instance >= 4)
+        p.name = in_.text();
+    if (layout_.component_instance >= 5)
+        p.guid = read_guid(in_);
+    keep(m_.placements, slot, p);
+}
+
+} // namespace skp

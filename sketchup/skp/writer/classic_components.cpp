@@ -1,0 +1,134 @@
+// Entity lists, definitions and placements in the classic container.
+
+#include "sketchup/skp/writer/classic_bodies.h"
+
+namespace skp {
+
+using sketchup::index;
+using sketchup::no_index;
+
+namespace {
+
+void mention_definition(classic_output& c, index definition);
+
+std::string_view class_of_placement(sketchup::entity_kind kind) {
+    switch (kind) {
+    case sketchup::entity_kind::group:
+        return "CGroup";
+    case sketchup::entity_kind::image:
+        return "CImage";
+    default:
+        return "CComponentInstance";
+    }
+}
+
+void mention_placement(classic_output& c, index placement) {
+    object_archive& out = c.out;
+    const sketchup::placement& p = c.model.placements[placement];
+    out.object(class_of_placement(p.kind), &p, [&] {
+        write_drawing_element(c, p, false, false, p.locked);
+        mention_definition(c, p.definition);
+        for (const double number : sketchup::transform_to_file(p.transform))
+            out.f64(number);
+        const int layout = out.number("CComponentInstance");
+        if (layout >= 4)
+            out.str(p.name);
+        if (layout >= 5)
+            out.raw(p.guid);
+    });
+}
+
+void mention_section_plane(classic_output& c, index section_plane) {
+    object_archive& out = c.out;
+    const sketchup::section_plane* p = section_plane == no_index ? nullptr : &c.model.section_planes[section_plane];
+    out.object("CSectionPlane", p, [&] {
+        write_drawing_element(c, *p);
+        for (const double number : {p->plane.a, p->plane.b, p->plane.c, p->plane.d})
+            out.f64(number);
+        if (out.number("CSectionPlane") >= 3) {
+            out.str(p->name);
+            out.str(p->symbol);
+        }
+    });
+}
+
+void write_entities(classic_output& c, const sketchup::entity_list& list) {
+    c.out.size(list.faces.size() + list.edges.size() + list.groups.size() + list.instances.size() + list.images.size() +
+               list.section_planes.size());
+    for (const index face : list.faces)
+        mention_face(c, face);
+    for (const index edge : list.edges)
+        mention_edge(c, edge);
+    for (const std::vector<index>* placements : {&list.groups, &list.instances, &list.images})
+        for (const index placement : *placements)
+            mention_placement(c, placement);
+    for (const index plane : list.section_planes)
+        mention_section_plane(c, plane);
+}
+
+void write_materials(classic_output& c, bool is_root) {
+    object_archive& out = c.out;
+    write_plain_entity(c);
+    out.size(is_root ? c.model.listed_materials.size() : 0);
+    if (is_root)
+        for (const index material : c.model.listed_materials)
+            mention_material(c, material);
+    out.null(); // the paint tool's material
+}
+
+void write_definition(classic_output& c, const sketchup::component_definition& d) {
+    object_archive& out = c.out;
+    write_component(c, d.entities, d.dictionaries, d.persistent_id, false);
+    out.raw(d.guid);
+    out.str(d.name);
+    out.str(d.description);
+    out.str(d.path);
+    out.u32(d.time);
+    out.boolean(false); // modified
+    out.v3(d.insertion_point);
+    write_behavior(c, d.behavior);
+    out.u32(static_cast<std::uint32_t>(d.what));
+    out.null(); // thumbnail
+}
+
+void mention_definition(classic_output& c, index definition) {
+    const sketchup::component_definition& d = c.model.definitions[definition];
+    c.out.object("CComponentDefinition", &d, [&] { write_definition(c, d); });
+}
+
+} // namespace
+
+void write_component(classic_output& c, const sketchup::entity_list& list, sketchup::index_range dictionaries,
+                     std::int64_t persistent_id, bool is_root) {
+    object_archive& out = c.out;
+    sketchup::drawing_element own(sketchup::entity_kind::entities);
+    own.dictionaries = dictionaries;
+    own.persistent_id = persistent_id;
+    write_drawing_element(c, own);
+    write_materials(c, is_root);
+    if (is_root)
+        write_layer_manager(c);
+    else
+        write_definition_layers(c);
+    out.size(is_root ? c.model.definitions.size() : 0);
+    if (is_root)
+        for (index i = 0; i < c.model.definitions.size(); ++i)
+            mention_definition(c, i);
+    write_entities(c, list);
+    out.size(0); // relationships
+    mention_section_plane(c, list.active_section_plane);
+}
+
+void write_behavior(classic_output& c, const sketchup::component_behavior& behavior) {
+    object_archive& out = c.out;
+    const int layout = out.number("CComponentBehavior");
+    write_plain_entity(c);
+    out.boolean(behavior.glues);
+    out.boolean(behavior.cuts_opening);
+    out.u32(behavior.snap_to);
+    out.u8(static_cast<std::uint8_t>((behavior.always_faces_camera ? 1U : 0U) | (behavior.shadow_faces_sun ? 2U : 0U)));
+    if (layout >= 5)
+        out.u32(behavior.no_scale_mask);
+}
+
+} // namespace skp

@@ -1,0 +1,180 @@
+// Camera, scenes, sun and rendering options in the classic container.
+
+#include "sketchup/skp/writer/classic_bodies.h"
+
+#include "sketchup/skp/classic/option_fields.h"
+
+#include <algorithm>
+
+namespace skp {
+
+using sketchup::index;
+using sketchup::no_index;
+
+namespace {
+
+// The bits of a scene's flags and what each stands for.
+constexpr std::uint32_t keeps_camera = 1;
+constexpr std::uint32_t keeps_rendering_options = 2;
+constexpr std::uint32_t keeps_shadow_info = 4;
+constexpr std::uint32_t keeps_hidden_layers = 32;
+constexpr std::uint32_t keeps_section_planes = 64;
+
+std::uint32_t flags_of(const sketchup::scene& scene) {
+    return (scene.camera != no_index ? keeps_camera : 0) | (scene.rendering_options ? keeps_rendering_options : 0) |
+           (scene.shadow_info ? keeps_shadow_info : 0) | (scene.hidden_layers.empty() ? 0 : keeps_hidden_layers) |
+           (scene.active_section_planes.empty() ? 0 : keeps_section_planes);
+}
+
+void write_scene(classic_output& c, const sketchup::scene& scene) {
+    object_archive& out = c.out;
+    const int layout = out.number("CViewPage");
+    const std::uint32_t flags = flags_of(scene);
+    write_entity(c, scene);
+    out.str(scene.name);
+    out.str(scene.description);
+    out.u32(flags);
+    if (scene.camera != no_index)
+        out.object("CCamera", [&] { write_camera(c, c.model.cameras[scene.camera]); });
+    if (scene.rendering_options) {
+        write_rendering_options(c, *scene.rendering_options, scene.shadow_info.value_or(sketchup::shadow_info()));
+        out.null(); // style
+    }
+    if (scene.shadow_info) {
+        write_shadow_info(c, *scene.shadow_info);
+        out.boolean(scene.shadow_info->display_shadows);
+    }
+    if ((flags & keeps_hidden_layers) != 0) {
+        out.size(scene.hidden_layers.size());
+        for (const index layer : scene.hidden_layers)
+            out.object("CLayer", &c.model.layers[layer], [] {});
+    }
+    if ((flags & keeps_section_planes) != 0) {
+        out.size(scene.active_section_planes.size());
+        for (const index plane : scene.active_section_planes)
+            out.object("CSectionPlane", &c.model.section_planes[plane], [] {});
+    }
+    out.boolean(scene.in_slide_show);
+    out.f64(-1); // transition time: the default
+    out.f64(-1); // delay: the default
+    out.null();  // background
+    if (layout >= 12) {
+        out.boolean(false); // shows the background
+        out.boolean(false); // has a picture
+    }
+}
+
+const sketchup::typed_value* find_option(const sketchup::rendering_options& options, std::string_view name) {
+    const auto found = std::find_if(options.values.begin(), options.values.end(),
+                                    [&](const sketchup::attribute& one) { return one.key == name; });
+    return found == options.values.end() ? nullptr : &found->value;
+}
+
+// The value of an option of that type; all zero if it is not set or of another type.
+template<class T>
+T option_value(const sketchup::rendering_options& options, const char* name) {
+    const sketchup::typed_value* value = name == nullptr ? nullptr : find_option(options, name);
+    const T* held = value == nullptr ? nullptr : std::get_if<T>(&value->data);
+    return held == nullptr ? T() : *held;
+}
+
+void write_option(object_archive& out, const option_field& field, const sketchup::rendering_options& options,
+                  const sketchup::shadow_info& shadows) {
+    switch (field.type) {
+    case option_type::integer:
+        out.u32(static_cast<std::uint32_t>(option_value<std::int64_t>(options, field.name)));
+        break;
+    case option_type::boolean:
+        out.boolean(option_value<bool>(options, field.name));
+        break;
+    case option_type::color:
+        out.rgba(option_value<sketchup::rgba>(options, field.name));
+        break;
+    case option_type::real:
+        out.f64(option_value<double>(options, field.name));
+        break;
+    case option_type::shadows:
+        out.boolean(shadows.display_shadows);
+        break;
+    case option_type::section_display:
+        out.u32((option_value<bool>(options, "DisplaySectionPlanes") ? section_planes_bit : 0) |
+                (option_value<bool>(options, "DisplaySectionCuts") ? section_cuts_bit : 0));
+        break;
+    }
+}
+
+} // namespace
+
+void write_camera(classic_output& c, const sketchup::camera& camera) {
+    object_archive& out = c.out;
+    out.v3(camera.eye);
+    out.v3(camera.target);
+    out.v3(camera.up);
+    out.f64(1);    // near
+    out.f64(1000); // far
+    out.boolean(camera.perspective);
+    out.f64(camera.field_of_view);
+    out.f64(camera.height);
+    out.v3({});
+    out.f64(camera.aspect);
+    out.boolean(camera.fov_is_vertical);
+    out.boolean(false);
+    out.str({});
+    out.f64(0); // image width
+    out.boolean(camera.two_dimensional);
+    out.f64(1); // scale and centre of the two-dimensional view
+    out.f64(0);
+    out.f64(0);
+}
+
+void write_rendering_options(classic_output& c, const sketchup::rendering_options& options,
+                             const sketchup::shadow_info& shadows) {
+    object_archive& out = c.out;
+    write_entity(c, options);
+    const int layout = out.number("CRenderingOptions");
+    for (const option_field& field : option_fields())
+        if (field.is_in(layout))
+            write_option(out, field, options, shadows);
+}
+
+void write_shadow_info(classic_output& c, const sketchup::shadow_info& info) {
+    object_archive& out = c.out;
+    write_entity(c, info);
+    out.u32(static_cast<std::uint32_t>(info.time));
+    out.boolean(info.daylight_saving);
+    out.str(info.city);
+    out.str(info.country);
+    out.f64(info.longitude);
+    out.f64(info.latitude);
+    out.f64(info.time_zone);
+    out.v3(info.north);
+    out.boolean(info.display_north);
+    out.boolean(info.display_on_all_faces);
+    out.boolean(info.display_on_ground);
+    out.boolean(info.edges_cast_shadows);
+    out.i32(info.light);
+    out.i32(info.dark);
+    out.boolean(info.use_sun_for_all_shading);
+}
+
+void write_axes(classic_output& c) {
+    object_archive& out = c.out;
+    write_drawing_element(c, sketchup::drawing_element(sketchup::entity_kind::entities));
+    out.v3({0, 0, 0});
+    out.v3({1, 0, 0});
+    out.v3({0, 1, 0});
+    out.v3({0, 0, 1});
+}
+
+void write_scenes(classic_output& c) {
+    object_archive& out = c.out;
+    const auto& scenes = c.model.scenes;
+    write_plain_entity(c);
+    out.size(scenes.size());
+    for (const sketchup::scene& scene : scenes)
+        out.object("CViewPage", &scene, [&] { write_scene(c, scene); });
+    const sketchup::scene* active = c.model.active_scene == no_index ? nullptr : &scenes[c.model.active_scene];
+    out.object("CViewPage", active, [] {});
+}
+
+} // namespace skp

@@ -1,0 +1,51 @@
+// The program: what the console forms answer at once, and the run itself.
+
+#include "platform/platform.h"
+#include "qlw/qlw_identity.h"
+#include "tessaline/run_state.h"
+#include "tessaline/usage.h"
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace {
+
+// Alone and unquoted the program's name would count as the output path; in quotation marks it is known for what it is.
+std::string command_line_of(int argc, char** argv) {
+    if (argc > 1)
+        return platform::raw_command_line(argc, argv);
+    return '"' + (argc == 1 ? std::string(argv[0]) : std::string()) + '"';
+}
+
+bool answers_at_once(std::string_view argument) {
+    if (argument == "--help") {
+        platform::write_standard_output(usage_text);
+        return true;
+    }
+    if (argument == "--version") {
+        platform::write_standard_output(std::string(application_name) + ' ' + TESSALINE_VERSION + '\n');
+        return true;
+    }
+    return false;
+}
+
+void report_end(std::string_view reason) {
+    platform::write_standard_error(std::string(application_name) + ": " + std::string(reason) + '\n');
+}
+
+} // namespace
+
+// The status is 0 whatever happens: a parent looks for the files, and a failed run leaves none.
+int main(int argc, char** argv) {
+    try {
+        if (argc == 2 && answers_at_once(argv[1]))
+            return 0;
+        theApp.InitInstance(command_line_of(argc, argv));
+    } catch (const std::exception& failure) {
+        report_end(failure.what());
+    } catch (const std::string& message) {
+        report_end(message); // a fatal report, which the user has seen already
+    }
+    return 0;
+}

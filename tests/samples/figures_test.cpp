@@ -1,0 +1,81 @@
+// What skp-dump tells of every sample against the figures of an independent reader.
+
+#include "tests/run_program.h"
+#include "tests/samples/expected_figures.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace {
+
+using nlohmann::json;
+
+constexpr double box_tolerance = 1e-4;   // inches
+constexpr double area_tolerance = 1e-6;  // relative
+constexpr double exact_tolerance = 1e-6; // figures are rounded to six decimals
+
+bool near(double found, double expected, double tolerance) {
+    return std::abs(found - expected) <= tolerance;
+}
+
+// The first difference between two values, with its place; empty if they agree.
+std::string difference(const json& found, const json& expected, const std::string& place) {
+    if (expected.is_object()) {
+        for (const auto& [key, value] : expected.items()) {
+            if (!found.contains(key))
+                return place + "." + key + " is missing";
+            const std::string inner = difference(found[key], value, place + "." + key);
+            if (!inner.empty())
+                return inner;
+        }
+        return found.size() == expected.size() ? "" : place + " has keys that are not expected: " + found.dump();
+    }
+    if (expected.is_array()) {
+        if (!found.is_array() || found.size() != expected.size())
+            return place + ": " + found.dump() + " instead of " + expected.dump();
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            const std::string inner = difference(found[i], expected[i], place + "[" + std::to_string(i) + "]");
+            if (!inner.empty())
+                return inner;
+        }
+        return "";
+    }
+    bool same = found == expected;
+    if (expected.is_number_float() && found.is_number()) {
+        const bool is_box = place.find("box") != std::string::npos;
+        const bool is_area = place.find("area") != std::string::npos;
+        const double wanted = expected.get<double>();
+        const double tolerance = is_box    ? box_tolerance
+                                 : is_area ? area_tolerance * std::max(1.0, std::abs(wanted))
+                                           : exact_tolerance;
+        same = near(found.get<double>(), wanted, tolerance);
+    }
+    return same ? "" : place + ": " + found.dump() + " instead of " + expected.dump();
+}
+
+class SampleFigures : public testing::TestWithParam<std::string> {};
+
+TEST_P(SampleFigures, agree_with_those_of_an_independent_reader) {
+    const json expected = expected_figures()[GetParam()];
+    const program_result run = run_program(shell_quoted(SKP_DUMP_PROGRAM) + " --json " +
+                                           shell_quoted(samples_folder() + GetParam()) + " 2>/dev/null");
+    const json found = json::parse(run.output);
+    ASSERT_EQ(found["opens"], expected["opens"]) << run.output;
+    ASSERT_EQ(run.status == 0, expected["opens"].get<bool>());
+    if (!expected["opens"].get<bool>())
+        return;
+    for (const auto& [key, value] : expected.items())
+        EXPECT_EQ(difference(found.value(key, json()), value, key), "");
+}
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(SampleFigures);
+INSTANTIATE_TEST_SUITE_P(Samples, SampleFigures, testing::ValuesIn(sample_names()),
+                         [](const auto& info) { return test_name_of(info.param); });
+
+TEST(SamplesFolder, is_there_for_the_tests_that_need_it) {
+    if (samples_folder().empty())
+        GTEST_SKIP() << "no folder of samples: set TESSALINE_SAMPLES to its name";
+    EXPECT_EQ(sample_names().size(), 138U);
+}
+
+} // namespace

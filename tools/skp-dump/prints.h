@@ -1,0 +1,19 @@
+#pragma once
+
+// The ways in which skp-dump shows a model; each prints to standard output.
+
+#include "sketchup/SketchUpAPI.h"
+
+#include <string>
+
+// Counts, sizes, layers and materials as lines of text.
+void print_summary(const std::string& file_name, SUModelRef model);
+
+// One JSON object on one line: "opens", "bytes", "container", "version", the counts, "layers", "materials",
+// "dictionaries", "scenes", and under "placed" and "written" what the model shows once flattened.
+void print_json(const std::string& file_name, SUModelRef model);
+// The object for a file that does not open: "opens" false, "why" the reason.
+void print_json_failure(const std::string& reason);
+
+// The hierarchy, one line an element, indented by depth, with names, layers, transforms and attributes.
+void print_tree(SUModelRef model);
