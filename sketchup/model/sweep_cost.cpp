@@ -4,15 +4,21 @@
 
 namespace sketchup {
 
-// Whether two lines cross at an inner point of both.
+// Whether two lines cross at an inner point of both or lie upon each other along more than a point.
 bool sweep_cost::cross(const line& a, const line& b) {
-    if (std::max(a.from.t, a.to.t) <= std::min(b.from.t, b.to.t) ||
-        std::max(b.from.t, b.to.t) <= std::min(a.from.t, a.to.t)) {
+    if (std::max(a.from.t, a.to.t) < std::min(b.from.t, b.to.t) ||
+        std::max(b.from.t, b.to.t) < std::min(a.from.t, a.to.t)) {
         return false;
     }
-    const bool a_parts_b = (turn(a.from, a.to, b.from) > 0) != (turn(a.from, a.to, b.to) > 0);
-    const bool b_parts_a = (turn(b.from, b.to, a.from) > 0) != (turn(b.from, b.to, a.to) > 0);
-    return a_parts_b && b_parts_a && a.from != b.from && a.from != b.to && a.to != b.from && a.to != b.to;
+    const double b_from = turn(a.from, a.to, b.from);
+    const double b_to = turn(a.from, a.to, b.to);
+    const double a_from = turn(b.from, b.to, a.from);
+    const double a_to = turn(b.from, b.to, a.to);
+    const bool on_one_line = b_from == 0 && b_to == 0 && a_from == 0 && a_to == 0;
+    const bool cross_inside = b_from != 0 && b_to != 0 && a_from != 0 && a_to != 0 && (b_from > 0) != (b_to > 0) &&
+                              (a_from > 0) != (a_to > 0);
+    // The caller has seen to it that the two stand beside each other in the sweep.
+    return on_one_line || cross_inside;
 }
 
 void sweep_cost::collect(std::span<const vec3> points, std::span<const std::uint32_t> loop_sizes,
@@ -46,7 +52,7 @@ bool sweep_cost::is_bearable(std::span<const vec3> points, std::span<const std::
             crossings += cross(entering, lines_[other]) ? 1 : 0;
         }
         pairs += active_.size();
-        if (crossings > most_crossings * points.size() || pairs > most_pairs) {
+        if (crossings > most_crossings * points.size() || pairs > most_pairs_) {
             return false;
         }
         active_.push_back(i);

@@ -57,6 +57,40 @@ TEST(SweepCost, lines_that_only_meet_at_corners_do_not_cross) {
     EXPECT_TRUE(is_bearable(fan));
 }
 
+TEST(SweepCost, lines_that_lie_upon_each_other_in_heaps_are_not_bearable) {
+    std::vector<vec3> heap;
+    for (int i = 0; i < 1000; ++i) {
+        heap.push_back({0, double((i * 7919) % 1000), 0});
+    }
+    EXPECT_FALSE(is_bearable(heap));
+}
+
+TEST(SweepCost, a_few_holes_joined_to_the_outline_by_doubled_lines_are_bearable) {
+    std::vector<vec3> notched = {{1000, -1, 0}, {1000, 1, 0}};
+    for (int i = 999; i > 0; --i) {
+        notched.push_back({double(i), 1, 0});
+        notched.push_back({double(i), 0.5, 0});
+        notched.push_back({double(i), 1, 0});
+    }
+    notched.push_back({0, -1, 0});
+    EXPECT_TRUE(is_bearable(notched));
+}
+
+// The 200 lines of the teeth are 200 · 199 / 2 = 19,900 pairs; with those between their feet there cannot be more than
+// 302 · 301 / 2 = 45,451.
+TEST(SweepCost, lines_side_by_side_are_bearable_until_there_are_too_many) {
+    std::vector<vec3> comb = {{-1, 0, 0}};
+    for (int i = 0; i < 100; ++i) {
+        comb.push_back({0, 2.0 * i, 0});
+        comb.push_back({500, 2.0 * i + 0.5, 0});
+        comb.push_back({0, 2.0 * i + 1, 0});
+    }
+    comb.push_back({-1, 200, 0});
+    const std::array<std::uint32_t, 1> sizes = {302};
+    EXPECT_TRUE(sweep_cost(45'451).is_bearable(comb, sizes, up));
+    EXPECT_FALSE(sweep_cost(19'800).is_bearable(comb, sizes, up));
+}
+
 TEST(SweepPlane, drops_the_longest_axis_of_the_normal_and_keeps_the_turning_sense) {
     const vec3 p{1, 2, 3};
     EXPECT_EQ(sweep_plane({0, 0, 1}).project(p), (sweep_point{1, 2}));
