@@ -4,32 +4,44 @@
 // the file that holds them.
 
 #include "sketchup/SketchUpAPI.h"
+#include "tessaline/face_mesh.h"
+#include "tessaline/face_sides.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/placements.h"
+#include "tessaline/plants.h"
 #include "tessaline/transforms.h"
 
-#include <span>
 #include <string>
 #include <string_view>
 
 // What a face passes to begin_mesh about its block.
 struct mesh_head {
-    std::string_view label;
+    std::string_view label{};
     bool casts_shadows = true;
-    std::string groundcover_file; // empty: none
+    std::string_view groundcover_file{}; // empty: none
     int groundcover_orientation = -1;
     bool invisible = false;
     bool hide = false;
-    std::string_view layer_name;
+    std::string_view layer_name{};
 };
 
 // What a pass of a face passes to write_mesh_state.
 struct mesh_state {
-    std::string_view layer_name;
+    std::string_view layer_name{};
     bool two_sided = false;
-    int pass = 1; // 1 front, 2 back
+    face_pass pass = face_pass::front;
     int front_material = 0;
     int back_material = 0;
     bool uses_uv = false;
+};
+
+// A face where the walk meets it.
+struct face_in_walk {
+    SUFaceRef face;
+    const transform16& matrix;   // from the face's list to the world, inches
+    bool flip;                   // the matrix mirrors
+    std::string_view layer_name; // the layer that the face counts as being on
+    bool casts_shadows;
 };
 
 class SketchUpReader {
@@ -37,6 +49,53 @@ public:
     // model_reading.cpp: the order of one reading.
     // Gives 1 when the run ended, -1 when the model could not be opened; nothing has been written then.
     int ReadSkpFile(const std::string& input_path, const std::string& output_path);
+
+    // counting.cpp: how many steps of progress the walk will report.
+    // Adds those of the list, and of all that it places, to items_done. Hidden content counts too. Always 1.
+    int CountEntities(SUEntitiesRef entities);
+
+    // traversal.cpp: the writing pass.
+    // Walks a list and all that it places: groups, instances, at depth 0 the scattered components, then faces, images,
+    // edges and, at depth 0, section planes.
+    // transform: from the list to the model, in inches; element 15 is 1. path: the ids of what encloses the list, each
+    // followed by "-"; grows and shrinks with the walk. depth: 0 at the top, where the bottom parameter record is
+    // pushed and stays. Always 1.
+    int ProcessEntities(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth);
+    void advance_progress(); // one more item is done; the display moves every 100 items at most
+
+    // placements.cpp: what decides whether a group or an instance is entered, and what its level says.
+    placement_decision enter_group(SUGroupRef group, placement_walk& walk);
+    placement_decision enter_instance(SUComponentInstanceRef instance, placement_walk& walk);
+    // Whether an element may be entered at all; invisible: its layer is off and only a lamp is let through.
+    bool is_let_in(SUDrawingElementRef element, SULayerRef layer, bool& invisible) const;
+    // Makes the level a lamp if its parameters say so. Gives whether a block was opened for it.
+    bool open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden);
+    void close_lamp(const transform16& transform);
+
+    // skatter_instances.cpp: components that a scattering tool has placed.
+    void process_skatter_instances();
+    void count_skatter_instances();
+
+    // views_and_sun.cpp: what is read ahead of the walk.
+    void read_sun();
+    void read_view();
+
+    // plants.cpp: components that stand for objects of the renderer's libraries.
+    void write_rpc(SUComponentInstanceRef instance, const rpc_description& rpc, const transform16& transform);
+    // instance: invalid for a scattered plant, whose layer is layer_text then.
+    void Write_Zyn_plant(SUComponentInstanceRef instance, const plant_description& plant, const transform16& transform,
+                         std::string_view layer_text);
+
+    // section_planes.cpp: which section planes clip the rendered scene.
+    // Gives 1 if the plane was written, else 0.
+    int process_section_plane(SUSectionPlaneRef plane);
+
+    // edge_lines.cpp: edges shown as lines.
+    int ProcessEdge(SUEdgeRef edge, const transform16& matrix, const std::string& path); // 1 if it was kept, else 0
+    void write_edge_lines();
+
+    // images.cpp: pictures placed in the model. Gives 1 if the picture was written, else 0.
+    int ProcessImage(SUImageRef image, const transform16& matrix, const std::string& path);
 
     // mesh_blocks.cpp: what opens and closes a block and what stands at its head.
     void begin_mesh(const mesh_head& head);
@@ -48,6 +107,20 @@ public:
     void begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material, int back_material,
                           bool hide, bool invisible);
     void write_direct_light(std::string_view label, int lamp_number);
+
+    // face_meshing.cpp: which side of a face becomes which block, and what stands in it.
+    // Writes one face of the list that is being walked, on the parameter level that was pushed for it.
+    // matrix: from the list to the world, in inches. flip: the matrix mirrors. path: of the entities down to the face;
+    // without effect. Gives 1 when the face was handled, 0 when it was skipped.
+    int ProcessFace(SUFaceRef face, const transform16& matrix, bool flip, const std::string& path);
+    // The part of it that follows when the sides are known.
+    int write_face_sides(const face_in_walk& walked, const face_side& front, const face_side& back);
+
+    // material_numbers.cpp: the number of a face's side.
+    // kind: what asks, "face". has_texture: set, unless there is no material. not_affine, has_glow: set to true if the
+    // side's texture is distorted, if the material glows; never cleared. Gives 0 for no material, else 10 or above.
+    int get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front,
+                            bool& has_texture, bool& not_affine, bool& has_glow);
 
     geometry_stream stream; // closed until the run opens it; drops all lines while closed
 
@@ -63,6 +136,9 @@ public:
     bool beam_pass_running = false; // its entities are being walked a second time
     int ilights_saved = 0;          // number of the next lamp
 
+    // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
+    face_scratch scratch;
+
     // Progress and model facts.
     int total_items = 0;
     int items_done = 0;
@@ -71,4 +147,38 @@ public:
     int version_major = 0;
     int version_minor = 0;
     int version_build = 0;
+
+private:
+    // model_reading.cpp: the steps of ReadSkpFile.
+    void open_stream(const std::string& output_path);
+    void write_stream_head();
+    void number_layers();
+    void count_items();
+    void walk_model();
+
+    // traversal.cpp: one kind of entity each.
+    void process_groups(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth);
+    void process_instances(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth);
+    void process_group(SUGroupRef group, const transform16& outer, std::string& path, int depth);
+    void process_instance(SUComponentInstanceRef instance, const transform16& outer, std::string& path, int depth);
+    void process_faces(SUEntitiesRef entities, const transform16& transform, const std::string& path);
+    void process_images(SUEntitiesRef entities, const transform16& transform, const std::string& path, int depth);
+    void process_edges(SUEntitiesRef entities, const transform16& transform, const std::string& path);
+    void process_section_planes(SUEntitiesRef entities);
+    void walk_placement(const placement_walk& walk, std::string& path);
+    void walk_beams(const placement_walk& walk, std::string& path);
+
+    // placements.cpp
+    bool writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
+                         const transform16& transform);
+
+    // face_meshing.cpp
+    void leave_illum_mesh();
+    bool begins_face_lamp() const;
+    void begin_face_lamp(const transform16& matrix);
+    void end_face_lamp(SUFaceRef face);
+    bool write_face_pass(const face_in_walk& walked, const face_plan& plan, face_pass pass, bool face_lamp);
+    void begin_face_pass(const face_in_walk& walked, const face_plan& plan, face_pass pass);
+    void write_face_vertices(const transform16& matrix, const face_plan& plan, face_pass pass, const uv_helper& uv);
+    void write_face_triangles(bool reversed);
 };

@@ -7,12 +7,12 @@
 #include "qlw/qlw_std.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/trace_state.h"
-#include "tessaline/SketchUpReader.h"
 #include "tessaline/asked_paths.h"
 #include "tessaline/command_line.h"
 #include "tessaline/paths.h"
 #include "tessaline/progress_dlg.h"
 #include "tessaline/run_state.h"
+#include "tessaline/SketchUpReader.h"
 #include "tessaline/usage.h"
 
 namespace {

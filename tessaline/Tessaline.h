@@ -5,12 +5,17 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 struct CXMLOptions {
     std::array<bool, 7> switches{true, true, true, true, false, true, true}; // kept for the record; nothing reads them
     std::int64_t reading_started = 0;                                        // seconds since the epoch
     std::int64_t reading_ended = 0;
 };
+
+// The two values of extract_mode that a run can have.
+inline constexpr std::string_view usual_extract_mode = "Tessaline";
+inline constexpr std::string_view document_extract_mode = "QLW 3D PDF"; // the parent prepares a 3D document
 
 class CTessalineApp {
 public:

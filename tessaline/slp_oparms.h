@@ -2,12 +2,16 @@
 
 // What a group, a component or a face says about its contents, and the stack that hands it down the walk.
 
-#include "qlw/qlw_matrix.h"
+#include "qlw/qlw_math.h"
 #include "sketchup/SketchUpAPI.h"
+#include "tessaline/transforms.h"
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
+
+class SketchUpReader;
 
 // What an object says about a lamp. -1 (-1.0) means not set where nothing else stands.
 struct cl_slp_light {
@@ -39,6 +43,10 @@ struct cl_slp_light {
     int ies_pattern = -1;
     bool treat_as_single_light = false;
     bool direct_light = false; // a bulb or a spot: a lamp without geometry
+
+    // Settles what is open and gives the lamp its number: that of its file, and that by which the stream refers to it.
+    // transform: the lamp's placement in the world, in inches. Sets direct_light.
+    int add_lamp(SketchUpReader& reader, const transform16& transform);
 };
 
 // The parameters of one level of the walk. A new level starts as a copy of the one above it.
@@ -58,6 +66,11 @@ struct cl_slp_oparms {
     bool invisible = false; // hidden from the camera
     std::string groundcover_file;
     int groundcover_orientation = -1;
+
+    // Fills what is still open from the attribute list of the run; an outer object wins over an inner one.
+    // source_label: what the attributes belong to, "Group" for instance; without effect.
+    // Gives whether any attribute came from a dictionary that describes lamps.
+    bool store_attributes_in_oparms(std::string_view source_label);
 };
 
 class cl_oparms_array {

@@ -43,7 +43,8 @@ public:
     // The box of a group, component instance or image in the space of the list that holds it.
     box of_placement(const placement& p);
 
-    // The box of a section plane in the space of its list: plane_box with the box of that list.
+    // The box of a section plane in the space of its list: plane_box with the box of that list, which for a plane in no
+    // list is empty.
     box of_section_plane(const section_plane& s);
 
 private:
@@ -52,17 +53,26 @@ private:
         bool known = false;
     };
 
+    struct placed_content {
+        const entity_list* list;
+        transform placed;
+    };
+
+    kept_box& kept_of(const entity_list& list);
+    const entity_list* placed_list(const placement& p) const;
+    template<typename Visit>
+    void for_each_placement(const entity_list& list, const Visit& visit) const;
     box box_of_content(const entity_list& list);
-    void include_transformed(const entity_list& list, const transform& t, box& found);
-    void include_transformed_placements(const std::vector<index>& placements, const transform& t, box& found);
+    void include_placement(const placement& placed, box& found);
     bool spend(std::size_t visits);
-    const entity_list& list_of_section_plane(index section_plane);
+    const entity_list* list_of_section_plane(std::size_t section_plane);
 
     const model& model_;
     std::size_t visits_left_;
     kept_box root_;
     std::vector<kept_box> definitions_;
     std::vector<kept_box> placements_;
+    std::vector<placed_content> pending_;                     // scratch
     std::vector<const entity_list*> lists_of_section_planes_; // filled when the first section plane is asked for
 };
 

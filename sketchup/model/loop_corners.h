@@ -4,10 +4,16 @@
 
 #include "sketchup/model/model.h"
 
+#include <limits>
+
 namespace sketchup {
 
-// The vertex that a step of a loop leaves from: the edge's end if the step is reversed, else its start.
+// The vertex that a step of a loop leaves from: the edge's end if the step is reversed, else its start. no_index if the
+// file left out the edge.
 inline index corner_vertex(const model& m, const edge_use& use) {
+    if (use.edge >= m.edges.size()) {
+        return no_index;
+    }
     const edge& e = m.edges[use.edge];
     return use.reversed ? e.end : e.start;
 }
@@ -17,8 +23,14 @@ inline index corner_vertex(const model& m, index corner) {
     return corner_vertex(m, m.edge_uses[corner]);
 }
 
-inline const vec3& corner_position(const model& m, index corner) {
-    return m.vertices[corner_vertex(m, corner)].position;
+// Where a vertex lies; no number in any coordinate if the file left out the vertex.
+inline vec3 vertex_position(const model& m, index vertex) {
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    return vertex < m.vertices.size() ? m.vertices[vertex].position : vec3{none, none, none};
+}
+
+inline vec3 corner_position(const model& m, index corner) {
+    return vertex_position(m, corner_vertex(m, corner));
 }
 
 // Appends the corners of a loop in its order, as positions in model::vertices. Corners on the same vertex are kept.

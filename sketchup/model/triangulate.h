@@ -35,11 +35,12 @@ public:
 
     // Fills `out` with the mesh of a face, whose loops may run in any direction and begin at any corner. Collinear
     // corners stay vertices, corners at one point become one vertex. A face without area gives an empty mesh; so does
-    // one with a corner or a normal that is not finite. Never fails.
+    // one with a missing corner, with a corner or a normal that is not finite or beyond 1e100, and one that crosses
+    // itself so often that its mesh would be out of all proportion (see sweep_cost.h). Never fails.
     void triangulate(const model& m, const face& f, face_mesh& out);
 
     // The same over bare points: `points` holds the loops one after the other, `loop_sizes` how many points each has.
-    // normal: of any length above zero.
+    // normal: of any length but zero, which gives an empty mesh.
     void triangulate(std::span<const vec3> points, std::span<const index> loop_sizes, const vec3& normal,
                      face_mesh& out);
 

@@ -126,7 +126,7 @@ void add_counts(json& result, const model_counts& n) {
 } // namespace
 
 void print_json(const std::string& file_name, SUModelRef model) {
-    const sketchup::model& inside = *model_behind(model);
+    const sketchup::model& inside = *sketchup::model_behind(model);
     const model_counts counts = count_model(inside);
     int major = 0;
     int minor = 0;

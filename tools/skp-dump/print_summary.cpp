@@ -62,7 +62,7 @@ void print_materials(SUModelRef model) {
 } // namespace
 
 void print_summary(const std::string& file_name, SUModelRef model) {
-    const sketchup::model& inside = *model_behind(model);
+    const sketchup::model& inside = *sketchup::model_behind(model);
     int major = 0;
     int minor = 0;
     int build = 0;

@@ -1,0 +1,66 @@
+#include "captured_trace.h"
+
+#include "qlw/trace_state.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <ostream>
+#include <random>
+
+namespace {
+
+void empty_file(const std::string& name) {
+    std::ofstream(name, std::ios::trunc);
+}
+
+// line: ":source(12): function():  text", as the log file holds it when no time is shown.
+traced_line parsed(const std::string& line) {
+    const auto source_end = line.find('(');
+    const auto function_start = line.find("): ") + 3;
+    const auto function_end = line.find("():", function_start);
+    const auto text_start = line.find_first_not_of(' ', function_end + 3);
+    return {line.substr(1, source_end - 1), line.substr(function_start, function_end - function_start),
+            line.substr(text_start)};
+}
+
+} // namespace
+
+void PrintTo(const traced_line& line, std::ostream* out) {
+    *out << line.source << ", " << line.function << ": " << line.text;
+}
+
+captured_trace::captured_trace()
+    : log_name(testing::TempDir() + "captured_trace_" + std::to_string(std::random_device()()) + ".txt") {
+    empty_file(log_name);
+    cl_trace_state& state = trace_state();
+    state.trace_enabled = true;
+    state.show_function = true;
+    state.log_always = true;
+    state.log_file_is_new = false; // no header in front of the first line
+    state.log_file_name = log_name;
+}
+
+captured_trace::~captured_trace() {
+    cl_trace_state& state = trace_state();
+    state.trace_enabled = false;
+    state.show_function = false;
+    state.log_always = false;
+    state.log_file_is_new = true;
+    state.log_file_name.clear();
+    std::remove(log_name.c_str());
+}
+
+std::vector<traced_line> captured_trace::take() {
+    std::vector<traced_line> lines;
+    std::ifstream log(log_name);
+    for (std::string line; std::getline(log, line);) {
+        if (line.ends_with('\r'))
+            line.pop_back();
+        lines.push_back(parsed(line));
+    }
+    log.close();
+    empty_file(log_name);
+    return lines;
+}

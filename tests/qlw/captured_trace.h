@@ -1,0 +1,31 @@
+#pragma once
+
+// What was reported while the object lives: tracing is enabled and every line goes to a log file of the test's own.
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+struct traced_line {
+    std::string source;   // "qlw_globals"
+    std::string function; // as the reporter names itself
+    std::string text;     // with "REPORT: " or "*** ERROR: " in front where the level puts it there
+
+    friend bool operator==(const traced_line&, const traced_line&) = default;
+};
+
+void PrintTo(const traced_line& line, std::ostream* out);
+
+class captured_trace {
+public:
+    captured_trace();
+    ~captured_trace();
+    captured_trace(const captured_trace&) = delete;
+    captured_trace& operator=(const captured_trace&) = delete;
+
+    // The lines so far, oldest first; they are forgotten by the call.
+    std::vector<traced_line> take();
+
+private:
+    std::string log_name;
+};
