@@ -16,18 +16,18 @@
 
 // What a face passes to begin_mesh about its block.
 struct mesh_head {
-    std::string_view label;
+    std::string_view label{};
     bool casts_shadows = true;
-    std::string_view groundcover_file; // empty: none
+    std::string_view groundcover_file{}; // empty: none
     int groundcover_orientation = -1;
     bool invisible = false;
     bool hide = false;
-    std::string_view layer_name;
+    std::string_view layer_name{};
 };
 
 // What a pass of a face passes to write_mesh_state.
 struct mesh_state {
-    std::string_view layer_name;
+    std::string_view layer_name{};
     bool two_sided = false;
     face_pass pass = face_pass::front;
     int front_material = 0;

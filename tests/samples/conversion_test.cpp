@@ -91,6 +91,6 @@ TEST_P(SampleConversion, gives_the_same_bytes_in_every_run_but_for_the_date) {
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(SampleConversion);
 INSTANTIATE_TEST_SUITE_P(Samples, SampleConversion, testing::ValuesIn(sample_names()),
-                         [](const auto& info) { return test_name_of(info.param); });
+                         [](const auto& sample) { return test_name_of(sample.param); });
 
 } // namespace

@@ -70,7 +70,7 @@ TEST_P(SampleFigures, agree_with_those_of_an_independent_reader) {
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(SampleFigures);
 INSTANTIATE_TEST_SUITE_P(Samples, SampleFigures, testing::ValuesIn(sample_names()),
-                         [](const auto& info) { return test_name_of(info.param); });
+                         [](const auto& sample) { return test_name_of(sample.param); });
 
 TEST(SamplesFolder, is_there_for_the_tests_that_need_it) {
     if (samples_folder().empty())

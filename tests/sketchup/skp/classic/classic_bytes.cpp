@@ -133,19 +133,22 @@ std::vector<std::uint8_t> small_model::file() const {
     return a.bytes;
 }
 
-assembler definition_body(const small_model& around, const assembler& entities, std::string_view name) {
+assembler definition_head(const small_model& around) {
     assembler a = with_layout_of(around);
     a.drawing();
     a.entity().u32(0).null(); // materials, the current one
     a.entity().u32(0);        // layers
-    a.u32(0);                 // definitions
-    a.append(entities).u32(0).null();
+    return a.u32(0);          // definitions
+}
+
+assembler definition_tail(const small_model& around, std::string_view name) {
+    assembler a = with_layout_of(around);
+    a.u32(0).null(); // relations, active section plane
     for (unsigned i = 0; i < 16; ++i)
-        a.u8(0x20 + i);
+        a.u8(0x20 + i); // id
     a.text(name).text("").text("").u32(0).u8(0).v3(0, 0, 0);
     put_behavior(a);
-    a.u32(0).null(); // a component, no thumbnail
-    return a;
+    return a.u32(0).null(); // a component, no thumbnail
 }
 
 assembler placement_head(const small_model& around) {

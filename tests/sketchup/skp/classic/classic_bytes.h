@@ -95,8 +95,10 @@ struct small_model {
     std::vector<std::uint8_t> file() const;
 };
 
-// A definition's body from its component on: no materials, layers, definitions; `entities` is count and objects.
-assembler definition_body(const small_model& around, const assembler& entities, std::string_view name);
+// A definition's body from its component to its entity list: no materials, layers, definitions. The list (count and
+// objects) stands between the two.
+assembler definition_head(const small_model& around);
+assembler definition_tail(const small_model& around, std::string_view name);
 
 // A placement's body behind its tag up to the definition's tag, and from the transformation on.
 assembler placement_head(const small_model& around);
