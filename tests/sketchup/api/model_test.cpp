@@ -12,8 +12,7 @@ namespace {
 SUResult open(const std::string& path) {
     SUModelRef model = SU_INVALID;
     const SUResult result = SUModelCreateFromFile(&model, path.c_str());
-    if (result != SU_ERROR_NONE)
-        EXPECT_FALSE(SUIsValid(model)) << "a failed call leaves the handle alone";
+    EXPECT_EQ(SUIsValid(model), result == SU_ERROR_NONE) << "a failed call leaves the handle alone";
     SUModelRelease(&model);
     return result;
 }

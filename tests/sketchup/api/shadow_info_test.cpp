@@ -53,7 +53,7 @@ TEST(ShadowInfo, counts_the_days_of_the_stored_year_from_one) {
     EXPECT_EQ(day(86399), 1);        // its last second
     EXPECT_EQ(day(86400), 2);        //
     EXPECT_EQ(day(-1), 365);         // 31 December 1969
-    EXPECT_EQ(day(1036670400), 312); // 8 November 2002: 304 days to the end of October, and 8
+    EXPECT_EQ(day(1036670400), 311); // 7 November 2002, noon: 304 days to the end of October, and 7
     EXPECT_EQ(day(1735603200), 366); // 31 December 2024
 }
 

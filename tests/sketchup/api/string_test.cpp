@@ -107,7 +107,7 @@ TEST(String, comes_back_the_same_through_utf16) {
     for (int round = 0; round < 2000; ++round) {
         std::vector<unichar> units;
         for (int i = 0; i < 20; ++i) {
-            const char32_t c = 1 + random() % 0x10FFFE;
+            const auto c = static_cast<char32_t>(1 + random() % 0x10FFFE);
             if (c >= 0xD800 && c <= 0xDFFF)
                 continue;
             if (c >= 0x10000) {

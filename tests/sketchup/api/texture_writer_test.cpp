@@ -101,8 +101,9 @@ TEST(TextureWriter, needs_a_place_for_the_number_of_a_textured_side_only) {
 
 TEST(TextureWriter, tells_the_number_of_a_side_only_once_loaded) {
     model_builder builder;
-    painted(builder, brick(builder));
-    position(builder, painted(builder, 0), &texture_mapping::front, distorted);
+    const sketchup::index bricks = brick(builder);
+    painted(builder, bricks);
+    position(builder, painted(builder, bricks), &texture_mapping::front, distorted);
     test_model opened(builder);
     const test_writer writer;
     long id = 7;
