@@ -1,0 +1,43 @@
+#pragma once
+
+// The entries of the archive in a model file.
+
+#include "sketchup/skp/modern/entry_source.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+struct zip;
+
+namespace skp::modern {
+
+// Deflate packs at most 258 bytes into 2 bits, so 1032 : 1. An entry that announces more lies about its size.
+inline constexpr std::uint64_t most_unpacked_per_packed = 1100;
+
+class zip_entries : public entry_source {
+public:
+    // file: a model file, kept alive as long as this. start: where its archive begins; offsets count from there.
+    // Names are bytes as they stand, which is UTF-8 although the archive does not say so; the first of equal names
+    // wins. Throws format_error if there is no archive, or if all entries together announce more than the archive can
+    // hold.
+    zip_entries(std::shared_ptr<const std::vector<std::uint8_t>> file, std::size_t start);
+    ~zip_entries() override;
+
+    bool has(const std::string& name) const override { return places_.contains(name); }
+    // Also refuses entries that are encrypted, packed by anything but deflate, or not of the announced size.
+    std::vector<std::uint8_t> read(const std::string& name) override;
+
+private:
+    void list_entries();
+
+    std::shared_ptr<const std::vector<std::uint8_t>> file_;
+    std::size_t start_;
+    zip* archive_ = nullptr;
+    std::unordered_map<std::string, std::uint64_t> places_;
+};
+
+} // namespace skp::modern
