@@ -38,6 +38,13 @@ std::vector<index> materials_of_list(const sketchup::model& m) {
     return listed;
 }
 
+sketchup::material plain_layer_material(const sketchup::layer& layer) {
+    sketchup::material shown;
+    shown.name = "Layer_" + layer.name;
+    shown.is_private = true;
+    return shown;
+}
+
 std::vector<glue_relation> glue_relations(const sketchup::model& m, const sketchup::entity_list& list) {
     std::vector<glue_end> placed;
     for (const std::vector<index>* placements : {&list.instances, &list.groups, &list.images})

@@ -30,6 +30,9 @@ const sketchup::typed_value* written_option(const sketchup::rendering_options& o
 // program does not show. Those of layers are stored with their layers.
 std::vector<sketchup::index> materials_of_list(const sketchup::model& m);
 
+// What stands for a layer's material where the layer has none of its own.
+sketchup::material plain_layer_material(const sketchup::layer& layer);
+
 struct glue_end {
     sketchup::entity_kind kind = sketchup::entity_kind::face; // face or a kind of placement
     sketchup::index at = 0;
