@@ -62,9 +62,10 @@ void clear_folder(const std::string& folder, bool recursive, const std::string& 
     DIR entries;
     entries.open(name);
     while (entries.next()) {
+        if (entries.is_folder() && !recursive)
+            continue;
         if (entries.is_folder()) {
-            if (recursive)
-                clear_folder(entries.full_name(), recursive, extension);
+            clear_folder(entries.full_name(), recursive, extension);
         } else if (ends_with_ignoring_case(entries.name(), extension)) {
             platform::delete_file(entries.full_name());
         }

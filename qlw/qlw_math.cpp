@@ -90,7 +90,9 @@ void fpt::make_unit(double length) {
 
 std::string fpt_to_text(const fpt& point) {
     const auto component = [](double value) { return number_text(snap_to_zero(value, smallest_in_text)); };
-    return "(" + component(point.x) + ", " + component(point.y) + ", " + component(point.z) + ")";
+    std::string text = "(";
+    text.append(component(point.x)).append(", ").append(component(point.y)).append(", ").append(component(point.z));
+    return text.append(")");
 }
 
 fpt text_to_fpt(std::string_view text) {

@@ -63,18 +63,22 @@ bool logs_to_file() {
     return trace_state().log_to_file || trace_state().log_always;
 }
 
+bool shows_dialog(int level) {
+    if (level == listed_error_level)
+        return !trace_state().error_list_active;
+    return level >= first_dialog_level && level < listed_error_level;
+}
+
+bool writes_plain_line(int level) {
+    return level < first_dialog_level || level >= log_level || (level == log_only_level && logs_to_file());
+}
+
 void route(cl_trace& trace) {
     const std::string text = trace.message;
-    if (trace.level < first_dialog_level || trace.level >= log_level) {
-        trace.write_trace_line(text);
-    } else if (trace.level < listed_error_level) {
+    if (shows_dialog(trace.level))
         show_error_dialog(trace, text);
-    } else if (trace.level == listed_error_level) {
-        if (!trace_state().error_list_active)
-            show_error_dialog(trace, text);
-    } else if (trace.level == log_only_level && logs_to_file()) {
+    else if (writes_plain_line(trace.level))
         trace.write_trace_line(text);
-    }
 }
 
 } // namespace

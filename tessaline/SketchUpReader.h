@@ -16,18 +16,18 @@
 
 // What a face passes to begin_mesh about its block.
 struct mesh_head {
-    std::string_view label;
+    std::string_view label{};
     bool casts_shadows = true;
-    std::string_view groundcover_file; // empty: none
+    std::string_view groundcover_file{}; // empty: none
     int groundcover_orientation = -1;
     bool invisible = false;
     bool hide = false;
-    std::string_view layer_name;
+    std::string_view layer_name{};
 };
 
 // What a pass of a face passes to write_mesh_state.
 struct mesh_state {
-    std::string_view layer_name;
+    std::string_view layer_name{};
     bool two_sided = false;
     face_pass pass = face_pass::front;
     int front_material = 0;
@@ -58,8 +58,8 @@ public:
     // Walks a list and all that it places: groups, instances, at depth 0 the scattered components, then faces, images,
     // edges and, at depth 0, section planes.
     // transform: from the list to the model, in inches; element 15 is 1. path: the ids of what encloses the list, each
-    // followed by "-"; grows and shrinks with the walk. depth: 0 at the top, where the bottom parameter record is pushed
-    // and stays. Always 1.
+    // followed by "-"; grows and shrinks with the walk. depth: 0 at the top, where the bottom parameter record is
+    // pushed and stays. Always 1.
     int ProcessEntities(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth);
     void advance_progress(); // one more item is done; the display moves every 100 items at most
 

@@ -2,8 +2,8 @@
 // counts hidden content too, and the display may end below 100.
 
 #include "qlw/qlw_globals.h"
-#include "tessaline/SketchUpReader.h"
 #include "tessaline/handle_lists.h"
+#include "tessaline/SketchUpReader.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t chunk_length = 400000; // characters of every chunk but the last
+constexpr std::size_t chunk_length = 400000;          // characters of every chunk but the last
 constexpr std::size_t most_text = 400 * chunk_length; // no material file comes near it; a wrong length may
 
 // Cuts a field with its ";" off the text; empty, with nothing cut, if there is no ";" behind at least one character.

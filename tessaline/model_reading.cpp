@@ -4,7 +4,6 @@
 #include "platform/platform.h"
 #include "qlw/option_globals_file.h"
 #include "qlw/qlw_trace.h"
-#include "tessaline/SketchUpReader.h"
 #include "tessaline/batch_folders.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/layer_inheritance.h"
@@ -12,6 +11,7 @@
 #include "tessaline/paths.h"
 #include "tessaline/run_state.h"
 #include "tessaline/skatter_file.h"
+#include "tessaline/SketchUpReader.h"
 #include "tessaline/texture_preload.h"
 
 #include <string>

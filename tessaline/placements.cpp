@@ -1,15 +1,15 @@
-// Which groups and instances are entered, and what their levels say. Works on the parameter stack and the attribute list
-// of the run.
+// Which groups and instances are entered, and what their levels say. Works on the parameter stack and the attribute
+// list of the run.
 
 #include "tessaline/placements.h"
 
 #include "qlw/qlw_globals.h"
-#include "tessaline/SketchUpReader.h"
 #include "tessaline/attributes.h"
 #include "tessaline/lamps.h"
 #include "tessaline/layer_inheritance.h"
 #include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
+#include "tessaline/SketchUpReader.h"
 #include "tessaline/walk_log.h"
 
 #include <algorithm>
@@ -19,8 +19,9 @@ namespace {
 
 std::string lower_case(std::string_view text) {
     std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter; });
+    std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+    });
     return lower;
 }
 

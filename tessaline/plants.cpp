@@ -4,9 +4,9 @@
 #include "tessaline/plants.h"
 
 #include "qlw/qlw_globals.h"
-#include "tessaline/SketchUpReader.h"
 #include "tessaline/attributes.h"
 #include "tessaline/run_state.h"
+#include "tessaline/SketchUpReader.h"
 
 #include <cstdlib>
 

@@ -1,14 +1,14 @@
-// What becomes of components that a scattering tool has placed: they are walked as if they stood at the top of the model,
-// or written as plants. Reads and sets the flags for scattered components.
+// What becomes of components that a scattering tool has placed: they are walked as if they stood at the top of the
+// model, or written as plants. Reads and sets the flags for scattered components.
 
 #include "platform/platform.h"
 #include "qlw/qlw_trace.h"
-#include "tessaline/SketchUpReader.h"
 #include "tessaline/attributes.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
 #include "tessaline/skatter_file.h"
+#include "tessaline/SketchUpReader.h"
 
 #include <vector>
 

@@ -2,19 +2,21 @@
 
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_trace.h"
-#include "tessaline/SketchUpReader.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/progress_dlg.h"
 #include "tessaline/run_state.h"
+#include "tessaline/SketchUpReader.h"
 #include "tessaline/walk_log.h"
 
 #include <cstdint>
 #include <string>
 
 // A model may nest 4,096 deep, and each level costs the frames of ProcessEntities, process_groups and process_group (or
-// their like for instances): what a level needs for a moment only stays in the functions that these call and return from.
+// their like for instances): what a level needs for a moment only stays in the functions that these call and return
+// from.
 
-int SketchUpReader::ProcessEntities(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth) {
+int SketchUpReader::ProcessEntities(SUEntitiesRef entities, const transform16& transform, std::string& path,
+                                    int depth) {
     if (depth == 0)
         current_oparms = oparms_array.push();
     process_groups(entities, transform, path, depth);

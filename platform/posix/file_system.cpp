@@ -3,6 +3,8 @@
 #include "platform/platform.h"
 
 #include <algorithm>
+#include <array>
+#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -24,10 +26,6 @@ std::optional<struct stat> status_of_name_itself(const std::string& name) {
     struct stat status;
     return lstat(name.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
-
-struct free_memory {
-    void operator()(char* memory) const { std::free(memory); }
-};
 
 struct close_folder {
     void operator()(DIR* folder) const { closedir(folder); }
@@ -62,8 +60,9 @@ std::optional<std::int64_t> modified_at(const std::string& name) {
 }
 
 std::optional<std::string> real_name(const std::string& name) {
-    const std::unique_ptr<char, free_memory> resolved(realpath(name.c_str(), nullptr));
-    return resolved ? std::optional<std::string>(resolved.get()) : std::nullopt;
+    std::array<char, PATH_MAX> buffer; // the size that the call itself keeps to
+    const char* const resolved = realpath(name.c_str(), buffer.data());
+    return resolved ? std::optional<std::string>(resolved) : std::nullopt;
 }
 
 std::string absolute_name(const std::string& name) {

@@ -25,13 +25,15 @@ std::string full_name_from(const char* variable) {
 
 std::string inside_home(const char* name) {
     const std::string home = home_folder();
-    return home.empty() ? home : (home == "/" ? home : home + path_separator) + name;
+    if (home.empty())
+        return {};
+    return home == "/" ? home + name : home + path_separator + name;
 }
 
 } // namespace
 
 std::string home_folder() {
-    const std::string home = full_name_from("HOME");
+    std::string home = full_name_from("HOME");
     if (!home.empty())
         return home;
     const passwd* const user = getpwuid(getuid());
@@ -39,12 +41,12 @@ std::string home_folder() {
 }
 
 std::string user_config_folder() {
-    const std::string folder = full_name_from("XDG_CONFIG_HOME");
+    std::string folder = full_name_from("XDG_CONFIG_HOME");
     return folder.empty() ? inside_home(".config") : folder;
 }
 
 std::string documents_folder() {
-    const std::string folder = full_name_from("XDG_DOCUMENTS_DIR");
+    std::string folder = full_name_from("XDG_DOCUMENTS_DIR");
     return folder.empty() ? inside_home("Documents") : folder;
 }
 

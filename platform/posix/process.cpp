@@ -3,7 +3,7 @@
 #include "platform/platform.h"
 
 #include <array>
-#include <cstdio>
+#include <charconv>
 #include <cstdlib>
 
 #include <sys/utsname.h>
@@ -33,15 +33,17 @@ std::string program_path() {
     return length > 0 ? std::string(buffer.data(), static_cast<std::size_t>(length)) : std::string();
 }
 
+// The second number of this file is the count of memory pages that are resident now.
 std::uint64_t working_set_bytes() {
-    std::FILE* const statm = std::fopen("/proc/self/statm", "r");
-    if (!statm)
+    file statm;
+    std::array<char, 256> buffer;
+    if (!statm.open("/proc/self/statm", open_mode::read))
         return 0;
-    unsigned long long total_pages = 0;
-    unsigned long long resident_pages = 0;
-    const int fields = std::fscanf(statm, "%llu %llu", &total_pages, &resident_pages);
-    std::fclose(statm);
-    return fields == 2 ? resident_pages * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE)) : 0;
+    const std::string_view text(buffer.data(), statm.read(buffer.data(), buffer.size()));
+    const std::size_t start = text.find(' ') + 1;
+    std::uint64_t pages = 0;
+    const auto answer = std::from_chars(text.data() + start, text.data() + text.size(), pages);
+    return answer.ec == std::errc() ? pages * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE)) : 0;
 }
 
 std::optional<std::string> environment_variable(const std::string& name) {

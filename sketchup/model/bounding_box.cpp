@@ -133,12 +133,47 @@ bool box_cache::spend(std::size_t visits) {
     return enough;
 }
 
-box box_cache::of_list(const entity_list& list) {
-    kept_box& kept = &list == &model_.root ? root_ : definitions_[number_of(model_.definitions, &list)];
-    if (!kept.known) {
-        kept = {box_of_content(list), true};
+box_cache::kept_box& box_cache::kept_of(const entity_list& list) {
+    return &list == &model_.root ? root_ : definitions_[number_of(model_.definitions, &list)];
+}
+
+// The content of what a placement places; null without a definition.
+const entity_list* box_cache::placed_list(const placement& p) const {
+    return p.definition < model_.definitions.size() ? &model_.definitions[p.definition].entities : nullptr;
+}
+
+template<typename Visit>
+void box_cache::for_each_placement(const entity_list& list, const Visit& visit) const {
+    for (const std::vector<index>* kind : {&list.groups, &list.instances, &list.images}) {
+        for (const index p : *kind) {
+            visit(model_.placements[p]);
+        }
     }
-    return kept.value;
+}
+
+// Definitions nest thousands deep in a file made for it, hence a list of what is to be done and no recursion: a list
+// waits on top of the pile until those that it places are known.
+box box_cache::of_list(const entity_list& list) {
+    std::vector<const entity_list*> waiting = {&list};
+    while (!waiting.empty()) {
+        const entity_list& top = *waiting.back();
+        const std::size_t before = waiting.size();
+        if (!kept_of(top).known) {
+            for_each_placement(top, [&](const placement& p) {
+                const entity_list* inner = placed_list(p);
+                if (inner != nullptr && !kept_of(*inner).known) {
+                    waiting.push_back(inner);
+                }
+            });
+        }
+        if (waiting.size() == before) {
+            waiting.pop_back();
+            if (!kept_of(top).known) {
+                kept_of(top) = {box_of_content(top), true};
+            }
+        }
+    }
+    return kept_of(list).value;
 }
 
 box box_cache::of_definition(index definition) {
@@ -148,45 +183,50 @@ box box_cache::of_definition(index definition) {
 box box_cache::box_of_content(const entity_list& list) {
     box found;
     include_geometry(model_, list, as_it_is, found);
-    include_placements(list, identity_transform, found);
+    for_each_placement(list, [&](const placement& p) { include_placement(p, found); });
     return found;
 }
 
 box box_cache::of_placement(const placement& p) {
     kept_box& kept = placements_[number_of(model_.placements, &p)];
     if (!kept.known) {
-        box found;
-        include_placement(p, identity_transform, found);
-        kept = {found, true};
+        const entity_list* content = placed_list(p);
+        if (content != nullptr) {
+            of_list(*content);
+            include_placement(p, kept.value);
+        }
+        kept.known = true;
     }
     return kept.value;
 }
 
-void box_cache::include_placements(const entity_list& list, const transform& outer, box& found) {
-    for (const std::vector<index>* kind : {&list.groups, &list.instances, &list.images}) {
-        for (const index p : *kind) {
-            include_placement(model_.placements[p], outer, found);
+// The boxes of all that the placement holds must be known.
+void box_cache::include_placement(const placement& placed, box& found) {
+    pending_.clear();
+    const auto add = [this](const placement& p, const transform& outer) {
+        const entity_list* list = placed_list(p);
+        if (list != nullptr) {
+            pending_.push_back({list, compose(outer, p.transform)});
         }
+    };
+    add(placed, identity_transform);
+    while (!pending_.empty()) {
+        const placed_content content = pending_.back();
+        pending_.pop_back();
+        const transform& t = content.placed;
+        const entity_list& list = *content.list;
+        const box around = transformed_box(t, kept_of(list).value);
+        if (around.is_empty() || holds(found, around)) {
+            continue;
+        }
+        if (maps_axes_to_axes(t) || !spend(1 + 2 * list.edges.size() + 4 * list.faces.size())) {
+            include(found, around);
+            continue;
+        }
+        include_geometry(
+            model_, list, [&t](const vec3& point) { return transform_point(t, point); }, found);
+        for_each_placement(list, [&](const placement& p) { add(p, t); });
     }
-}
-
-void box_cache::include_placement(const placement& p, const transform& outer, box& found) {
-    if (p.definition >= model_.definitions.size()) {
-        return;
-    }
-    const transform t = compose(outer, p.transform);
-    const entity_list& list = model_.definitions[p.definition].entities;
-    const box around = transformed_box(t, of_list(list));
-    if (around.is_empty() || holds(found, around)) {
-        return;
-    }
-    if (maps_axes_to_axes(t) || !spend(1 + 2 * list.edges.size() + 4 * list.faces.size())) {
-        include(found, around);
-        return;
-    }
-    include_geometry(
-        model_, list, [&t](const vec3& point) { return transform_point(t, point); }, found);
-    include_placements(list, t, found);
 }
 
 box box_cache::of_section_plane(const section_plane& s) {

@@ -53,9 +53,17 @@ private:
         bool known = false;
     };
 
+    struct placed_content {
+        const entity_list* list;
+        transform placed;
+    };
+
+    kept_box& kept_of(const entity_list& list);
+    const entity_list* placed_list(const placement& p) const;
+    template<typename Visit>
+    void for_each_placement(const entity_list& list, const Visit& visit) const;
     box box_of_content(const entity_list& list);
-    void include_placements(const entity_list& list, const transform& outer, box& found);
-    void include_placement(const placement& p, const transform& outer, box& found);
+    void include_placement(const placement& placed, box& found);
     bool spend(std::size_t visits);
     const entity_list* list_of_section_plane(std::size_t section_plane);
 
@@ -64,6 +72,7 @@ private:
     kept_box root_;
     std::vector<kept_box> definitions_;
     std::vector<kept_box> placements_;
+    std::vector<placed_content> pending_;                     // scratch
     std::vector<const entity_list*> lists_of_section_planes_; // filled when the first section plane is asked for
 };
 

@@ -52,7 +52,7 @@ bool sweep_cost::is_bearable(std::span<const vec3> points, std::span<const std::
             crossings += cross(entering, lines_[other]) ? 1 : 0;
         }
         pairs += active_.size();
-        if (crossings > most_crossings * points.size() || pairs > most_pairs) {
+        if (crossings > most_crossings * points.size() || pairs > most_pairs_) {
             return false;
         }
         active_.push_back(i);

@@ -21,7 +21,9 @@ public:
     // Crossings and pairs of lines upon each other allowed for each corner.
     static constexpr std::size_t most_crossings = 8;
     // Pairs of lines side by side in the sweep; the tessellator needs about two seconds for as many.
-    static constexpr std::size_t most_pairs = 200'000'000;
+    static constexpr std::size_t default_most_pairs = 200'000'000;
+
+    explicit sweep_cost(std::size_t most_pairs = default_most_pairs) : most_pairs_(most_pairs) {}
 
     // points, loop_sizes: as in tessellator; all finite.
     bool is_bearable(std::span<const vec3> points, std::span<const std::uint32_t> loop_sizes, const vec3& normal);
@@ -34,6 +36,7 @@ private:
     static bool cross(const line& a, const line& b);
     void collect(std::span<const vec3> points, std::span<const std::uint32_t> loop_sizes, const sweep_plane& plane);
 
+    std::size_t most_pairs_;
     std::vector<line> lines_;
     std::vector<std::size_t> active_;
 };

@@ -105,6 +105,10 @@ TEST(CsvField, an_empty_field_is_empty) {
     EXPECT_EQ(fields_of(";a;;b;"), (texts{"", "a", "", "b"}));
 }
 
+TEST(CsvField, two_quotes_are_an_empty_field) {
+    EXPECT_EQ(fields_of("\"\";c"), (texts{"", "c"}));
+}
+
 TEST(CsvField, a_separator_inside_quotes_is_kept) {
     EXPECT_EQ(fields_of("\"a;b\";c"), (texts{"a;b", "c"}));
 }

@@ -1,5 +1,7 @@
 #include "tools/skp-dump/model_counts.h"
 
+#include <vector>
+
 namespace {
 
 using namespace sketchup;
@@ -68,8 +70,7 @@ public:
         for (const component_definition& d : m.definitions)
             count_definition(d);
         count_geometry();
-        for (const material& one : m.materials)
-            result.private_materials += one.is_private ? 1 : 0;
+        count_private_materials();
         count_dictionaries();
         return std::move(result);
     }
@@ -127,6 +128,16 @@ private:
             result.smooth_edges += e.smooth ? 1 : 0;
             result.hidden_edges += e.hidden ? 1 : 0;
         }
+    }
+
+    // Those of layers stand with their layers and count there.
+    void count_private_materials() {
+        std::vector<bool> is_of_layer(m.materials.size(), false);
+        for (const layer& one : m.layers)
+            if (one.material != no_index)
+                is_of_layer[one.material] = true;
+        for (index at = 0; at < m.materials.size(); ++at)
+            result.private_materials += m.materials[at].is_private && !is_of_layer[at] ? 1 : 0;
     }
 
     void add_owner(const char* owner, index_range dictionaries) {

@@ -36,7 +36,7 @@ struct model_counts {
     std::size_t guides = 0;
     std::size_t texts = 0;
     std::size_t dimensions = 0;
-    std::size_t private_materials = 0;
+    std::size_t private_materials = 0; // of images, and whatever else the host does not list but the layers' own
     std::size_t dictionaries = 0;
     std::map<std::string, std::size_t> dictionaries_by_owner;
     std::map<std::string, std::size_t> dictionaries_by_name;

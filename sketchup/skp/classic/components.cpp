@@ -95,10 +95,16 @@ void model_reader::read_relationship(std::uint32_t) {
     ref(placements);
 }
 
-// CComponentDefinition
+// CComponentDefinition. What is on the stack here is there once for each level of nesting, hence the second function.
 void model_reader::read_component_definition(std::uint32_t slot) {
-    sketchup::component_definition d = begin(m_.definitions, slot);
+    in_.set_place(slot, static_cast<index>(definitions_.size()));
+    sketchup::component_definition& d = definitions_.emplace_back();
+    d.id = m_.give_id();
     read_component(d, d.entities, false);
+    read_definition_rest(d);
+}
+
+void model_reader::read_definition_rest(sketchup::component_definition& d) {
     d.guid = read_guid(in_);
     d.name = in_.text();
     d.description = in_.text();
@@ -112,7 +118,6 @@ void model_reader::read_component_definition(std::uint32_t slot) {
         in_.fail("unknown kind of definition " + std::to_string(kind));
     d.what = static_cast<sketchup::definition_kind>(kind);
     ref(object_class::thumbnail);
-    keep(m_.definitions, slot, d);
 }
 
 // CComponentBehavior
@@ -133,15 +138,20 @@ sketchup::component_behavior model_reader::read_component_behavior() {
 
 // CComponentInstance, CGroup, CImage. The definition may be introduced here.
 void model_reader::read_placement(std::uint32_t slot, sketchup::entity_kind kind) {
-    sketchup::placement p = begin(m_.placements, slot, kind);
+    in_.set_place(slot, static_cast<index>(placements_.size()));
+    sketchup::placement& p = placements_.emplace_back(kind);
+    p.id = m_.give_id();
     p.locked = read_drawing(p).locked;
     p.definition = required_ref(object_class::component_definition).place;
+    read_placement_rest(p);
+}
+
+void model_reader::read_placement_rest(sketchup::placement& p) {
     p.transform = read_transform(in_);
     if (layout_.component_instance >= 4)
         p.name = in_.text();
     if (layout_.component_instance >= 5)
         p.guid = read_guid(in_);
-    keep(m_.placements, slot, p);
 }
 
 } // namespace skp

@@ -3,7 +3,9 @@
 #include "sketchup/skp/classic/model_reader.h"
 
 #include <algorithm>
-#include <numeric>
+#include <cstddef>
+#include <utility>
+#include <vector>
 
 namespace skp {
 
@@ -122,12 +124,11 @@ std::vector<index> new_positions(const std::vector<index>& listed, std::size_t c
     return position;
 }
 
-template<class T>
-void reorder(std::vector<T>& elements, const std::vector<index>& position) {
-    std::vector<T> sorted(elements.size());
+template<class Elements, class T>
+void put_in_order(Elements& elements, const std::vector<index>& position, std::vector<T>& sorted) {
+    sorted.resize(elements.size());
     for (std::size_t i = 0; i < elements.size(); ++i)
         sorted[position[i]] = std::move(elements[i]);
-    elements = std::move(sorted);
 }
 
 template<class T>
@@ -140,10 +141,13 @@ void move_layers(std::vector<T>& elements, const std::vector<index>& position) {
 
 // A definition may have been written inside the list of another one; the root's list tells the order.
 void model_reader::finish_definitions() {
-    const std::vector<index> position = new_positions(definition_order_, m_.definitions.size());
-    reorder(m_.definitions, position);
-    for (sketchup::placement& p : m_.placements)
+    const std::vector<index> position = new_positions(definition_order_, definitions_.size());
+    put_in_order(definitions_, position, m_.definitions);
+    m_.placements.reserve(placements_.size());
+    for (sketchup::placement& p : placements_) {
         p.definition = position[p.definition];
+        m_.placements.push_back(std::move(p));
+    }
 }
 
 // Likewise the layers, of which the first is the default one and always there.
@@ -156,7 +160,9 @@ void model_reader::finish_layers() {
     const std::vector<index> position = new_positions(layer_order_, m_.layers.size());
     if (std::ranges::is_sorted(position))
         return;
-    reorder(m_.layers, position);
+    std::vector<sketchup::layer> listed;
+    put_in_order(m_.layers, position, listed);
+    m_.layers = std::move(listed);
     move_layers(m_.definitions, position);
     move_layers(m_.edges, position);
     move_layers(m_.faces, position);

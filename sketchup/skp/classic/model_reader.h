@@ -7,6 +7,7 @@
 #include "sketchup/skp/classic/archive.h"
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <span>
@@ -18,8 +19,9 @@
 namespace skp {
 
 // How deep objects may be introduced inside one another. A definition that is introduced at its first placement takes
-// two steps, so chains of 1000 and more fit; the reader recurses along them, some hundred bytes of stack a step.
-inline constexpr int deepest_object_nesting = 2500;
+// two steps, so 1000 of them fit and some more. The reader recurses along them with about 300 bytes of stack a step,
+// which keeps the deepest file within the smallest stack in use, one megabyte.
+inline constexpr int deepest_object_nesting = 2100;
 
 class model_reader {
 public:
@@ -155,6 +157,7 @@ private:
     void read_relationships(sketchup::entity_list& list);
     void read_relationship(std::uint32_t slot);
     void read_component_definition(std::uint32_t slot);
+    void read_definition_rest(sketchup::component_definition& d);
     sketchup::component_behavior read_component_behavior();
     void read_component_instance(std::uint32_t slot) {
         read_placement(slot, sketchup::entity_kind::component_instance);
@@ -162,6 +165,7 @@ private:
     void read_group(std::uint32_t slot) { read_placement(slot, sketchup::entity_kind::group); }
     void read_image(std::uint32_t slot) { read_placement(slot, sketchup::entity_kind::image); }
     void read_placement(std::uint32_t slot, sketchup::entity_kind kind);
+    void read_placement_rest(sketchup::placement& p);
 
     // annotations.cpp
     void read_construction_geometry(std::uint32_t slot);
@@ -233,6 +237,9 @@ private:
     index open_loop_ = sketchup::no_index; // the loop whose uses are being read
     bool in_private_layers_ = false;       // in the list of layers that a definition has for itself
 
+    // These two hold one another, so they wait for the model where their addresses stay when more are introduced.
+    std::deque<sketchup::component_definition> definitions_;
+    std::deque<sketchup::placement> placements_;
     std::vector<container> containers_;
     std::vector<sketchup::attribute_dictionary> open_dictionaries_; // of unfinished containers, the innermost's last
     std::vector<stored_picture> stored_pictures_;

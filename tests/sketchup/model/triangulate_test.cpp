@@ -117,6 +117,8 @@ TEST(Triangulate, corners_at_one_point_become_one_vertex) {
         mesh_of({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {2, 1, 0}, {2, 2, 0}, {1, 2, 0}, {1, 1, 0}, {0, 1, 0}}, up);
     EXPECT_EQ(std::count(mesh.vertices.begin(), mesh.vertices.end(), vec3{1, 1, 0}), 1);
     EXPECT_THAT(mesh.vertices, SizeIs(7));
+    EXPECT_THAT(mesh.corners, testing::Not(testing::Contains(no_index)))
+        << "the vertex stands for one of the two corners";
     EXPECT_DOUBLE_EQ(area_of(mesh), 2);
 }
 

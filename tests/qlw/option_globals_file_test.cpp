@@ -1,0 +1,150 @@
+// How settings travel in the option file.
+
+#include "qlw/option_globals_file.h"
+
+#include "settings_fixture.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class OptionGlobalsFile : public settings_fixture {
+protected:
+    OptionGlobalsFile() { register_all_globals(); }
+
+    // Whether reading these lines changed a setting.
+    bool changes(const std::string& lines) {
+        cl_input_file file;
+        EXPECT_TRUE(file.open(folder.write("in.txt", lines), 0, "test", __LINE__));
+        return read_option_globals_from_open_file(file);
+    }
+
+    std::string written() {
+        cl_output_file file;
+        EXPECT_TRUE(file.open(folder / "out.txt", quiet_open));
+        write_option_globals_to_open_file(file);
+        file.close();
+        return folder.read("out.txt");
+    }
+
+    temporary_folder folder;
+};
+
+TEST_F(OptionGlobalsFile, comments_blank_lines_and_lines_without_a_name_are_skipped) {
+    set_global_int("ivl_resx", 640);
+    EXPECT_FALSE(changes("# comment\n#ivl_resx;1\n\n   \n;value\nivl_resx\n"));
+    EXPECT_EQ(get_global_int("ivl_resx"), 640);
+}
+
+TEST_F(OptionGlobalsFile, a_blank_behind_the_separator_makes_no_difference) {
+    set_global_int("ivl_resx", 640);
+    EXPECT_TRUE(changes("ivl_resx;800\n"));
+    EXPECT_EQ(get_global_int("ivl_resx"), 800);
+    EXPECT_FALSE(changes("  ivl_resx ; 800  \r\n"));
+}
+
+TEST_F(OptionGlobalsFile, a_name_alone_with_its_separator_has_the_empty_value) {
+    set_global_int("ivl_resx", 640);
+    set_global_string("stest_text", "text");
+    EXPECT_TRUE(changes("ivl_resx;\nstest_text;\n"));
+    EXPECT_EQ(get_global_int("ivl_resx"), 0);
+    EXPECT_EQ(get_global_string("stest_text"), "");
+}
+
+TEST_F(OptionGlobalsFile, every_type_is_read_by_the_first_letter_of_its_name) {
+    EXPECT_TRUE(changes("btest_flag; 7\nitest_count; -3\nrtest_size; 0.5\nptest_point; (1, 2, 3)\nstest_text; a b\n"
+                        "ctest_color; 16777215\nxtest_other; 1\n"));
+    EXPECT_TRUE(get_global_bool("btest_flag"));
+    EXPECT_EQ(get_global_int("itest_count"), -3);
+    EXPECT_EQ(get_global_double("rtest_size"), 0.5);
+    EXPECT_EQ(get_global_fpt("ptest_point"), (fpt{1, 2, 3}));
+    EXPECT_EQ(get_global_string("stest_text"), "a b");
+    EXPECT_EQ(get_global_COLORREF("ctest_color"), 0xffffffu);
+    EXPECT_EQ(global_variables.lookup("xtest_other"), nullptr);
+}
+
+TEST_F(OptionGlobalsFile, a_name_that_no_table_holds_survives_from_file_to_file) {
+    changes("itest_unknown; 5\n");
+    EXPECT_THAT(written(), HasSubstr("itest_unknown; 5\r\n"));
+}
+
+TEST_F(OptionGlobalsFile, a_doubled_backslash_is_one_and_is_doubled_again) {
+    changes("stest_path; c:\\\\tmp\\\\x\n");
+    EXPECT_EQ(get_global_string("stest_path"), "c:\\tmp\\x");
+    EXPECT_THAT(written(), HasSubstr("stest_path; c:\\\\tmp\\\\x\r\n"));
+}
+
+TEST_F(OptionGlobalsFile, a_line_break_in_a_text_comes_back_as_a_backslash_and_n) {
+    set_global_string("stest_text", "one\r\ntwo");
+    const std::string text = written();
+    EXPECT_THAT(text, HasSubstr("stest_text; one\\ntwo\r\n"));
+    changes(text);
+    EXPECT_EQ(get_global_string("stest_text"), "one\\ntwo");
+}
+
+TEST_F(OptionGlobalsFile, image_filters_are_left_out_unless_they_are_remembered) {
+    set_global_bool("bvl_remember_filters", false);
+    changes("ivl_image_filters; 3\nsvl_image_filters; blur\n");
+    set_global_bool("bvl_remember_filters", false);
+    EXPECT_THAT(written(), Not(HasSubstr("vl_image_filters")));
+    set_global_bool("bvl_remember_filters", true);
+    EXPECT_THAT(written(), HasSubstr("ivl_image_filters; 3\r\n"));
+}
+
+TEST_F(OptionGlobalsFile, a_double_that_differs_in_the_tenth_digit_counts_as_changed) {
+    set_global_double("rtest_size", 0.12345678901);
+    EXPECT_TRUE(changes("rtest_size; 0.123456789\n"));
+    EXPECT_EQ(get_global_double("rtest_size"), 0.123456789);
+}
+
+TEST_F(OptionGlobalsFile, a_double_near_zero_is_written_as_it_is) {
+    set_global_double("rtest_size", 1e-9);
+    EXPECT_THAT(written(), HasSubstr("rtest_size; 1e-09\r\n"));
+}
+
+TEST_F(OptionGlobalsFile, a_point_that_is_nearly_the_same_is_left_alone) {
+    set_global_fpt("ptest_point", {1, 2, 3});
+    EXPECT_FALSE(changes("ptest_point; (1.00000000001, 2, 3)\n"));
+    EXPECT_EQ(get_global_fpt("ptest_point"), (fpt{1, 2, 3}));
+}
+
+TEST_F(OptionGlobalsFile, a_colour_is_written_as_a_plain_number) {
+    set_global_COLORREF("ctest_color", 0xffffff);
+    EXPECT_THAT(written(), HasSubstr("ctest_color; 16777215\r\n"));
+}
+
+TEST_F(OptionGlobalsFile, a_setting_of_the_profile_is_set_and_not_written) {
+    global_variables.create_variable("itest_own", SAVE_PROFILE);
+    changes("itest_own; 5\n");
+    EXPECT_EQ(get_global_int("itest_own"), 5);
+    EXPECT_THAT(written(), Not(HasSubstr("itest_own")));
+}
+
+TEST_F(OptionGlobalsFile, lines_come_out_sorted) {
+    changes("itest_b; 1\nitest_a; 2\n");
+    const std::string text = written();
+    EXPECT_LT(text.find("itest_a"), text.find("itest_b"));
+}
+
+TEST_F(OptionGlobalsFile, a_name_of_no_type_is_reported_when_writing) {
+    global_variables.create_variable("xtest_other", OPTION_GLOBAL);
+    reported();
+    EXPECT_THAT(written(), Not(HasSubstr("xtest_other")));
+    EXPECT_THAT(reported(), testing::Contains(HasSubstr("Unknown option_global: xtest_other")));
+}
+
+TEST_F(OptionGlobalsFile, a_missing_file_changes_nothing) {
+    read_option_globals(folder / "missing.txt");
+    read_option_globals("");
+}
+
+TEST_F(OptionGlobalsFile, a_file_that_is_not_open_is_reported) {
+    reported();
+    cl_output_file closed;
+    write_option_globals_to_open_file(closed);
+    EXPECT_THAT(reported(), testing::Contains(HasSubstr("Options Global FIle not found")));
+}
+
+} // namespace

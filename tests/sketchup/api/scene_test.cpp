@@ -1,0 +1,60 @@
+#include "tests/sketchup/api/test_model.h"
+
+#include <gtest/gtest.h>
+
+using sketchup::model_builder;
+
+TEST(Camera, gives_eye_target_and_a_unit_up_vector) {
+    model_builder builder;
+    builder.model().camera.eye = {1, 2, 3};
+    builder.model().camera.target = {4, 5, 6};
+    builder.model().camera.up = {0, 3, 4};
+    test_model opened(builder);
+    SUCameraRef camera = SU_INVALID;
+    EXPECT_EQ(SUModelGetCamera(opened.ref, &camera), SU_ERROR_NONE);
+    SUPoint3D eye{}, target{};
+    SUVector3D up{};
+    EXPECT_EQ(SUCameraGetOrientation(camera, &eye, &target, &up), SU_ERROR_NONE);
+    EXPECT_EQ(eye.x, 1);
+    EXPECT_EQ(target.z, 6);
+    EXPECT_EQ(up.y, 0.6);
+    EXPECT_EQ(up.z, 0.8);
+    EXPECT_EQ(SUCameraGetOrientation(camera, &eye, nullptr, &up), SU_ERROR_NULL_POINTER_OUTPUT);
+}
+
+TEST(Scene, gives_its_own_camera_if_it_keeps_one) {
+    model_builder builder;
+    builder.scene("Bare");
+    const sketchup::index kept = builder.scene("Kept", true);
+    builder.model().scenes[0].camera = sketchup::no_index;
+    builder.model().cameras.emplace_back().eye = {9, 0, 0};
+    builder.model().scenes[kept].camera = static_cast<sketchup::index>(builder.model().cameras.size() - 1);
+    test_model opened(builder);
+    const auto scenes = all_of(SUModelGetNumScenes, SUModelGetScenes, opened.ref);
+    SUCameraRef camera = SU_INVALID;
+    EXPECT_EQ(SUSceneGetCamera(scenes[0], &camera), SU_ERROR_NO_DATA);
+    EXPECT_EQ(SUSceneGetCamera(scenes[kept], &camera), SU_ERROR_NONE);
+    SUPoint3D eye{}, target{};
+    SUVector3D up{};
+    EXPECT_EQ(SUCameraGetOrientation(camera, &eye, &target, &up), SU_ERROR_NONE);
+    EXPECT_EQ(eye.x, 9);
+}
+
+TEST(RenderingOptions, are_found_by_name) {
+    model_builder builder;
+    builder.model().rendering_options.values = {
+        {"DrawGround", sketchup::truth(true)},
+        {"FaceFrontColor", {sketchup::value_code::color, sketchup::rgba{1, 2, 3, 255}}},
+    };
+    test_model opened(builder);
+    SURenderingOptionsRef options = SU_INVALID;
+    EXPECT_EQ(SUModelGetRenderingOptions(opened.ref, &options), SU_ERROR_NONE);
+    test_value value;
+    EXPECT_EQ(SURenderingOptionsGetValue(options, "FaceFrontColor", &value.ref), SU_ERROR_NONE);
+    EXPECT_EQ(value.type(), SUTypedValueType_Color);
+    EXPECT_EQ(SURenderingOptionsGetValue(options, "DrawGround", &value.ref), SU_ERROR_NONE);
+    EXPECT_EQ(value.type(), SUTypedValueType_Bool);
+    EXPECT_EQ(SURenderingOptionsGetValue(options, "NoSuchOption", &value.ref), SU_ERROR_NO_DATA);
+    EXPECT_EQ(SURenderingOptionsGetValue(options, nullptr, &value.ref), SU_ERROR_NULL_POINTER_INPUT);
+    EXPECT_EQ(SURenderingOptionsGetValue(SU_INVALID, "DrawGround", &value.ref), SU_ERROR_INVALID_INPUT);
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+// A reader whose stream is open, on a model that was built in memory.
+
+#include "qlw/qlw_globals.h"
+#include "sketchup/api/handles.h"
+#include "sketchup/model/model_builder.h"
+#include "sketchup/skp/link.h"
+#include "tessaline/handle_lists.h"
+#include "tessaline/run_state.h"
+#include "tessaline/SketchUpReader.h"
+#include "tests/tessaline/stream_text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+class reader_test : public testing::Test {
+protected:
+    reader_test() {
+        reset_process();
+        reset_settings();
+        set_global_bool("bvl_show_bulbs", true);
+        set_global_int("ivl_2_sided_faces", 0);
+        SUInitialize();
+        reader.stream.open(stream_name.c_str(), "Tessaline");
+        current_oparms = oparms_array.push();
+    }
+    ~reader_test() override {
+        if (SUIsValid(open_model))
+            SUModelRelease(&open_model);
+        SUTerminate();
+        reset_process();
+        reset_settings();
+    }
+
+    // Opens what the builder holds as the model of the run.
+    void open() {
+        auto model = builder.finish();
+        skp::link(*model);
+        open_model = sketchup::api::adopt_model(std::move(model));
+        for (const SULayerRef layer : all_handles(SUModelGetNumLayers, SUModelGetLayers, open_model))
+            layers.add(layer);
+    }
+
+    // The faces of the model's own list, in its order.
+    std::vector<SUFaceRef> faces() const {
+        SUEntitiesRef entities = SU_INVALID;
+        SUModelGetEntities(open_model, &entities);
+        return all_handles(SUEntitiesGetNumFaces, SUEntitiesGetFaces, entities);
+    }
+
+    // Walks over all of them as the walk does, each on a level of its own. Gives what ProcessFace gave for the last.
+    int process_faces(const transform16& matrix = identity16) {
+        int result = -1;
+        for (const SUFaceRef face : faces()) {
+            current_oparms = oparms_array.push();
+            result = reader.ProcessFace(face, matrix, is_mirrored(matrix), "");
+            current_oparms = oparms_array.pop();
+        }
+        return result;
+    }
+
+    // What the stream holds; it is closed afterwards.
+    std::string stream_text() {
+        reader.stream.close();
+        return file_text(stream_name);
+    }
+
+    const std::string stream_name = test_file_name();
+    SketchUpReader reader;
+    sketchup::model_builder builder;
+};
+
+// The vertices of a square of 100 inches in the plane z = 0 and its two triangles, in the order of the host.
+inline const std::string square_without_uvq =
+    lines({"NORM;(0,0,1)", "VERT;(2.54,0,0)", "ADDV;0", "NORM;(0,0,1)", "VERT;(0,2.54,0)", "ADDV;1", "NORM;(0,0,1)",
+           "VERT;(0,0,0)", "ADDV;2", "NORM;(0,0,1)", "VERT;(2.54,2.54,0)", "ADDV;3", "FACE;0,1,2", "FACE;1,0,3"});
