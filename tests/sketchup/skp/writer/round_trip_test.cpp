@@ -142,3 +142,15 @@ TEST(RoundTrip, a_description_tells_models_apart) {
     other->vertices.back().position.z += 1e-9;
     EXPECT_NE(first_difference(description_of(*one), description_of(*other)), "");
 }
+
+TEST(RoundTrip, random_models_hold_everything_that_a_model_can_hold) {
+    std::set<std::string> words; // the first of each line
+    for (std::uint64_t seed = 1; seed <= 20; ++seed)
+        for (const std::string& line : description_of(*random_model(seed))) {
+            const std::size_t begin = line.find_first_not_of(' ');
+            words.insert(line.substr(begin, line.find(' ', begin) - begin));
+        }
+    for (const char* expected : {"folder", "holds", "dictionary", "texture", "picture", "curve", "about", "front",
+                                 "group", "instance", "image", "section", "annotation", "scene", "hides", "cuts"})
+        EXPECT_TRUE(words.contains(expected)) << expected;
+}
