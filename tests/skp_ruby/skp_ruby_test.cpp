@@ -43,7 +43,7 @@ TEST(HexEncode, each_fault_of_the_frame_is_reported_and_gives_nothing) {
         {"", "encoded string for n does not start with '['): (  )"},
         {"[m][00000002]-48", "encoded string hex_name n does not match: ( [m][00000002]-48 )"},
         {"[n)[00000002]-48", "encoded string for n does not end with ']': ( [n)[00000002]-48 )"},
-        {"[n]00000002]-4849494949", "encoded string for n does not have buffer length: ( [n]00000002]-48494949 )"},
+        {"[n]00000002]-4849494949", "encoded string for n does not have buffer length: ( [n]00000002]-4849494 )"},
         {"[n][0000002]-48", "encoded string for n does not have buffer length: ( [n][0000002]-48 )"},
     };
     for (const auto& [text, message] : faults) {

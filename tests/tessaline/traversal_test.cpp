@@ -2,6 +2,11 @@
 
 #include "run_fixture.h"
 
+#include "sketchup/api/handles.h"
+#include "sketchup/skp/link.h"
+
+#include <utility>
+
 namespace {
 
 using sketchup::list_builder;
@@ -280,6 +285,28 @@ TEST_F(Traversal, nesting_of_a_thousand_levels_is_walked_on_the_usual_stack) {
     list.square(10);
     const auto vertices = tagged(body_of(m), "VERT");
     EXPECT_THAT(vertices, testing::Contains("VERT;(25.4,0,0)")); // 1000 inches along x
+}
+
+TEST_F(Traversal, the_deepest_nesting_that_a_model_may_have_is_walked_on_the_usual_stack) {
+    constexpr int levels = skp::deepest_nesting;
+    model_builder m;
+    list_builder list = m.root();
+    for (int level = 0; level < levels; ++level)
+        list = list.group({}, sketchup::moved({1, 0, 0}));
+    list.square(10);
+    auto model = m.finish();
+    skp::link(*model);
+    open_model = sketchup::api::adopt_model(std::move(model)); // no file: its own limits are not asked here
+    SUEntitiesRef top = SU_INVALID;
+    SUModelGetEntities(open_model, &top);
+    std::string path;
+    reader.CountEntities(top);
+    EXPECT_EQ(reader.items_done, 1);
+    reader.ProcessEntities(top, identity16, path, 0);
+    EXPECT_EQ(reader.items_done, 2);
+    EXPECT_EQ(path, "");
+    EXPECT_EQ(oparms_array.size(), 1);
+    SUModelRelease(&open_model);
 }
 
 TEST_F(Traversal, a_second_reading_of_the_process_starts_with_clean_tables) {
