@@ -1,7 +1,7 @@
 #include "tests/sketchup/api/test_model.h"
 
 #include "sketchup/api/texture_file_name.h"
-#include "tests/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -43,10 +43,10 @@ TEST(Texture, writes_its_stored_bytes_unchanged) {
     model_builder builder;
     builder.textured_material("Brick", {'B', 'M', 0, 255}, "brick.bmp", 10, 20);
     test_model opened(builder);
-    const std::string path = folder.file("original.bmp");
+    const std::string path = folder / "original.bmp";
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), path.c_str()), SU_ERROR_NONE);
-    EXPECT_EQ(text_of_file(path), std::string("BM\0\xFF", 4));
-    EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), folder.file("no/folder.bmp").c_str()),
+    EXPECT_EQ(folder.read("original.bmp"), std::string("BM\0\xFF", 4));
+    EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), (folder / "no/folder.bmp").c_str()),
               SU_ERROR_SERIALIZATION);
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), nullptr), SU_ERROR_NULL_POINTER_INPUT);
 }
@@ -57,7 +57,7 @@ TEST(Texture, without_a_picture_writes_nothing) {
     builder.textured_material("Brick", {}, "brick.bmp", 10, 20);
     builder.model().textures[0].picture = sketchup::no_index;
     test_model opened(builder);
-    const std::string path = folder.file("picture.png");
+    const std::string path = folder / "picture.png";
     EXPECT_EQ(SUTextureWriteToFile(opened.texture(), path.c_str()), SU_ERROR_SERIALIZATION);
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), path.c_str()), SU_ERROR_SERIALIZATION);
     EXPECT_FALSE(std::filesystem::exists(path));
