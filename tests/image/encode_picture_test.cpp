@@ -90,7 +90,7 @@ TEST(WritePicture, chooses_the_format_by_the_extension_in_any_case) {
                                        {"a.Tif", picture_format::tiff},
                                        {"a.bmp", picture_format::bmp}}) {
         EXPECT_TRUE(image::write_picture((folder / name), source)) << name;
-        const std::string text = text_of_file((folder / name));
+        const std::string text = folder.read(name);
         EXPECT_EQ(std::vector<std::uint8_t>(text.begin(), text.end()), encode_picture(source, format)) << name;
     }
 }
@@ -109,14 +109,14 @@ TEST(WritePicture, leaves_no_file_if_it_fails) {
 
 TEST(WritePicture, leaves_a_file_of_another_kind_alone) {
     const temporary_folder folder;
-    write_file((folder / "notes.txt"), "keep me");
+    folder.write("notes.txt", "keep me");
     EXPECT_FALSE(image::write_picture((folder / "notes.txt"), gradient(8, 8)));
-    EXPECT_EQ(text_of_file((folder / "notes.txt")), "keep me");
+    EXPECT_EQ(folder.read("notes.txt"), "keep me");
 }
 
 TEST(WritePicture, replaces_an_old_file) {
     const temporary_folder folder;
-    write_file((folder / "a.bmp"), std::string(100000, 'x'));
+    folder.write("a.bmp", std::string(100000, 'x'));
     EXPECT_TRUE(image::write_picture((folder / "a.bmp"), gradient(2, 2)));
     EXPECT_EQ(std::filesystem::file_size((folder / "a.bmp")), 54u + 2 * 8);
 }

@@ -259,7 +259,7 @@ TEST(TextureFromFile, has_the_tile_size_that_was_asked_for) {
 
 TEST(TextureFromFile, needs_a_picture) {
     const temporary_folder folder;
-    write_file((folder / "words.png"), "words");
+    folder.write("words.png", "words");
     SUTextureRef texture = SU_INVALID;
     EXPECT_EQ(SUTextureCreateFromFile(&texture, (folder / "words.png").c_str(), 1, 1), SU_ERROR_SERIALIZATION);
     EXPECT_EQ(SUTextureCreateFromFile(&texture, (folder / "missing.png").c_str(), 1, 1), SU_ERROR_SERIALIZATION);
