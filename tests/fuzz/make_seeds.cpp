@@ -3,6 +3,7 @@
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tests/fuzz/modern_seeds.h"
+#include "tests/fuzz/picture_seeds.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -68,6 +69,13 @@ bool write_modern_seeds(const std::filesystem::path& folder) {
     return write(folder / "empty", record_bytes::rec(500)) && write(folder / "all", modern_seeds::one_of_everything());
 }
 
+bool write_picture_seeds(const std::filesystem::path& folder) {
+    bool written = true;
+    for (const auto& [name, bytes] : picture_seeds())
+        written = write(folder / name, bytes) && written;
+    return written;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -76,7 +84,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    if (write_classic_seeds(folder / "fuzz_classic") && write_modern_seeds(folder / "fuzz_modern"))
+    if (write_classic_seeds(folder / "fuzz_classic") && write_modern_seeds(folder / "fuzz_modern") &&
+        write_picture_seeds(folder / "fuzz_picture"))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
