@@ -20,7 +20,7 @@ SUResult open(const std::string& path) {
 } // namespace
 
 TEST(OpeningAModel, a_missing_file_is_a_reading_error) {
-    EXPECT_EQ(open(temporary_folder().name() + "/nowhere.skp"), SU_ERROR_SERIALIZATION);
+    EXPECT_EQ(open(temporary_folder() / "nowhere.skp"), SU_ERROR_SERIALIZATION);
 }
 
 TEST(OpeningAModel, a_folder_is_a_reading_error) {
@@ -30,13 +30,13 @@ TEST(OpeningAModel, a_folder_is_a_reading_error) {
 TEST(OpeningAModel, an_empty_file_is_no_model) {
     const temporary_folder folder;
     folder.write("empty.skp", "");
-    EXPECT_EQ(open(folder.name() + "/empty.skp"), SU_ERROR_MODEL_INVALID);
+    EXPECT_EQ(open(folder / "empty.skp"), SU_ERROR_MODEL_INVALID);
 }
 
 TEST(OpeningAModel, twenty_bytes_of_text_are_no_model) {
     const temporary_folder folder;
     folder.write("text.skp", "twenty bytes of text");
-    EXPECT_EQ(open(folder.name() + "/text.skp"), SU_ERROR_MODEL_INVALID);
+    EXPECT_EQ(open(folder / "text.skp"), SU_ERROR_MODEL_INVALID);
 }
 
 TEST(OpeningAModel, null_pointers_are_told_apart) {
