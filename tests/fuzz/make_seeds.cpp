@@ -4,6 +4,7 @@
 #include "sketchup/skp/writer/classic_writer.h"
 #include "sketchup/skp/writer/modern_writer.h"
 #include "tests/fuzz/modern_seeds.h"
+#include "tests/fuzz/picture_seeds.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -115,6 +116,13 @@ bool write_modern_seeds(const std::filesystem::path& folder) {
            write(folder / "all_25", skp::modern_model_data(*one_of_everything(), v25));
 }
 
+bool write_picture_seeds(const std::filesystem::path& folder) {
+    bool written = true;
+    for (const auto& [name, bytes] : picture_seeds())
+        written = write(folder / name, bytes) && written;
+    return written;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -124,7 +132,7 @@ int main(int argc, char** argv) {
     }
     const std::filesystem::path folder = argv[1];
     if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder / "fuzz_classic") &&
-        write_modern_seeds(folder / "fuzz_modern"))
+        write_modern_seeds(folder / "fuzz_modern") && write_picture_seeds(folder / "fuzz_picture"))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
