@@ -2,6 +2,7 @@
 
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
+#include "tests/fuzz/modern_seeds.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -63,6 +64,10 @@ bool write_classic_seeds(const std::filesystem::path& folder) {
     return written;
 }
 
+bool write_modern_seeds(const std::filesystem::path& folder) {
+    return write(folder / "empty", record_bytes::rec(500)) && write(folder / "all", modern_seeds::one_of_everything());
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -70,7 +75,8 @@ int main(int argc, char** argv) {
         std::fputs("usage: make_seeds FOLDER\n", stderr);
         return 2;
     }
-    if (write_classic_seeds(std::filesystem::path(argv[1]) / "fuzz_classic"))
+    const std::filesystem::path folder = argv[1];
+    if (write_classic_seeds(folder / "fuzz_classic") && write_modern_seeds(folder / "fuzz_modern"))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
