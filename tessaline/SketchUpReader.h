@@ -50,6 +50,8 @@ public:
     // model_reading.cpp: the order of one reading.
     // Gives 1 when the run ended, -1 when the model could not be opened; nothing has been written then.
     int ReadSkpFile(const std::string& input_path, const std::string& output_path);
+    // Ends a reading that was broken off: closes the stream as it stands, and the model if it is open.
+    void abandon_reading();
 
     // counting.cpp: how many steps of progress the walk will report.
     // Adds those of the list, and of all that it places, to items_done. Hidden content counts too. Always 1.

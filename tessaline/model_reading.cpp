@@ -4,6 +4,8 @@
 #include "platform/platform.h"
 #include "qlw/option_globals_file.h"
 #include "qlw/qlw_trace.h"
+#include "qlw/text_format.h"
+#include "qlw/trace_state.h"
 #include "tessaline/batch_folders.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/layer_inheritance.h"
@@ -88,6 +90,8 @@ int SketchUpReader::ReadSkpFile(const std::string& input_path, const std::string
     if (!open_the_model(input_path))
         return -1;
     SUModelGetVersion(open_model, &version_major, &version_minor, &version_build);
+    trace_state().notes.sketchup_version =
+        format_text("%d.%d.%d", version_major, version_minor, version_build).value_or(std::string());
     make_texture_writer();
 
     const std::string options = joined(folder_of(input_path), "option_globals.txt");
@@ -117,6 +121,14 @@ int SketchUpReader::ReadSkpFile(const std::string& input_path, const std::string
     SUTerminate();
     theApp.xml_options.reading_ended = now();
     return 1;
+}
+
+void SketchUpReader::abandon_reading() {
+    stream.close();
+    if (SUIsValid(open_model))
+        close_the_model();
+    SUTerminate();
+    theApp.xml_options.reading_ended = now();
 }
 
 void SketchUpReader::open_stream(const std::string& output_path) {
