@@ -2,6 +2,7 @@
 
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
+#include "tests/fuzz/text_seeds.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -70,7 +71,7 @@ int main(int argc, char** argv) {
         std::fputs("usage: make_seeds FOLDER\n", stderr);
         return 2;
     }
-    if (write_classic_seeds(std::filesystem::path(argv[1]) / "fuzz_classic"))
+    if (write_classic_seeds(std::filesystem::path(argv[1]) / "fuzz_classic") && write_text_seeds(argv[1]))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
