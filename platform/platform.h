@@ -78,6 +78,35 @@ void debug_output(std::string_view text);
 // or the text alone if the title is empty; nothing waits.
 void message_box(std::string_view title, std::string_view text);
 
+// ---- the error dialog (error_dialog.cpp)
+
+// Which of the two dialogs; the numbers are those of the resource file where there is one.
+enum class error_dialog_kind {
+    message = 12042, // offers "More" and, if asked to, a check box that silences the place of the message
+    report = 12049,  // offers "Copy"
+};
+
+struct error_dialog_view {
+    error_dialog_kind kind = error_dialog_kind::message;
+    std::string caption;
+    std::string text; // lines end in CR LF
+    bool offers_silence = true;
+    std::function<void()> on_copy; // called when "Copy" is pressed; the dialog stays open
+};
+
+enum class error_dialog_button { ok, more };
+
+// What the user did. `more` only from the dialog that offers it.
+struct error_dialog_answer {
+    bool was_shown = true; // false if the dialog could not be started
+    error_dialog_button button = error_dialog_button::ok;
+    bool silences_place = false;
+};
+
+// Shows the dialog and comes back when it is closed. POSIX: the caption and the text on standard error, as message_box
+// prints them; the answer is OK, and nothing is silenced.
+error_dialog_answer show_error_dialog(const error_dialog_view& view);
+
 // ---- the progress window (progress.cpp)
 
 // The one window of a run. POSIX: a bar on standard error that redraws in place if that is a terminal; otherwise its

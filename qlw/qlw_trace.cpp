@@ -1,6 +1,7 @@
 #include "qlw/qlw_trace.h"
 
 #include "platform/platform.h"
+#include "qlw/error_list.h"
 #include "qlw/log_file.h"
 #include "qlw/qlw_error_dialog.h"
 #include "qlw/trace_state.h"

@@ -10,6 +10,7 @@
 #include "tessaline/placements.h"
 #include "tessaline/plants.h"
 #include "tessaline/transforms.h"
+#include "tessaline/view_file.h"
 
 #include <string>
 #include <string_view>
@@ -49,6 +50,8 @@ public:
     // model_reading.cpp: the order of one reading.
     // Gives 1 when the run ended, -1 when the model could not be opened; nothing has been written then.
     int ReadSkpFile(const std::string& input_path, const std::string& output_path);
+    // Ends a reading that was broken off: closes the stream as it stands, and the model if it is open.
+    void abandon_reading();
 
     // counting.cpp: how many steps of progress the walk will report.
     // Adds those of the list, and of all that it places, to items_done. Hidden content counts too. Always 1.
@@ -75,10 +78,6 @@ public:
     // skatter_instances.cpp: components that a scattering tool has placed.
     void process_skatter_instances();
     void count_skatter_instances();
-
-    // views_and_sun.cpp: what is read ahead of the walk.
-    void read_sun();
-    void read_view();
 
     // plants.cpp: components that stand for objects of the renderer's libraries.
     void write_rpc(SUComponentInstanceRef instance, const rpc_description& rpc, const transform16& transform);
@@ -138,6 +137,9 @@ public:
 
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
+
+    // The camera that the parent has set.
+    camera_view view;
 
     // Progress and model facts.
     int total_items = 0;

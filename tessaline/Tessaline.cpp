@@ -134,6 +134,10 @@ bool CTessalineApp::run_conversion(std::string model, std::string /*program_fold
     model_file_name = file_name_of(model);
     platform::delete_file(stream);
     SketchUpReader reader;
-    reader.ReadSkpFile(model, stream);
+    try {
+        reader.ReadSkpFile(model, stream);
+    } catch (const std::string&) { // a fatal report, which the user has seen
+        reader.abandon_reading();
+    }
     return true;
 }

@@ -24,7 +24,8 @@ public:
     // Always gives false: there is no message loop to enter, and success and failure leave by the same way.
     bool InitInstance(const std::string& command_line);
 
-    // Converts the model at input_path into the stream at output_path. The other two have no effect. Always true.
+    // Converts the model at input_path into the stream at output_path. The other two have no effect. Always true: a
+    // fatal report ends the work here, and what the stream holds by then stays.
     bool run_conversion(std::string input_path, std::string program_folder, std::string output_path,
                         std::string progress_argument);
 

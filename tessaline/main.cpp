@@ -2,14 +2,19 @@
 
 #include "platform/platform.h"
 #include "qlw/qlw_identity.h"
+#include "qlw/support_report.h"
 #include "tessaline/run_state.h"
+#include "tessaline/support_answers.h"
 #include "tessaline/usage.h"
 
+#include <cstddef>
 #include <exception>
 #include <string>
 #include <string_view>
 
 namespace {
+
+constexpr std::string_view support_option = "--support-report";
 
 // Alone and unquoted the program's name would count as the output path; in quotation marks it is known for what it is.
 std::string command_line_of(int argc, char** argv) {
@@ -27,7 +32,20 @@ bool answers_at_once(std::string_view argument) {
         platform::write_standard_output(std::string(application_name) + ' ' + TESSALINE_VERSION + '\n');
         return true;
     }
+    if (argument == support_option) {
+        print_support_report(get_support_report());
+        return true;
+    }
     return false;
+}
+
+// A run like any other, in which every error comes with its place and the report for support.
+void run_with_support_reports(std::string command_line) {
+    const std::string switch_text = ' ' + std::string(support_option);
+    if (const std::size_t at = command_line.find(switch_text); at != std::string::npos)
+        command_line.erase(at, switch_text.size());
+    const cl_support_answers answers;
+    theApp.InitInstance(command_line);
 }
 
 void report_end(std::string_view reason) {
@@ -41,11 +59,14 @@ int main(int argc, char** argv) {
     try {
         if (argc == 2 && answers_at_once(argv[1]))
             return 0;
-        theApp.InitInstance(command_line_of(argc, argv));
+        if (argc > 2 && argv[1] == support_option)
+            run_with_support_reports(command_line_of(argc, argv));
+        else
+            theApp.InitInstance(command_line_of(argc, argv));
     } catch (const std::exception& failure) {
         report_end(failure.what());
-    } catch (const std::string& message) {
-        report_end(message); // a fatal report, which the user has seen already
+    } catch (const std::string&) {
+        return 0; // a fatal report, which the user has seen
     }
     return 0;
 }

@@ -4,6 +4,8 @@
 #include "platform/platform.h"
 #include "qlw/option_globals_file.h"
 #include "qlw/qlw_trace.h"
+#include "qlw/text_format.h"
+#include "qlw/trace_state.h"
 #include "tessaline/batch_folders.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/layer_inheritance.h"
@@ -12,6 +14,7 @@
 #include "tessaline/run_state.h"
 #include "tessaline/skatter_file.h"
 #include "tessaline/SketchUpReader.h"
+#include "tessaline/sun.h"
 #include "tessaline/texture_preload.h"
 
 #include <string>
@@ -87,6 +90,8 @@ int SketchUpReader::ReadSkpFile(const std::string& input_path, const std::string
     if (!open_the_model(input_path))
         return -1;
     SUModelGetVersion(open_model, &version_major, &version_minor, &version_build);
+    trace_state().notes.sketchup_version =
+        format_text("%d.%d.%d", version_major, version_minor, version_build).value_or(std::string());
     make_texture_writer();
 
     const std::string options = joined(folder_of(input_path), "option_globals.txt");
@@ -96,7 +101,7 @@ int SketchUpReader::ReadSkpFile(const std::string& input_path, const std::string
     open_stream(output_path);
     if (!input_path.empty())
         theApp.batch_folder = folder_of(input_path);
-    read_view();
+    view = read_view_file(theApp.batch_folder);
     prepare_batch_folders();
     apply_model_dictionaries();
     read_color_by_layer();
@@ -116,6 +121,14 @@ int SketchUpReader::ReadSkpFile(const std::string& input_path, const std::string
     SUTerminate();
     theApp.xml_options.reading_ended = now();
     return 1;
+}
+
+void SketchUpReader::abandon_reading() {
+    stream.close();
+    if (SUIsValid(open_model))
+        close_the_model();
+    SUTerminate();
+    theApp.xml_options.reading_ended = now();
 }
 
 void SketchUpReader::open_stream(const std::string& output_path) {

@@ -2,12 +2,16 @@
 
 #include "sketchup/api/calls.h"
 #include "sketchup/api/image_texture.h"
+#include "sketchup/api/padded_rows.h"
 #include "sketchup/api/plain_values.h"
+#include "sketchup/api/texture_pixels.h"
 #include "sketchup/model/bounding_box.h"
 #include "sketchup/model/texture_coordinates.h"
 #include "sketchup/model/vector_math.h"
 
 namespace sketchup::api {
+
+using image::picture_extent;
 
 const texture* image_texture(const placement& image) {
     const component_definition* definition = element_at(image.owner->definitions, image.definition);
@@ -29,6 +33,19 @@ vec3 rectangle_size(const placement& image) {
         return {};
     const box rectangle = face_box(*image.owner, image.owner->faces[definition->entities.faces.front()]);
     return rectangle.is_empty() ? vec3{} : rectangle.maximum - rectangle.minimum;
+}
+
+// What `answer` makes of the announced size of an image's picture; NO_DATA if the file lacks the picture, GENERIC if
+// its header is damaged.
+template<class Answer>
+SUResult with_extent(const placement& image, Answer answer) {
+    return guarded([&]() -> SUResult {
+        const texture* found = image_texture(image);
+        if (!found || !has_pixels(*found))
+            return SU_ERROR_NO_DATA;
+        const std::optional<picture_extent> extent = extent_of_pixels(*found);
+        return extent ? answer(*extent) : SU_ERROR_GENERIC;
+    });
 }
 
 } // namespace
@@ -62,21 +79,46 @@ SUResult SUImageGetDimensions(SUImageRef image, double* width, double* height) {
 }
 
 SUResult SUImageGetPixelDimensions(SUImageRef image, size_t* width, size_t* height) {
-    if (!object_of(image))
+    const placement* p = object_of(image);
+    if (!p)
         return SU_ERROR_INVALID_INPUT;
-    return width && height ? SU_ERROR_NO_DATA : SU_ERROR_NULL_POINTER_OUTPUT;
+    if (!width || !height)
+        return SU_ERROR_NULL_POINTER_OUTPUT;
+    return with_extent(*p, [&](const picture_extent& extent) {
+        *width = extent.width;
+        *height = extent.height;
+        return SU_ERROR_NONE;
+    });
 }
 
 SUResult SUImageGetDataSize(SUImageRef image, size_t* data_size, size_t* bits_per_pixel) {
-    if (!object_of(image))
+    const placement* p = object_of(image);
+    if (!p)
         return SU_ERROR_INVALID_INPUT;
-    return data_size && bits_per_pixel ? SU_ERROR_NO_DATA : SU_ERROR_NULL_POINTER_OUTPUT;
+    if (!data_size || !bits_per_pixel)
+        return SU_ERROR_NULL_POINTER_OUTPUT;
+    return with_extent(*p, [&](const picture_extent& extent) {
+        *data_size = padded_size(extent);
+        *bits_per_pixel = static_cast<size_t>(extent.bits_per_pixel);
+        return SU_ERROR_NONE;
+    });
 }
 
-SUResult SUImageGetData(SUImageRef image, size_t /*data_size*/, SUByte pixel_data[]) {
-    if (!object_of(image))
+SUResult SUImageGetData(SUImageRef image, size_t data_size, SUByte pixel_data[]) {
+    const placement* p = object_of(image);
+    if (!p)
         return SU_ERROR_INVALID_INPUT;
-    return pixel_data ? SU_ERROR_NO_DATA : SU_ERROR_NULL_POINTER_OUTPUT;
+    if (!pixel_data)
+        return SU_ERROR_NULL_POINTER_OUTPUT;
+    return with_extent(*p, [&](const picture_extent& extent) {
+        if (data_size < padded_size(extent))
+            return SU_ERROR_INSUFFICIENT_SIZE;
+        const std::optional<image::picture> shown = shown_pixels(*image_texture(*p));
+        if (!shown || shown->extent() != extent)
+            return SU_ERROR_SERIALIZATION;
+        copy_to_padded_rows(*shown, pixel_data);
+        return SU_ERROR_NONE;
+    });
 }
 
 SUResult SUImageGetDefinition(SUImageRef image, SUComponentDefinitionRef* definition) {

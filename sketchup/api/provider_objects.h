@@ -3,6 +3,7 @@
 // What the provider makes for a caller beside models. All of it comes from pools and goes back there, so that a helper
 // for each face, a string for each name costs no allocation once the pools are warm.
 
+#include "image/picture.h"
 #include "sketchup/model/model.h"
 #include "sketchup/model/texture_coordinates.h"
 #include "sketchup/model/triangulate.h"
@@ -91,11 +92,7 @@ struct texture_writer : provider_object {
 
 // A texture that the caller made and that belongs to no model.
 struct loose_texture : texture {
-    // Rows from the top, padded to a multiple of 4 bytes; blue, green, red(, alpha).
-    std::vector<unsigned char> pixels;
-    std::size_t pixel_width = 0;
-    std::size_t pixel_height = 0;
-    std::size_t bits_per_pixel = 0;
+    image::picture pixels;
 };
 
 } // namespace sketchup::api

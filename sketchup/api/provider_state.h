@@ -2,6 +2,7 @@
 
 // All that the provider keeps from call to call.
 
+#include "image/picture.h"
 #include "sketchup/api/key_lookup.h"
 #include "sketchup/api/object_pool.h"
 #include "sketchup/api/provider_objects.h"
@@ -21,10 +22,14 @@ namespace sketchup::api {
 // A model and what was worked out about it so far.
 struct open_model {
     std::unique_ptr<sketchup::model> model;
-    std::optional<vertex_normals> normals;                                              // for the first mesh
-    std::optional<box_cache> boxes;                                                     // for the first box
-    std::unordered_map<const attribute_dictionary*, key_lookup> key_lookups;            // of large dictionaries
-    std::unordered_map<const entity*, std::deque<attribute_dictionary>> made_by_asking; // not in the file
+    std::optional<vertex_normals> normals;                                                    // for the first mesh
+    std::optional<box_cache> boxes;                                                           // for the first box
+    std::unordered_map<const attribute_dictionary*, key_lookup> key_lookups;                  // of large dictionaries
+    std::unordered_map<const entity*, std::deque<attribute_dictionary>> made_by_asking;       // not in the file
+    std::unordered_map<const picture*, std::optional<image::picture_extent>> picture_extents; // none: damaged
+    // The picture that was straightened last, as shown: the distorted sides of a material often follow one another.
+    const texture* kept_texture = nullptr;
+    image::picture kept_pixels;
 };
 
 // One object, because the C interface has no handle for a library; emptied by SUTerminate.

@@ -1,11 +1,15 @@
 // The calls on textures: those of materials and those that a caller makes.
 
+#include "image/decode_picture.h"
+#include "image/encode_picture.h"
 #include "sketchup/api/calls.h"
+#include "sketchup/api/padded_rows.h"
 #include "sketchup/api/provider_state.h"
 #include "sketchup/api/texture_file_name.h"
+#include "sketchup/api/texture_pixels.h"
 #include "sketchup/api/whole_file.h"
+#include "sketchup/model/texture_coordinates.h"
 
-#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -13,33 +17,23 @@ namespace {
 
 using namespace sketchup::api;
 using sketchup::picture;
-using sketchup::texture;
 
 constexpr size_t largest_picture_side = 65535;
 constexpr double inches_of_new_tile = 10; // the host's width for a picture that was just loaded
 
-// The stored picture; null if the file lacks it, and for a texture made from pixels.
-const picture* picture_of(const texture& t) {
-    return t.owner ? element_at(t.owner->pictures, t.picture) : nullptr;
-}
-
-loose_texture* loose(const texture& t) {
-    for (const std::unique_ptr<loose_texture>& made : provider().loose_textures)
-        if (made.get() == &t)
-            return made.get();
-    return nullptr;
-}
-
-std::unique_ptr<loose_texture> from_pixels(size_t width, size_t height, size_t bits_per_pixel, const SUByte pixels[]) {
+// A tile of that width with the picture's proportions.
+std::unique_ptr<loose_texture> made_from(image::picture pixels) {
     auto made = std::make_unique<loose_texture>();
-    const size_t padded_row = (width * bits_per_pixel / 8 + 3) / 4 * 4;
-    made->pixels.assign(pixels, pixels + padded_row * height);
-    made->pixel_width = width;
-    made->pixel_height = height;
-    made->bits_per_pixel = bits_per_pixel;
     made->width = inches_of_new_tile;
-    made->height = inches_of_new_tile * static_cast<double>(height) / static_cast<double>(width);
+    made->height = inches_of_new_tile * pixels.height() / pixels.width();
+    made->pixels = std::move(pixels);
     return made;
+}
+
+void keep(std::unique_ptr<loose_texture> made, SUTextureRef* handle) {
+    auto& kept = provider().loose_textures;
+    kept.push_back(std::move(made));
+    *handle = handle_of<SUTextureRef>(*kept.back());
 }
 
 } // namespace
@@ -50,14 +44,18 @@ SUResult SUTextureGetDimensions(SUTextureRef texture, size_t* width, size_t* hei
         return SU_ERROR_INVALID_INPUT;
     if (!width || !height || !s_scale || !t_scale)
         return SU_ERROR_NULL_POINTER_OUTPUT;
-    const loose_texture* made = t->owner ? nullptr : loose(*t);
-    if (!made)
-        return SU_ERROR_NO_DATA;
-    *width = made->pixel_width;
-    *height = made->pixel_height;
-    *s_scale = 1 / made->width;
-    *t_scale = 1 / made->height;
-    return SU_ERROR_NONE;
+    return guarded([&] {
+        if (!has_pixels(*t))
+            return SU_ERROR_NO_DATA;
+        const std::optional<image::picture_extent> extent = extent_of_pixels(*t);
+        if (!extent)
+            return SU_ERROR_GENERIC;
+        *width = extent->width;
+        *height = extent->height;
+        *s_scale = 1 / sketchup::tile_size(t->width);
+        *t_scale = 1 / sketchup::tile_size(t->height);
+        return SU_ERROR_NONE;
+    });
 }
 
 SUResult SUTextureGetFileName(SUTextureRef texture, SUStringRef* name) {
@@ -68,9 +66,12 @@ SUResult SUTextureGetFileName(SUTextureRef texture, SUStringRef* name) {
 }
 
 SUResult SUTextureWriteToFile(SUTextureRef texture, const char* file_path) {
-    if (!object_of(texture))
+    const sketchup::texture* t = object_of(texture);
+    if (!t)
         return SU_ERROR_INVALID_INPUT;
-    return file_path ? SU_ERROR_SERIALIZATION : SU_ERROR_NULL_POINTER_INPUT;
+    if (!file_path)
+        return SU_ERROR_NULL_POINTER_INPUT;
+    return guarded([&] { return write_texture(*t, file_path) ? SU_ERROR_NONE : SU_ERROR_SERIALIZATION; });
 }
 
 SUResult SUTextureWriteOriginalToFile(SUTextureRef texture, const char* file_path) {
@@ -81,7 +82,7 @@ SUResult SUTextureWriteOriginalToFile(SUTextureRef texture, const char* file_pat
         return SU_ERROR_NULL_POINTER_INPUT;
     return guarded([&] {
         const picture* stored = picture_of(*t);
-        const bool written = stored && write_whole_file(file_path, stored->load());
+        const bool written = stored && image::write_picture_file(file_path, stored->load());
         return written ? SU_ERROR_NONE : SU_ERROR_SERIALIZATION;
     });
 }
@@ -98,19 +99,38 @@ SUResult SUTextureCreateFromImageData(SUTextureRef* texture, size_t width, size_
     if (texture->ptr)
         return SU_ERROR_OVERWRITE_VALID;
     return guarded([&] {
-        auto& kept = provider().loose_textures;
-        kept.push_back(from_pixels(width, height, bits_per_pixel, pixel_data));
-        *texture = handle_of<SUTextureRef>(*kept.back());
+        std::optional<image::picture> pixels = image::picture::make(
+            {static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height), static_cast<int>(bits_per_pixel)});
+        if (!pixels)
+            return SU_ERROR_OUT_OF_RANGE;
+        copy_from_padded_rows(pixel_data, *pixels);
+        keep(made_from(std::move(*pixels)), texture);
         return SU_ERROR_NONE;
     });
 }
 
-SUResult SUTextureCreateFromFile(SUTextureRef* texture, const char* file_path, double /*s_scale*/, double /*t_scale*/) {
+SUResult SUTextureCreateFromFile(SUTextureRef* texture, const char* file_path, double s_scale, double t_scale) {
     if (!file_path)
         return SU_ERROR_NULL_POINTER_INPUT;
     if (!texture)
         return SU_ERROR_NULL_POINTER_OUTPUT;
-    return texture->ptr ? SU_ERROR_OVERWRITE_VALID : SU_ERROR_SERIALIZATION;
+    if (texture->ptr)
+        return SU_ERROR_OVERWRITE_VALID;
+    return guarded([&] {
+        const std::optional<std::vector<std::uint8_t>> bytes = read_whole_file(file_path);
+        std::optional<image::picture> pixels = bytes ? image::decode_picture(*bytes) : std::nullopt;
+        if (!pixels)
+            return SU_ERROR_SERIALIZATION;
+        std::unique_ptr<loose_texture> made = made_from(std::move(*pixels));
+        made->file_name = file_path;
+        // Here the scales are the tile's size in inches: the inverse of what SUTextureGetDimensions gives.
+        if (s_scale > 0 && t_scale > 0) {
+            made->width = s_scale;
+            made->height = t_scale;
+        }
+        keep(std::move(made), texture);
+        return SU_ERROR_NONE;
+    });
 }
 
 SUResult SUTextureRelease(SUTextureRef* texture) {

@@ -1,10 +1,13 @@
 // The texture writer: which pictures a model needs, each under a number.
 
+#include "image/encode_picture.h"
 #include "sketchup/api/calls.h"
 #include "sketchup/api/image_texture.h"
 #include "sketchup/api/provider_state.h"
-#include "sketchup/api/straightened_side.h"
+#include "sketchup/api/texture_pixels.h"
 #include "sketchup/api/writer_coordinates.h"
+#include "sketchup/model/straighten_texture.h"
+#include "sketchup/model/straightened_side.h"
 
 namespace sketchup::api {
 namespace {
@@ -78,6 +81,17 @@ const texture_writer::entry* entry_of(const texture_writer& writer, long id) {
     return given_out ? &writer.loaded[static_cast<std::size_t>(id) - 1] : nullptr;
 }
 
+// Writes the picture that belongs to the coordinates of a distorted side.
+bool write_straightened(const texture_writer::entry& entry, const std::string& path) {
+    if (image::format_of_name(path) == image::picture_format::unknown)
+        return false;
+    const image::picture* shown = kept_pixels(*entry.texture);
+    if (!shown)
+        return false;
+    const face& f = *entry.distorted_face;
+    return image::write_picture(path, straighten_texture(*shown, *f.owner, f, entry.side));
+}
+
 } // namespace
 
 side_coordinates coordinates_for_writer(const face& f, face_side side, const texture_writer* writer) {
@@ -144,11 +158,16 @@ SUResult SUTextureWriterGetNumTextures(SUTextureWriterRef writer, size_t* count)
 
 SUResult SUTextureWriterWriteTexture(SUTextureWriterRef writer, long id, const char* path, bool /*reduce_size*/) {
     const texture_writer* w = object_of(writer);
-    if (!w || !entry_of(*w, id))
+    const texture_writer::entry* entry = w ? entry_of(*w, id) : nullptr;
+    if (!entry)
         return SU_ERROR_INVALID_INPUT;
     if (!path)
         return SU_ERROR_NULL_POINTER_INPUT;
-    return SU_ERROR_SERIALIZATION;
+    return guarded([&] {
+        const bool written =
+            entry->distorted_face ? write_straightened(*entry, path) : write_texture(*entry->texture, path);
+        return written ? SU_ERROR_NONE : SU_ERROR_SERIALIZATION;
+    });
 }
 
 SUResult SUTextureWriterIsTextureAffine(SUTextureWriterRef writer, long id, bool* is_affine) {

@@ -3,7 +3,6 @@
 #include "platform/platform.h"
 
 #include <cstddef>
-#include <string_view>
 
 namespace sketchup::api {
 
@@ -21,17 +20,6 @@ std::optional<std::vector<std::uint8_t>> read_whole_file(const std::string& path
         done += step;
     }
     return bytes;
-}
-
-bool write_whole_file(const std::string& path, const std::vector<std::uint8_t>& bytes) {
-    platform::file file;
-    if (!file.open(path, platform::open_mode::write))
-        return false;
-    const bool written = file.write_all({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-    if (file.close() && written)
-        return true;
-    platform::delete_file(path);
-    return false;
 }
 
 } // namespace sketchup::api

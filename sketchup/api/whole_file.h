@@ -10,7 +10,4 @@ namespace sketchup::api {
 // The bytes of a file; nothing if it is missing, a folder, unreadable or longer than memory can hold.
 std::optional<std::vector<std::uint8_t>> read_whole_file(const std::string& path);
 
-// Writes a file anew. False, and no file is left, if that fails.
-bool write_whole_file(const std::string& path, const std::vector<std::uint8_t>& bytes);
-
 } // namespace sketchup::api

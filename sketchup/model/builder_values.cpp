@@ -1,6 +1,7 @@
 // The values and placements that a program building a model writes down.
 
 #include "sketchup/model/model_builder.h"
+#include "sketchup/model/vector_math.h"
 
 #include <cmath>
 #include <numbers>
@@ -36,12 +37,7 @@ transform turned_about_z(double degrees) {
 }
 
 transform after(const transform& outer, const transform& inner) {
-    transform result{};
-    for (std::size_t column = 0; column < 4; ++column)
-        for (std::size_t row = 0; row < 4; ++row)
-            for (std::size_t k = 0; k < 4; ++k)
-                result[4 * column + row] += outer[4 * k + row] * inner[4 * column + k];
-    return result;
+    return compose(outer, inner);
 }
 
 } // namespace sketchup

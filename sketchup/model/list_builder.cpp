@@ -1,6 +1,7 @@
 // How geometry and placements enter an entity list that is being built.
 
 #include "sketchup/model/model_builder.h"
+#include "sketchup/model/vector_math.h"
 
 #include <algorithm>
 #include <array>
@@ -23,16 +24,8 @@ vec3 area_vector(std::span<const vec3> points) {
     return sum;
 }
 
-double dot(const vec3& a, const vec3& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-
 plane plane_of(std::span<const vec3> outline) {
-    const vec3 sum = area_vector(outline);
-    const double length = std::sqrt(dot(sum, sum));
-    if (length == 0)
-        return {};
-    const vec3 normal{sum.x / length, sum.y / length, sum.z / length};
+    const vec3 normal = normalized_or(area_vector(outline), {0, 0, 1});
     return {normal.x, normal.y, normal.z, -dot(normal, outline[0])};
 }
 
@@ -123,14 +116,36 @@ entity_place list_builder::edge(const vec3& from, const vec3& to) {
     return {entity_kind::edge, use_between(vertex_at(from), vertex_at(to)).edge};
 }
 
-std::vector<entity_place> list_builder::polyline_curve(std::span<const vec3> points) {
-    const index made = builder_->add(builder_->model_->curves, curve());
+std::vector<entity_place> list_builder::edges_of_curve(curve made, std::span<const vec3> points) {
+    const index at = builder_->add(builder_->model_->curves, std::move(made));
     std::vector<entity_place> edges;
     for (std::size_t i = 1; i < points.size(); ++i) {
         edges.push_back(edge(points[i - 1], points[i]));
-        builder_->edge(edges.back()).curve = made;
+        builder_->edge(edges.back()).curve = at;
     }
     return edges;
+}
+
+std::vector<entity_place> list_builder::polyline_curve(std::span<const vec3> points) {
+    return edges_of_curve({}, points);
+}
+
+std::vector<entity_place> list_builder::arc(const vec3& center, const vec3& x_axis, const vec3& y_axis,
+                                            double start_angle, double end_angle, int chords) {
+    curve made;
+    made.is_arc = true;
+    made.center = center;
+    made.x_axis = x_axis;
+    made.y_axis = y_axis;
+    made.normal = normalized_or(cross(x_axis, y_axis), {0, 0, 1});
+    made.start_angle = start_angle;
+    made.end_angle = end_angle;
+    std::vector<vec3> points;
+    for (int i = 0; i <= chords; ++i) {
+        const double angle = start_angle + (end_angle - start_angle) * i / chords;
+        points.push_back(center + x_axis * std::cos(angle) + y_axis * std::sin(angle));
+    }
+    return edges_of_curve(std::move(made), points);
 }
 
 entity_place list_builder::section_plane(const plane& where, bool active, std::string_view name) {
@@ -142,6 +157,14 @@ entity_place list_builder::section_plane(const plane& where, bool active, std::s
     if (active)
         entities().active_section_plane = at;
     return {entity_kind::section_plane, at};
+}
+
+entity_place list_builder::annotation(annotation_kind what) {
+    sketchup::annotation a;
+    a.what = what;
+    const index at = builder_->add(builder_->model_->annotations, std::move(a));
+    entities().annotations.push_back(at);
+    return {entity_kind::annotation, at};
 }
 
 entity_place list_builder::place(entity_kind kind, index definition, const transform& where,

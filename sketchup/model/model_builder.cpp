@@ -32,7 +32,6 @@ std::uint32_t format_of(const std::vector<std::uint8_t>& bytes) {
 } // namespace
 
 model_builder::model_builder() : model_(std::make_unique<sketchup::model>()) {
-    model_->version = {17, 0, 1};
     model_->camera.eye = {100, -100, 100};
     layer("Layer0");
 }
@@ -71,6 +70,15 @@ index model_builder::layer(std::string_view name, bool visible, rgba color) {
     return add(model_->layers, std::move(made));
 }
 
+index model_builder::layer_folder(std::string_view name, index parent, bool visible) {
+    sketchup::layer_folder made;
+    made.name = name;
+    made.parent = parent;
+    made.hidden = !visible;
+    model_->layer_folders.push_back(std::move(made));
+    return static_cast<index>(model_->layer_folders.size() - 1);
+}
+
 index model_builder::material(std::string_view name, rgba color, double opacity) {
     sketchup::material made;
     made.name = name;
@@ -100,18 +108,47 @@ index model_builder::scene(std::string_view name, bool active) {
     return at;
 }
 
-void model_builder::attribute(entity_place owner, std::string_view dictionary, std::string_view key,
+camera& model_builder::scene_camera(index scene) {
+    index& at = model_->scenes[scene].camera;
+    if (at == no_index)
+        at = add(model_->cameras, camera());
+    return model_->cameras[at];
+}
+
+entity_place model_builder::dictionary(entity_place owner, std::string_view name) {
+    std::vector<index>& of_owner = dictionaries_of_[owner];
+    for (const index one : of_owner)
+        if (dictionaries_[one].name == name)
+            return {entity_kind::attribute_dictionary, one};
+    attribute_dictionary made;
+    made.name = name;
+    of_owner.push_back(add(dictionaries_, std::move(made)));
+    return {entity_kind::attribute_dictionary, of_owner.back()};
+}
+
+void model_builder::attribute(entity_place owner, std::string_view dictionary_name, std::string_view key,
                               typed_value value) {
-    std::vector<attribute_dictionary>& all = dictionaries_[owner];
-    for (attribute_dictionary& one : all)
-        if (one.name == dictionary) {
-            one.entries.push_back({std::string(key), std::move(value)});
+    const entity_place where = dictionary(owner, dictionary_name);
+    dictionaries_[where.at].entries.push_back({std::string(key), std::move(value)});
+}
+
+void model_builder::set_option(std::string_view name, typed_value value) {
+    std::vector<sketchup::attribute>& values = model_->rendering_options.values;
+    for (sketchup::attribute& one : values)
+        if (one.key == name) {
+            one.value = std::move(value);
             return;
         }
-    attribute_dictionary& made = all.emplace_back();
-    made.id = model_->give_id();
-    made.name = dictionary;
-    made.entries.push_back({std::string(key), std::move(value)});
+    values.push_back({std::string(name), std::move(value)});
+}
+
+texture_mapping& model_builder::mapping(entity_place where) {
+    index& at = face(where).texture_mapping;
+    if (at == no_index) {
+        at = static_cast<index>(model_->texture_mappings.size());
+        model_->texture_mappings.emplace_back();
+    }
+    return model_->texture_mappings[at];
 }
 
 entity_list& model_builder::list_of(index definition) {
@@ -128,8 +165,18 @@ entity& model_builder::entity_at(entity_place where) {
         return model_->layers[where.at];
     case entity_kind::material:
         return model_->materials[where.at];
+    case entity_kind::texture:
+        return model_->textures[where.at];
     case entity_kind::vertex:
         return model_->vertices[where.at];
+    case entity_kind::curve:
+        return model_->curves[where.at];
+    case entity_kind::scene:
+        return model_->scenes[where.at];
+    case entity_kind::rendering_options:
+        return model_->rendering_options;
+    case entity_kind::shadow_info:
+        return model_->shadow_info;
     default:
         return element(where);
     }
@@ -143,6 +190,8 @@ drawing_element& model_builder::element(entity_place where) {
         return model_->edges[where.at];
     case entity_kind::section_plane:
         return model_->section_planes[where.at];
+    case entity_kind::annotation:
+        return model_->annotations[where.at];
     case entity_kind::group:
     case entity_kind::component_instance:
     case entity_kind::image:
@@ -177,17 +226,33 @@ index model_builder::add_texture(index picture, std::string_view file_name, doub
     return add(model_->textures, std::move(made));
 }
 
-std::unique_ptr<sketchup::model> model_builder::finish() {
-    for (auto& [owner, dictionaries] : dictionaries_) {
-        const index_range range{static_cast<index>(model_->dictionaries.size()),
-                                static_cast<index>(dictionaries.size())};
-        entity_at(owner).dictionaries = range;
-        if (owner.kind == entity_kind::entities && owner.at != no_index)
-            model_->definitions[owner.at].entities.dictionaries = range;
-        for (attribute_dictionary& one : dictionaries)
-            model_->dictionaries.push_back(std::move(one));
+// The dictionaries of one owner become neighbours in the model. Those nested in a dictionary find it where it went.
+void model_builder::place_dictionaries() {
+    std::vector<index> place(dictionaries_.size());
+    std::map<entity_place, index_range> ranges;
+    for (const auto& [owner, of_owner] : dictionaries_of_) {
+        ranges[owner] = {static_cast<index>(model_->dictionaries.size()), static_cast<index>(of_owner.size())};
+        for (const index one : of_owner) {
+            place[one] = static_cast<index>(model_->dictionaries.size());
+            model_->dictionaries.push_back(std::move(dictionaries_[one]));
+        }
     }
+    for (const auto& [owner, range] : ranges) {
+        if (owner.kind == entity_kind::model)
+            model_->properties = range;
+        else if (owner.kind == entity_kind::attribute_dictionary)
+            model_->dictionaries[place[owner.at]].dictionaries = range;
+        else
+            entity_at(owner).dictionaries = range;
+    }
+    for (component_definition& d : model_->definitions)
+        d.entities.dictionaries = d.dictionaries;
+}
+
+std::unique_ptr<sketchup::model> model_builder::finish() {
+    place_dictionaries();
     dictionaries_.clear();
+    dictionaries_of_.clear();
     vertices_.clear();
     edges_.clear();
     return std::move(model_);

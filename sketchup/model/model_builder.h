@@ -4,9 +4,15 @@
 //
 //     model_builder m;
 //     list_builder lamp = m.root().group("lamp");
-//     lamp.square(40);
+//     const entity_place side = lamp.square(40);
+//     m.face(side).material = m.material("Glow", {255, 240, 200, 255});
+//     m.mapping(side).front.positioned = true;
 //     m.attribute(lamp.placement(), "qlw_lamp", "type", text("1"));
-//     std::vector<std::uint8_t> file = skp::write_classic(*m.finish(), ...);
+//     m.set_option("DrawGround", truth(true));
+//     std::vector<std::uint8_t> file = skp::write_classic(*m.finish(), skp::classic_version::v17);
+//
+// What has a name here is what takes more than one step; everything else is a field of the structs of model.h, reached
+// through face(), edge(), placement(), definition(), element() and model().
 
 #include "sketchup/model/model.h"
 
@@ -27,11 +33,14 @@ class model_builder;
 // One entity of a model that is being built: it stays right while the model's arrays grow.
 struct entity_place {
     entity_kind kind = entity_kind::model;
-    index at = no_index; // in the array of that kind; for `entities`: the definition, no_index for the model itself
+    // In the array of that kind, a member of the model: {entity_kind::layer, m.layer("Walls")}. For `entities` the
+    // definition, no_index for the model itself; for a dictionary what model_builder::dictionary gave. The model, the
+    // rendering options and the shadow info have none; the attributes of `model` are the file's own, not the user's.
+    index at = no_index;
     auto operator<=>(const entity_place&) const = default;
 };
 
-// Attribute values.
+// Attribute and option values. Those of other types are written as {value_code::…, data}.
 typed_value text(std::string_view value);
 typed_value whole_number(std::int32_t value);
 typed_value real_number(double value);
@@ -56,9 +65,15 @@ public:
     // The six outward faces of a box between two corners; corner `low` below `high` in every coordinate.
     std::vector<entity_place> box(const vec3& low, const vec3& high);
     entity_place edge(const vec3& from, const vec3& to);
-    // An arc whose chords are the edges between the points.
+    // A curve whose parts are the edges between the points.
     std::vector<entity_place> polyline_curve(std::span<const vec3> points);
+    // An arc of that many chords, counter-clockwise about the third axis. x_axis, y_axis: at right angles and as long
+    // as the radius; angles in radians from the x axis. Gives its edges.
+    std::vector<entity_place> arc(const vec3& center, const vec3& x_axis, const vec3& y_axis, double start_angle,
+                                  double end_angle, int chords);
     entity_place section_plane(const plane& where, bool active = false, std::string_view name = {});
+    // A guide, text or dimension. Where it lies and what it says is not kept in a model.
+    entity_place annotation(annotation_kind what);
 
     // A group with a definition of its own; adds to it through the result.
     list_builder group(std::string_view name = {}, const transform& where = identity_transform);
@@ -84,6 +99,7 @@ private:
     index vertex_at(const vec3& point) const;
     edge_use use_between(index from, index to) const;
     index add_loop(std::span<const vec3> points) const;
+    std::vector<entity_place> edges_of_curve(curve made, std::span<const vec3> points);
     entity_place place(entity_kind kind, index definition, const transform& where, std::string_view name) const;
 
     model_builder* builder_;
@@ -93,7 +109,7 @@ private:
 
 class model_builder {
 public:
-    // An empty model of SketchUp 2017 with the layer "Layer0".
+    // An empty model with the layer "Layer0".
     model_builder();
 
     list_builder root() { return {*this, no_index}; }
@@ -104,18 +120,30 @@ public:
                            double pixels_high);
 
     index layer(std::string_view name, bool visible = true, rgba color = {255, 255, 255, 255});
+    // A folder of layers, within `parent` if that is one; a layer enters it by its field `folder`.
+    index layer_folder(std::string_view name, index parent = no_index, bool visible = true);
     index material(std::string_view name, rgba color, double opacity = 1);
     // picture_file: a whole JPEG, PNG or BMP file; tile size in inches.
     index textured_material(std::string_view name, std::vector<std::uint8_t> picture_file, std::string_view file_name,
                             double tile_width, double tile_height);
+    // A scene that keeps nothing of the view yet.
     index scene(std::string_view name, bool active = false);
+    // The camera that the scene keeps, made at the first call. The reference holds until the next camera.
+    camera& scene_camera(index scene);
 
-    // Appends a value to the dictionary of that name on the entity, making the dictionary at its first value.
+    // The dictionary of that name on the entity, made at the first call. As the owner of others it nests them.
+    entity_place dictionary(entity_place owner, std::string_view name);
+    // Appends a value to that dictionary. key: not empty.
     void attribute(entity_place owner, std::string_view dictionary, std::string_view key, typed_value value);
+    // Sets a rendering option of the model by its name in the C interface ("DrawGround", "FaceFrontColor", …).
+    // Those that are not set get their usual values when the model is written.
+    void set_option(std::string_view name, typed_value value);
 
     // The struct behind a place, to be changed. The reference holds until the next addition to the model.
     drawing_element& element(entity_place where);
     sketchup::face& face(entity_place where) { return model_->faces[where.at]; }
+    // How textures lie on the face: at first in neither side's way, which is the default of both.
+    texture_mapping& mapping(entity_place face);
     sketchup::edge& edge(entity_place where) { return model_->edges[where.at]; }
     sketchup::placement& placement(entity_place where) { return model_->placements[where.at]; }
     component_definition& definition(const list_builder& list) { return model_->definitions[list.definition()]; }
@@ -128,6 +156,7 @@ public:
 private:
     friend class list_builder;
     entity& entity_at(entity_place where);
+    void place_dictionaries();
     entity_list& list_of(index definition);
     index add_definition(std::string_view name, definition_kind kind);
     index add_picture(std::vector<std::uint8_t> picture_file, std::string_view file_name);
@@ -140,7 +169,8 @@ private:
     }
 
     std::unique_ptr<sketchup::model> model_;
-    std::map<entity_place, std::vector<attribute_dictionary>> dictionaries_;
+    std::vector<attribute_dictionary> dictionaries_;                               // in the order of their making
+    std::map<entity_place, std::vector<index>> dictionaries_of_;                   // in dictionaries_, by owner
     std::map<std::tuple<index, long long, long long, long long>, index> vertices_; // by list and point
     std::map<std::tuple<index, index>, index> edges_;                              // by lower and higher vertex
 };

@@ -44,11 +44,11 @@ matrix3 clean_matrix(const side_mapping& mapping) {
     return m;
 }
 
+} // namespace
+
 double tile_size(double size) {
     return size == 0 || !std::isfinite(size) ? 1 : size;
 }
-
-} // namespace
 
 plane_axes axes_of_plane(const vec3& n) {
     const bool is_level = std::hypot(n.x, n.y) < level_sine;

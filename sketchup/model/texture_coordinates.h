@@ -34,6 +34,9 @@ plane_axes axes_of_plane(const vec3& n);
 const material* material_of_side(const model& m, const face& f, face_side side);
 const texture* texture_of_side(const model& m, const face& f, face_side side);
 
+// The side of a tile in inches as it is divided by: 1 for a stored size of zero or none at all.
+double tile_size(double stored);
+
 // How the texture of a side was placed by hand; the default mapping if it was not.
 const side_mapping& mapping_of_side(const model& m, const face& f, face_side side);
 

@@ -39,7 +39,12 @@ private:
         state.log_notice_shown = state.writing_log = false;
         state.time_base = 0;
         state.log_file_name.clear();
-        state.error_list_name.clear();
+        state.error_list.file.close();
+        state.error_list.file_name.clear();
+        state.error_list.has_file = state.error_list.was_written = state.error_list.is_writing = false;
+        state.suppressed_sources.clear();
+        state.notes = {};
+        state.desktop = &state.system_desktop;
     }
 
     temporary_folder folder;

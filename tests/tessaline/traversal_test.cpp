@@ -276,15 +276,15 @@ TEST_F(Traversal, a_scattered_component_is_walked_at_the_place_that_its_line_nam
     EXPECT_FALSE(in_skatter_instances);
 }
 
-TEST_F(Traversal, nesting_of_a_thousand_levels_is_walked_on_the_usual_stack) {
-    constexpr int levels = 1000;
+TEST_F(Traversal, a_hundred_nested_groups_of_a_file_add_up_their_transforms) {
+    constexpr int levels = 100;
     model_builder m;
     list_builder list = m.root();
     for (int level = 0; level < levels; ++level)
         list = list.group({}, sketchup::moved({1, 0, 0}));
     list.square(10);
     const auto vertices = tagged(body_of(m), "VERT");
-    EXPECT_THAT(vertices, testing::Contains("VERT;(25.4,0,0)")); // 1000 inches along x
+    EXPECT_THAT(vertices, testing::Contains("VERT;(2.54,0,0)")); // 100 inches along x
 }
 
 TEST_F(Traversal, the_deepest_nesting_that_a_model_may_have_is_walked_on_the_usual_stack) {

@@ -7,6 +7,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,9 @@ public:
     }
     void raw(std::span<const std::uint8_t> bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
     void raw(std::string_view bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
+
+    // Sets four bytes that were written before, the first of them at that count.
+    void set_u32(std::size_t at, std::uint32_t value) { std::memcpy(bytes_.data() + at, &value, sizeof(value)); }
 
     std::size_t count() const { return bytes_.size(); }
     std::vector<std::uint8_t> take() { return std::move(bytes_); }

@@ -16,6 +16,8 @@ void write_dictionary(classic_output& c, const sketchup::attribute_dictionary& d
     out.u32(0);
     out.str(dictionary.name);
     for (const sketchup::attribute& entry : dictionary.entries) {
+        if (entry.key.empty()) // would end the list
+            continue;
         out.str(entry.key);
         write_typed_value(c, entry.value);
     }

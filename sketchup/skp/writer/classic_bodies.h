@@ -16,6 +16,7 @@ struct classic_output {
     const sketchup::model& model;
     object_archive& out;
     std::vector<std::uint32_t> edges_of_curves; // how many edges each curve has
+    int open_definitions = 0;                   // bodies begun and not yet ended
 };
 
 // classic_attributes.cpp
@@ -40,9 +41,13 @@ void mention_face(classic_output& c, sketchup::index face);
 void mention_edge(classic_output& c, sketchup::index edge);
 
 // classic_components.cpp
-void write_component(classic_output& c, const sketchup::entity_list& list, sketchup::index_range dictionaries,
-                     std::int64_t persistent_id, bool is_root);
+// owner: the definition; of the model's own list a stand-in with the list's dictionaries and id.
+void write_component(classic_output& c, const sketchup::entity_list& list, const sketchup::drawing_element& owner,
+                     bool is_root);
 void write_behavior(classic_output& c, const sketchup::component_behavior& behavior);
+
+// classic_annotations.cpp
+void mention_annotation(classic_output& c, sketchup::index annotation);
 
 // classic_views.cpp
 void write_camera(classic_output& c, const sketchup::camera& camera);
@@ -57,5 +62,6 @@ void write_options(classic_output& c);
 void write_dimension_style(classic_output& c);
 void write_text_style(classic_output& c);
 void write_fonts(classic_output& c);
+void mention_font(classic_output& c);
 
 } // namespace skp

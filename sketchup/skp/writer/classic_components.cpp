@@ -1,6 +1,10 @@
 // Entity lists, definitions and placements in the classic container.
 
 #include "sketchup/skp/writer/classic_bodies.h"
+#include "sketchup/skp/writer/classic_writer.h"
+#include "sketchup/skp/writer/written_lists.h"
+
+#include <stdexcept>
 
 namespace skp {
 
@@ -54,7 +58,7 @@ void mention_section_plane(classic_output& c, index section_plane) {
 
 void write_entities(classic_output& c, const sketchup::entity_list& list) {
     c.out.size(list.faces.size() + list.edges.size() + list.groups.size() + list.instances.size() + list.images.size() +
-               list.section_planes.size());
+               list.section_planes.size() + list.annotations.size());
     for (const index face : list.faces)
         mention_face(c, face);
     for (const index edge : list.edges)
@@ -64,21 +68,42 @@ void write_entities(classic_output& c, const sketchup::entity_list& list) {
             mention_placement(c, placement);
     for (const index plane : list.section_planes)
         mention_section_plane(c, plane);
+    for (const index annotation : list.annotations)
+        mention_annotation(c, annotation);
+}
+
+void mention_glue_end(classic_output& c, const glue_end& end) {
+    if (end.kind == sketchup::entity_kind::face)
+        mention_face(c, end.at);
+    else
+        mention_placement(c, end.at);
+}
+
+void write_relationships(classic_output& c, const sketchup::entity_list& list) {
+    object_archive& out = c.out;
+    const std::vector<glue_relation> relations = glue_relations(c.model, list);
+    out.size(relations.size());
+    for (const glue_relation& one : relations)
+        out.object("CRelationship", [&] {
+            write_plain_entity(c);
+            mention_glue_end(c, one.base);
+            mention_glue_end(c, one.glued);
+        });
 }
 
 void write_materials(classic_output& c, bool is_root) {
     object_archive& out = c.out;
     write_plain_entity(c);
-    out.size(is_root ? c.model.listed_materials.size() : 0);
-    if (is_root)
-        for (const index material : c.model.listed_materials)
-            mention_material(c, material);
+    const std::vector<index> listed = is_root ? materials_of_list(c.model) : std::vector<index>();
+    out.size(listed.size());
+    for (const index material : listed)
+        mention_material(c, material);
     out.null(); // the paint tool's material
 }
 
 void write_definition(classic_output& c, const sketchup::component_definition& d) {
     object_archive& out = c.out;
-    write_component(c, d.entities, d.dictionaries, d.persistent_id, false);
+    write_component(c, d.entities, d, false);
     out.raw(d.guid);
     out.str(d.name);
     out.str(d.description);
@@ -93,18 +118,20 @@ void write_definition(classic_output& c, const sketchup::component_definition& d
 
 void mention_definition(classic_output& c, index definition) {
     const sketchup::component_definition& d = c.model.definitions[definition];
-    c.out.object("CComponentDefinition", &d, [&] { write_definition(c, d); });
+    c.out.object("CComponentDefinition", &d, [&] {
+        if (++c.open_definitions > deepest_open_definitions)
+            throw std::length_error("definitions are introduced within one another too deep for a classic file");
+        write_definition(c, d);
+        --c.open_definitions;
+    });
 }
 
 } // namespace
 
-void write_component(classic_output& c, const sketchup::entity_list& list, sketchup::index_range dictionaries,
-                     std::int64_t persistent_id, bool is_root) {
+void write_component(classic_output& c, const sketchup::entity_list& list, const sketchup::drawing_element& owner,
+                     bool is_root) {
     object_archive& out = c.out;
-    sketchup::drawing_element own(sketchup::entity_kind::entities);
-    own.dictionaries = dictionaries;
-    own.persistent_id = persistent_id;
-    write_drawing_element(c, own);
+    write_drawing_element(c, owner);
     write_materials(c, is_root);
     if (is_root)
         write_layer_manager(c);
@@ -115,7 +142,7 @@ void write_component(classic_output& c, const sketchup::entity_list& list, sketc
         for (index i = 0; i < c.model.definitions.size(); ++i)
             mention_definition(c, i);
     write_entities(c, list);
-    out.size(0); // relationships
+    write_relationships(c, list);
     mention_section_plane(c, list.active_section_plane);
 }
 

@@ -1,6 +1,7 @@
 // Materials, pictures and layers in the classic container.
 
 #include "sketchup/skp/writer/classic_bodies.h"
+#include "sketchup/skp/writer/written_lists.h"
 
 #include <vector>
 
@@ -37,10 +38,7 @@ void write_layer(classic_output& c, const sketchup::layer& layer) {
     write_entity(c, layer);
     out.str(layer.name);
     out.boolean(layer.hidden);
-    sketchup::material shown;
-    shown.name = "Layer_" + layer.name;
-    shown.is_private = true;
-    write_material(c, layer.material == no_index ? shown : c.model.materials[layer.material]);
+    write_material(c, layer.material == no_index ? plain_layer_material(layer) : c.model.materials[layer.material]);
     if (out.number("CLayer") >= 2)
         out.u32(layer.page_behavior);
     if (out.number("CLayer") >= 3)

@@ -10,6 +10,8 @@ namespace {
 constexpr char the_font = 0; // stands for the one font object of a file
 constexpr sketchup::rgba black{0, 0, 0, 255};
 
+} // namespace
+
 void mention_font(classic_output& c) {
     object_archive& out = c.out;
     out.object("CSkFont", &the_font, [&] {
@@ -22,8 +24,6 @@ void mention_font(classic_output& c) {
         out.f64(1);
     });
 }
-
-} // namespace
 
 void write_options(classic_output& c) {
     c.out.u32(3); // form

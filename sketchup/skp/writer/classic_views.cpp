@@ -3,8 +3,7 @@
 #include "sketchup/skp/writer/classic_bodies.h"
 
 #include "sketchup/skp/classic/option_fields.h"
-
-#include <algorithm>
+#include "sketchup/skp/writer/written_lists.h"
 
 namespace skp {
 
@@ -13,23 +12,10 @@ using sketchup::no_index;
 
 namespace {
 
-// The bits of a scene's flags and what each stands for.
-constexpr std::uint32_t keeps_camera = 1;
-constexpr std::uint32_t keeps_rendering_options = 2;
-constexpr std::uint32_t keeps_shadow_info = 4;
-constexpr std::uint32_t keeps_hidden_layers = 32;
-constexpr std::uint32_t keeps_section_planes = 64;
-
-std::uint32_t flags_of(const sketchup::scene& scene) {
-    return (scene.camera != no_index ? keeps_camera : 0) | (scene.rendering_options ? keeps_rendering_options : 0) |
-           (scene.shadow_info ? keeps_shadow_info : 0) | (scene.hidden_layers.empty() ? 0 : keeps_hidden_layers) |
-           (scene.active_section_planes.empty() ? 0 : keeps_section_planes);
-}
-
 void write_scene(classic_output& c, const sketchup::scene& scene) {
     object_archive& out = c.out;
     const int layout = out.number("CViewPage");
-    const std::uint32_t flags = flags_of(scene);
+    const std::uint32_t flags = written_flags(scene);
     write_entity(c, scene);
     out.str(scene.name);
     out.str(scene.description);
@@ -44,12 +30,18 @@ void write_scene(classic_output& c, const sketchup::scene& scene) {
         write_shadow_info(c, *scene.shadow_info);
         out.boolean(scene.shadow_info->display_shadows);
     }
-    if ((flags & keeps_hidden_layers) != 0) {
+    if ((flags & scene_keeps_axes) != 0) {
+        write_axes(c);
+        out.boolean(true); // shows them
+    }
+    if ((flags & scene_keeps_hidden_entities) != 0)
+        out.size(0); // which they are is not kept
+    if ((flags & scene_keeps_hidden_layers) != 0) {
         out.size(scene.hidden_layers.size());
         for (const index layer : scene.hidden_layers)
             out.object("CLayer", &c.model.layers[layer], [] {});
     }
-    if ((flags & keeps_section_planes) != 0) {
+    if ((flags & scene_keeps_section_planes) != 0) {
         out.size(scene.active_section_planes.size());
         for (const index plane : scene.active_section_planes)
             out.object("CSectionPlane", &c.model.section_planes[plane], [] {});
@@ -64,16 +56,10 @@ void write_scene(classic_output& c, const sketchup::scene& scene) {
     }
 }
 
-const sketchup::typed_value* find_option(const sketchup::rendering_options& options, std::string_view name) {
-    const auto found = std::find_if(options.values.begin(), options.values.end(),
-                                    [&](const sketchup::attribute& one) { return one.key == name; });
-    return found == options.values.end() ? nullptr : &found->value;
-}
-
-// The value of an option of that type; all zero if it is not set or of another type.
+// The value of an option of that type: the model's, else the usual one, else zero.
 template<class T>
 T option_value(const sketchup::rendering_options& options, const char* name) {
-    const sketchup::typed_value* value = name == nullptr ? nullptr : find_option(options, name);
+    const sketchup::typed_value* value = name == nullptr ? nullptr : written_option(options, name);
     const T* held = value == nullptr ? nullptr : std::get_if<T>(&value->data);
     return held == nullptr ? T() : *held;
 }

@@ -50,8 +50,10 @@ std::uint64_t next_persistent_id(const sketchup::model& m) {
     look(m.placements);
     look(m.definitions);
     look(m.section_planes);
+    look(m.annotations);
     look(m.layers);
     look(m.materials);
+    look(m.textures);
     look(m.scenes);
     look(m.dictionaries);
     return static_cast<std::uint64_t>(highest) + 1;
@@ -129,11 +131,14 @@ std::vector<std::uint32_t> count_edges_of_curves(const sketchup::model& m) {
 
 std::vector<std::uint8_t> write_classic(const sketchup::model& m, classic_version version) {
     object_archive out(version);
-    classic_output c{m, out, count_edges_of_curves(m)};
+    classic_output c{m, out, count_edges_of_curves(m), 0};
     const int layout = out.number("CSketchUpModel");
     write_header(c, version);
     write_before_root(c, layout);
-    write_component(c, m.root, m.root.dictionaries, m.root.persistent_id, true);
+    sketchup::drawing_element owner(sketchup::entity_kind::entities);
+    owner.dictionaries = m.root.dictionaries;
+    owner.persistent_id = m.root.persistent_id;
+    write_component(c, m.root, owner, true);
     write_behind_root(c, layout);
     return out.take();
 }

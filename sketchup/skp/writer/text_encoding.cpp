@@ -54,4 +54,17 @@ std::u16string utf16_from_utf8(std::string_view text) {
     return units;
 }
 
+std::string well_formed_utf8(std::string_view text) {
+    constexpr std::string_view replacement_utf8 = "\xEF\xBF\xBD";
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const decoded next = first_point(text);
+        const bool is_wrong = next.length == 1 && next.point == replacement;
+        result += is_wrong ? replacement_utf8 : text.substr(0, next.length);
+        text.remove_prefix(next.length);
+    }
+    return result;
+}
+
 } // namespace skp

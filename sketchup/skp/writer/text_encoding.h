@@ -1,6 +1,6 @@
 #pragma once
 
-// UTF-8 into the UTF-16 of the classic container.
+// Text as it goes into files: any bytes in, well-formed UTF-16 or UTF-8 out.
 
 #include <string>
 #include <string_view>
@@ -9,5 +9,6 @@ namespace skp {
 
 // Every byte that is part of no well-formed UTF-8 sequence becomes one U+FFFD.
 std::u16string utf16_from_utf8(std::string_view text);
+std::string well_formed_utf8(std::string_view text);
 
 } // namespace skp

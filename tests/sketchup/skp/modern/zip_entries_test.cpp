@@ -22,7 +22,8 @@ zip_entries open(bytes archive, const bytes& before = {}) {
 // Where the directory's record of the first entry begins.
 std::size_t directory_record(const bytes& archive) {
     const bytes mark = {'P', 'K', 1, 2};
-    return static_cast<std::size_t>(std::ranges::search(archive, mark).begin() - archive.begin());
+    return static_cast<std::size_t>(std::search(archive.begin(), archive.end(), mark.begin(), mark.end()) -
+                                    archive.begin());
 }
 
 // Offsets in a directory record.

@@ -6,7 +6,7 @@
 #include "sketchup/model/model.h"
 #include "sketchup/model/texture_coordinates.h"
 
-namespace sketchup::api {
+namespace sketchup {
 
 // The extent of a face in the axes of its plane, in inches; all zero for a face without corners.
 struct plane_extent {
@@ -20,4 +20,4 @@ plane_extent extent_in_plane(const model& m, const face& f);
 // The coordinates on that picture: 0 to 1 over the extent, q = 1. A side without width or height counts as 1 inch.
 side_coordinates straightened_coordinates(const model& m, const face& f);
 
-} // namespace sketchup::api
+} // namespace sketchup

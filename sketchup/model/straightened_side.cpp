@@ -1,4 +1,4 @@
-#include "sketchup/api/straightened_side.h"
+#include "sketchup/model/straightened_side.h"
 
 #include "sketchup/model/loop_corners.h"
 #include "sketchup/model/vector_math.h"
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace sketchup::api {
+namespace sketchup {
 
 plane_extent extent_in_plane(const model& m, const face& f) {
     if (f.loops.count == 0)
@@ -35,4 +35,4 @@ side_coordinates straightened_coordinates(const model& m, const face& f) {
     return side_coordinates(f.plane.normal(), moved, extent.width, extent.height);
 }
 
-} // namespace sketchup::api
+} // namespace sketchup

@@ -1,0 +1,62 @@
+#include "sketchup/skp/writer/written_lists.h"
+
+#include "sketchup/model/usual_options.h"
+
+#include <algorithm>
+
+namespace skp {
+
+using sketchup::index;
+using sketchup::no_index;
+
+std::uint32_t written_flags(const sketchup::scene& scene) {
+    const auto settle = [](std::uint32_t bit, bool is_there) { return is_there ? bit : 0U; };
+    constexpr std::uint32_t settled = scene_keeps_camera | scene_keeps_rendering_options | scene_keeps_shadow_info;
+    return (scene.flags & ~settled) | settle(scene_keeps_camera, scene.camera != no_index) |
+           settle(scene_keeps_rendering_options, scene.rendering_options.has_value()) |
+           settle(scene_keeps_shadow_info, scene.shadow_info.has_value()) |
+           settle(scene_keeps_hidden_layers, !scene.hidden_layers.empty()) |
+           settle(scene_keeps_section_planes, !scene.active_section_planes.empty());
+}
+
+const sketchup::typed_value* written_option(const sketchup::rendering_options& options, std::string_view name) {
+    const auto found = std::ranges::find(options.values, name, &sketchup::attribute::key);
+    return found != options.values.end() ? &found->value : sketchup::usual_option(name);
+}
+
+std::vector<index> materials_of_list(const sketchup::model& m) {
+    std::vector<bool> taken(m.materials.size(), false);
+    for (const sketchup::layer& layer : m.layers)
+        if (layer.material != no_index)
+            taken[layer.material] = true;
+    std::vector<index> listed = m.listed_materials;
+    for (const index material : listed)
+        taken[material] = true;
+    for (index i = 0; i < m.materials.size(); ++i)
+        if (!taken[i])
+            listed.push_back(i);
+    return listed;
+}
+
+sketchup::material plain_layer_material(const sketchup::layer& layer) {
+    sketchup::material shown;
+    shown.name = "Layer_" + layer.name;
+    shown.is_private = true;
+    return shown;
+}
+
+std::vector<glue_relation> glue_relations(const sketchup::model& m, const sketchup::entity_list& list) {
+    std::vector<glue_end> placed;
+    for (const std::vector<index>* placements : {&list.instances, &list.groups, &list.images})
+        for (const index placement : *placements)
+            placed.push_back({m.placements[placement].kind, placement});
+    std::vector<glue_relation> relations;
+    for (index i = 0; i < list.glued && !placed.empty(); ++i) {
+        const glue_end base =
+            list.faces.empty() ? placed.front() : glue_end{sketchup::entity_kind::face, list.faces.front()};
+        relations.push_back({base, placed[std::min<std::size_t>(i, placed.size() - 1)]});
+    }
+    return relations;
+}
+
+} // namespace skp

@@ -1,0 +1,172 @@
+#include "tests/batch/batch_runner.h"
+
+#include "sketchup/skp/writer/classic_writer.h"
+#include "tests/batch/stream_grammar.h"
+#include "tests/run_program.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace {
+
+constexpr std::string_view first_line_of_stream = "#;Tessaline Geometry";
+
+std::string bytes_of(const std::filesystem::path& file) {
+    std::ostringstream bytes;
+    bytes << std::ifstream(file, std::ios::binary).rdbuf();
+    return bytes.str();
+}
+
+files_by_name files_below(const std::string& folder) {
+    files_by_name files;
+    if (std::filesystem::exists(folder))
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+            if (!entry.is_directory())
+                files[std::filesystem::relative(entry.path(), folder).generic_string()] = bytes_of(entry.path());
+    return files;
+}
+
+// The golden files of a case, with the folder's name in them.
+files_by_name golden_files(const std::string& case_name, const std::string& batch_folder) {
+    const std::string folder = std::string(TESSALINE_SOURCE_DIR) + "/tests/batch/" + case_name + "/expected";
+    EXPECT_TRUE(std::filesystem::exists(folder)) << "no golden files: " << folder;
+    files_by_name files = files_below(folder);
+    for (auto& [name, text] : files)
+        text = with_batch_folder(std::move(text), batch_folder);
+    return files;
+}
+
+// A line in a form that shows its end.
+std::string shown(std::string_view line) {
+    std::string text;
+    for (const char c : line)
+        text += c == '\r' ? std::string("\\r") : c == '\n' ? std::string("\\n") : std::string(1, c);
+    return text;
+}
+
+std::string_view line_at(std::string_view text, std::size_t start) {
+    const std::size_t feed = text.find('\n', start);
+    return feed == std::string_view::npos ? text.substr(start) : text.substr(start, feed - start + 1);
+}
+
+std::string first_difference(std::string_view expected, std::string_view found) {
+    std::size_t line = 1;
+    std::size_t start = 0;
+    while (start < expected.size() && start < found.size() && line_at(expected, start) == line_at(found, start)) {
+        start += line_at(expected, start).size();
+        ++line;
+    }
+    const auto line_or_end = [start](std::string_view text) {
+        return start < text.size() ? shown(line_at(text, start)) : std::string("the end of the file");
+    };
+    return "line " + std::to_string(line) + "\n  expected: " + line_or_end(expected) +
+           "\n  found:    " + line_or_end(found);
+}
+
+std::string copy_of(const batch& found, const std::string& case_name) {
+    const std::string kept = std::string(FAILED_BATCHES) + "/" + case_name;
+    std::filesystem::remove_all(kept);
+    std::filesystem::create_directories(kept);
+    std::filesystem::copy(found.folder(), kept, std::filesystem::copy_options::recursive);
+    return kept;
+}
+
+} // namespace
+
+std::set<std::string> folders_of_every_run() {
+    return {"Batch_OrnTexture_Files", "Batch_SketchUp_Textures", "Plants",
+            "ZynBatch_Images",        "ZynBatch_Lights",         "ZynBatch_Materials"};
+}
+
+batch::batch(const std::string& folder_name) : name(folder_name), full_name(outside.make_folder(folder_name)) {
+    outside.make_folder("home");
+    outside.make_folder("tmp");
+}
+
+void batch::put(const std::string& inside, std::string_view bytes) {
+    outside.write(name + "/" + inside, bytes);
+}
+
+void batch::put_model(sketchup::model_builder& m, const std::string& inside) {
+    const std::vector<std::uint8_t> bytes = skp::write_classic(*m.finish(), skp::classic_version::v17);
+    written_models[inside] = std::string(bytes.begin(), bytes.end());
+    put(inside, written_models[inside]);
+}
+
+void batch::set_date(std::string seconds, std::string time_zone) {
+    date = std::move(seconds);
+    zone = std::move(time_zone);
+}
+
+run_outcome batch::run(const std::vector<std::string>& more_arguments) const {
+    std::vector<std::string> arguments = {full_name + "/geometry.qlm"};
+    arguments.insert(arguments.end(), more_arguments.begin(), more_arguments.end());
+    return run_with(arguments);
+}
+
+run_outcome batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
+    std::string command = "cd " + shell_quoted(current_folder) + " && env -u TESSALINE_TRACE -u XDG_CONFIG_HOME";
+    command += date.empty() ? " -u SOURCE_DATE_EPOCH" : " SOURCE_DATE_EPOCH=" + shell_quoted(date);
+    command += " HOME=" + shell_quoted(outside / "home") + " TMPDIR=" + shell_quoted(outside / "tmp") +
+               " TZ=" + shell_quoted(zone) + " " + shell_quoted(TESSALINE_PROGRAM);
+    for (const std::string& argument : arguments)
+        command += " " + shell_quoted(argument);
+    const program_result result = run_program(command + " 2>" + shell_quoted(outside / "errors") + " </dev/null");
+    return {result.status, result.output, outside.read("errors")};
+}
+
+files_by_name batch::files() const {
+    return files_below(full_name);
+}
+
+std::set<std::string> batch::folders() const {
+    std::set<std::string> folders;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(full_name))
+        if (entry.is_directory())
+            folders.insert(std::filesystem::relative(entry.path(), full_name).generic_string());
+    return folders;
+}
+
+std::string with_batch_folder(std::string text, const std::string& folder) {
+    constexpr std::string_view mark = "@BATCH@";
+    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + folder.size()))
+        text.replace(at, mark.size(), folder);
+    return text;
+}
+
+std::vector<std::string> differences(const files_by_name& expected, const files_by_name& found) {
+    std::vector<std::string> all;
+    for (const auto& [name, text] : expected)
+        if (!found.contains(name))
+            all.push_back(name + " is missing");
+        else if (found.at(name) != text)
+            all.push_back(name + " differs in " + first_difference(text, found.at(name)));
+    for (const auto& [name, text] : found)
+        if (!expected.contains(name))
+            all.push_back(name + " is not expected");
+    return all;
+}
+
+void expect_batch(const batch& found, const std::string& case_name, const std::set<std::string>& folders) {
+    files_by_name expected = golden_files(case_name, found.folder());
+    expected.insert(found.models().begin(), found.models().end());
+    const std::vector<std::string> wrong = differences(expected, found.files());
+    for (const std::string& one : wrong)
+        ADD_FAILURE() << one;
+    EXPECT_EQ(found.folders(), folders);
+    for (const auto& [name, bytes] : found.files())
+        if (bytes.starts_with(first_line_of_stream)) {
+            EXPECT_EQ(first_grammar_fault(bytes), std::nullopt) << name;
+        }
+    if (testing::Test::HasFailure())
+        GTEST_LOG_(INFO) << "what was found is in " << copy_of(found, case_name);
+}
+
+void expect_run(const batch& prepared, const std::string& case_name, const std::vector<std::string>& more_arguments) {
+    const run_outcome outcome = prepared.run(more_arguments);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, quiet_errors);
+    expect_batch(prepared, case_name);
+}

@@ -1,0 +1,85 @@
+#pragma once
+
+// Runs the built program in a fresh batch folder and compares all that it leaves with golden files.
+
+#include "sketchup/model/model_builder.h"
+#include "tests/support/temporary_folder.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What the program did besides writing files.
+struct run_outcome {
+    int status = -1; // 0 is what the program always ends with
+    std::string output;
+    std::string errors;
+};
+
+// What the progress display leaves behind on a standard error that is no terminal, if a run never moves it: fewer than
+// 100 items do not.
+inline constexpr std::string_view quiet_errors = "Tessaline Progress [....................]\n";
+
+// The folders that every run of a model that opens makes.
+std::set<std::string> folders_of_every_run();
+
+using files_by_name = std::map<std::string, std::string>; // names from the batch folder on, with "/" between
+
+// A batch folder of its own in an empty surrounding: no settings of the user, no marker file, a fixed date.
+class batch {
+public:
+    // name: of the batch folder; with "/" in it, of several folders, one in the other.
+    explicit batch(const std::string& name = "batch");
+
+    const std::string& folder() const { return full_name; }
+    std::string operator/(const std::string& inside) const { return full_name + "/" + inside; }
+    // The folder in which the batch folder lies.
+    const temporary_folder& surrounding() const { return outside; }
+
+    // Makes a file of the batch folder.
+    void put(const std::string& inside, std::string_view bytes);
+    // Writes the model as "geometry.qlm", or under another name; takes all from the builder.
+    void put_model(sketchup::model_builder& m, const std::string& inside = "geometry.qlm");
+
+    // Runs the program on "geometry.qlm", with these arguments behind its full name.
+    run_outcome run(const std::vector<std::string>& more_arguments = {}) const;
+    // Runs it with these arguments alone, from that folder.
+    run_outcome run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
+    run_outcome run_with(const std::vector<std::string>& arguments) const { return run_with(arguments, full_name); }
+
+    // For the next runs: the text of SOURCE_DATE_EPOCH, empty to take it away; the time zone.
+    void set_date(std::string seconds, std::string zone);
+
+    bool has(const std::string& inside) const { return outside.has(name + "/" + inside); }
+    std::string read(const std::string& inside) const { return outside.read(name + "/" + inside); }
+    files_by_name files() const;
+    std::set<std::string> folders() const;
+    // What put_model wrote last: a run must leave it as it is.
+    const files_by_name& models() const { return written_models; }
+
+private:
+    temporary_folder outside;
+    std::string name;
+    std::string full_name;
+    files_by_name written_models;
+    std::string date = "1000000000"; // 9 September 2001, 01:46:40
+    std::string zone = "UTC";
+};
+
+// A golden text with the folder's name in place of each "@BATCH@".
+std::string with_batch_folder(std::string golden_text, const std::string& folder);
+
+// One text for each file that is missing, not expected, or different, with its first differing line.
+std::vector<std::string> differences(const files_by_name& expected, const files_by_name& found);
+
+// Fails the running test unless the batch folder holds, byte for byte, the golden files of `case_name`, the models that
+// were put there, and these folders, and unless the stream, if there is one, follows the grammar. In golden files
+// "@BATCH@" stands for the full name of the batch folder. What was found is copied for a look when it fails.
+void expect_batch(const batch& found, const std::string& case_name,
+                  const std::set<std::string>& folders = folders_of_every_run());
+
+// The same around a run of the program, which must end quietly with status 0.
+void expect_run(const batch& prepared, const std::string& case_name,
+                const std::vector<std::string>& more_arguments = {});

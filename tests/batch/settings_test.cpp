@@ -1,0 +1,121 @@
+// What the option file and the model's own settings do, and what a run leaves of them.
+
+#include "tests/batch/batch_runner.h"
+
+#include <array>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace sketchup;
+
+// Where the sun stands is worked out from the model's place and time, which these tests are not about.
+std::string without_sun(const std::string& options) {
+    constexpr std::array<std::string_view, 8> names = {
+        "rzyn_sun_azimuth;",       "rzyn_sun_altitude;", "rskp_sun_azimuth;",   "rskp_sun_altitude;",
+        "bskp_sun_daylight_time;", "rskp_sun_latitude;", "rskp_sun_longitude;", "rskp_sun_timezone;"};
+    std::string kept;
+    for (std::size_t start = 0; start < options.size();) {
+        const std::string line =
+            options.substr(start, options.find('\n', start) + 1 - start); // the file ends in a line end
+        bool is_sun = false;
+        for (const std::string_view name : names)
+            is_sun = is_sun || line.starts_with(name);
+        kept += is_sun ? std::string() : line;
+        start += line.size();
+    }
+    return kept;
+}
+
+void expect_run_without_sun(batch& b, const std::string& case_name) {
+    EXPECT_EQ(b.run().errors, quiet_errors);
+    b.put("option_globals.txt", without_sun(b.read("option_globals.txt")));
+    expect_batch(b, case_name);
+}
+
+void put_square(batch& b, model_builder& m) {
+    m.root().square(10);
+    b.put_model(m);
+}
+
+// Sorted, without comments, with the settings that the file did not name, and without the two image filters. A name
+// that no setting has survives, a setting of the user's profile does not.
+TEST(SettingsBatch, an_option_file_is_obeyed_and_written_anew) {
+    batch b;
+    model_builder m;
+    put_square(b, m);
+    b.put("option_globals.txt", "# from the parent\r\n"
+                                "\r\n"
+                                ";value\r\n"
+                                "svl_kept_for_the_parent;c:\\\\temp\\\\x\r\n"
+                                "ivl_resx;800\r\n"
+                                "  ivl_2_sided_faces ;  2  \r\n"
+                                "rvl_fog_pmin_x; 1e-9\r\n"
+                                "cvl_fog_color; 255\n"
+                                "pzyn_sun_date; (1, 2.5, -3)\r\n"
+                                "ivl_image_filters; 3\r\n"
+                                "bvl_use_watts; 0\r\n");
+    expect_run_without_sun(b, "option_file");
+}
+
+TEST(SettingsBatch, an_option_file_is_written_anew_when_nothing_changed) {
+    batch b;
+    model_builder m;
+    put_square(b, m);
+    b.put("option_globals.txt", "ivl_2_sided_faces; 2\r\n");
+    b.run();
+    const files_by_name first = b.files();
+    b.run();
+    EXPECT_EQ(differences(first, b.files()), std::vector<std::string>());
+    EXPECT_NE(first.at("option_globals.txt").find("\r\nivl_2_sided_faces; 2\r\n"), std::string::npos);
+}
+
+TEST(SettingsBatch, the_model_has_the_last_word_over_the_option_file) {
+    batch b;
+    model_builder m;
+    const entity_place list = m.root().list();
+    m.attribute(list, "qlw_globals", "ivl_2_sided_faces", whole_number(2));
+    m.attribute(list, "qlw_globals", "bvl_remember_filters", text("1"));
+    m.attribute(list, "qlw_globals", "ivl_image_filters", text("3"));
+    m.attribute(list, "qlw_globals", "svl_image_filters", text("a\r\nb"));
+    m.attribute(list, "qlw_globals", "bvl_sun_on", truth(true));
+    m.attribute(list, "qlw_globals", "Ivl_resx", whole_number(5));
+    m.attribute(list, "another dictionary", "ivl_resx", whole_number(5));
+    put_square(b, m);
+    b.put("option_globals.txt", "ivl_2_sided_faces; 0\r\nbvl_sun_on; 0\r\n");
+    expect_run_without_sun(b, "settings_of_the_model");
+}
+
+TEST(SettingsBatch, without_an_option_file_none_is_left) {
+    batch b;
+    model_builder m;
+    m.attribute(m.root().list(), "qlw_globals", "ivl_2_sided_faces", whole_number(2));
+    put_square(b, m);
+    expect_run(b, "two_sided_square");
+}
+
+TEST(SettingsBatch, a_face_without_materials_has_one_block_in_the_modes_0_and_1) {
+    for (const int mode : {0, 1}) {
+        batch b;
+        model_builder m;
+        m.attribute(m.root().list(), "qlw_globals", "ivl_2_sided_faces", whole_number(mode));
+        put_square(b, m);
+        expect_run(b, "one_square");
+    }
+}
+
+// Colour by layer takes the colour of a face from its layer, so a layer without a colour leaves the face bare.
+TEST(SettingsBatch, colour_by_layer_takes_away_the_materials_of_a_face) {
+    batch b;
+    model_builder m;
+    const sketchup::index red = m.material("Red", {255, 0, 0, 255});
+    const entity_place square = m.root().square(10);
+    m.element(square).material = red;
+    m.face(square).back_material = red;
+    m.model().layers[0].material = no_index;
+    m.model().rendering_options.values.push_back({"DisplayColorByLayer", truth(true)});
+    b.put_model(m);
+    expect_run(b, "one_square");
+}
+
+} // namespace

@@ -1,0 +1,379 @@
+#include "tests/batch/stream_grammar.h"
+
+#include <gtest/gtest.h>
+#include <initializer_list>
+#include <vector>
+
+namespace {
+
+using lines = std::vector<std::string>;
+
+lines joined(std::initializer_list<lines> parts) {
+    lines all;
+    for (const lines& part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+std::string text_of(const lines& all) {
+    std::string text;
+    for (const std::string& line : all)
+        text += line + "\r\n";
+    return text;
+}
+
+const lines head = {"#;Tessaline Geometry, new extractor",
+                    "#;09/09/2001  01:46:40 GMT",
+                    "DFFC;ffffff",
+                    "DFBC;ffffff",
+                    "DFEC;000000",
+                    "#;"};
+const lines pass = {"#;", "PASS;0", "#;"};
+const lines end = {"#;", "END;"};
+const lines layer_table = {"LYIN;0", "LYNM;Layer0", "LYIN;1", "LYNM;Walls"};
+const lines state = {"TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"};
+const lines face_head = {"#; ProcessFace MESH", "MESH;"};
+const lines lamp_head = {"#; Process Group Lamp", "MESH;", "LITE;0"};
+const lines close = {"EMSH;"};
+const lines end_of_lamp = {"EMSH; END OF LAMP"};
+const lines wall = {"MATF;COL%3a0012_Wall.OrnMaterial", "MTX2;1", "MATI;10"};
+const lines point_light = {"#; Process Instance Lamp Direct Light", "LGHT;0"};
+const lines edges = {"#;", "#;EDGES"};
+
+// A triangle whose vertices have the numbers from `first` on.
+lines triangle(int first) {
+    const auto number = [first](int corner) { return std::to_string(first + corner); };
+    return {"NORM;(0,0,1)",      "VERT;(0,0,0)",
+            "ADDV;" + number(0), "NORM;(0,0,1)",
+            "VERT;(2.54,0,0)",   "ADDV;" + number(1),
+            "NORM;(0,0,1)",      "VERT;(0,2.54,0)",
+            "ADDV;" + number(2), "FACE;" + number(0) + "," + number(1) + "," + number(2)};
+}
+
+lines textured_triangle(int first, const std::string& uvq = "UVQ;(0.5,1.5,1)") {
+    lines all;
+    for (const std::string& line : triangle(first)) {
+        all.push_back(line);
+        if (line.starts_with("NORM;"))
+            all.push_back(uvq);
+    }
+    return all;
+}
+
+const lines face_block = joined({face_head, state, triangle(0), close});
+
+// The four vertex groups and two triangles of an image.
+lines image(int first) {
+    const auto number = [first](int corner) { return std::to_string(first + corner); };
+    lines all = {"TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10", "MPU2;1", "MAT2;10"};
+    int corner = 0;
+    for (const char* uvq : {"UVQ;(0,0,0)", "UVQ;(1,0,0)", "UVQ;(1,1,0)", "UVQ;(0,1,0)"}) {
+        const lines vertex = {"NORM;(0,0,1)", uvq, "VERT;(1,2,3)", "ADDV;" + number(corner++)};
+        all.insert(all.end(), vertex.begin(), vertex.end());
+    }
+    all.push_back("FACE;" + number(0) + ", " + number(1) + ", " + number(2));
+    all.push_back("FACE;" + number(2) + ", " + number(3) + ", " + number(0));
+    return all;
+}
+
+const lines edge_head = {"#;MESH for Edges", "MESH;", "TLAY;Layer0", "CULL;0", "MATL;1", "MAT2;1"};
+
+lines beams(int count) {
+    lines all;
+    for (int first = 0; first < 16 * count; first += 4) {
+        for (int corner = 0; corner < 4; ++corner) {
+            const lines vertex = {"NORM;(1,0,0)", "VERT;(0,0,0)", "ADDV;" + std::to_string(first + corner)};
+            all.insert(all.end(), vertex.begin(), vertex.end());
+        }
+        const auto number = [first](int corner) { return std::to_string(first + corner); };
+        all.push_back("FACE;" + number(0) + "," + number(1) + "," + number(2));
+        all.push_back("FACE;" + number(2) + "," + number(3) + "," + number(0));
+    }
+    return all;
+}
+
+std::optional<grammar_fault> fault_of(std::initializer_list<lines> parts) {
+    return first_grammar_fault(text_of(joined(parts)));
+}
+
+// What stands between the first nine lines and the last two.
+void expect_good(std::initializer_list<lines> body) {
+    EXPECT_EQ(fault_of({head, pass, joined(body), end}), std::nullopt);
+}
+
+// line: counted from the first line of the body, which is 1.
+void expect_bad(std::size_t line, const std::string& reason, std::initializer_list<lines> body) {
+    const auto fault = fault_of({head, pass, joined(body), end});
+    ASSERT_TRUE(fault.has_value());
+    EXPECT_EQ(fault->line, head.size() + pass.size() + line);
+    EXPECT_EQ(fault->reason, reason);
+}
+
+TEST(StreamGrammar, takes_an_empty_model) {
+    expect_good({});
+}
+
+TEST(StreamGrammar, wants_cr_lf_behind_every_line) {
+    std::string text = text_of(joined({head, pass, end}));
+    text.erase(text.rfind('\r'), 1);
+    EXPECT_EQ(first_grammar_fault(text), (grammar_fault{1, "not every line ends in CR LF"}));
+    text.pop_back();
+    EXPECT_EQ(first_grammar_fault(text), (grammar_fault{1, "not every line ends in CR LF"}));
+}
+
+TEST(StreamGrammar, refuses_an_end_too_early_and_lines_behind_the_end) {
+    EXPECT_EQ(fault_of({}),
+              (grammar_fault{1, "\"#;Tessaline Geometry, new extractor\" must stand here, the stream ends"}));
+    EXPECT_EQ(fault_of({head, pass}), (grammar_fault{10, "\"#;\" must stand here, the stream ends"}));
+    EXPECT_EQ(fault_of({head, pass, end, {"#;"}}),
+              (grammar_fault{12, "nothing may stand behind \"END;\", found \"#;\""}));
+}
+
+TEST(StreamGrammar, refuses_a_second_line_that_is_no_date) {
+    lines wrong = head;
+    wrong[1] = "#;2001-09-09";
+    EXPECT_EQ(fault_of({wrong, pass, end}), (grammar_fault{2, "this is no date, found \"#;2001-09-09\""}));
+    wrong[1] = "#;Invalid DateTime";
+    EXPECT_EQ(fault_of({wrong, pass, end}), std::nullopt);
+}
+
+TEST(StreamGrammar, takes_a_layer_table_numbered_from_0) {
+    EXPECT_EQ(fault_of({head, layer_table, pass, end}), std::nullopt);
+    EXPECT_EQ(fault_of({head, {"LYIN;1", "LYNM;Layer0"}, pass, end}),
+              (grammar_fault{7, "\"LYIN;0\" must stand here, found \"LYIN;1\""}));
+}
+
+TEST(StreamGrammar, takes_a_face_block) {
+    expect_good({face_block});
+}
+
+TEST(StreamGrammar, wants_the_stray_close_ahead_of_every_face_block_but_the_first) {
+    expect_good({face_block, {"EMSH; Face"}, face_block});
+    expect_bad(18, "\"EMSH; Face\" must stand here, found \"#; ProcessFace MESH\"", {face_block, face_block});
+    expect_bad(1, "\"#; ProcessFace MESH\" must stand here, found \"EMSH; Face\"", {{"EMSH; Face"}, face_block});
+}
+
+TEST(StreamGrammar, takes_the_block_parameters_in_their_order_only) {
+    const lines cover = {"GCOR;-1", "GNDC;Grass.skp"};
+    const lines invisible = {"INVS;1", "SHDW;0"};
+    const lines body = joined({state, triangle(0), close});
+    expect_good({face_head, {"SHDW;0"}, cover, invisible, body});
+    expect_bad(5, "\"TLAY;\" must stand here, found \"GCOR;-1\"", {face_head, invisible, cover, body});
+    expect_bad(4, "\"SHDW;0\" must stand here, found \"TLAY;Layer0\"", {face_head, {"INVS;1"}, body});
+    expect_bad(4, "\"GNDC;\" must stand here, found \"TLAY;Layer0\"", {face_head, {"GCOR;2"}, body});
+}
+
+TEST(StreamGrammar, refuses_a_block_without_vertices_and_one_that_is_not_closed) {
+    expect_bad(7, "a mesh has at least one vertex, found \"EMSH;\"", {face_head, state, close});
+    expect_bad(17, "\"EMSH;\" must stand here, found \"#;\"", {face_head, state, triangle(0)});
+}
+
+TEST(StreamGrammar, refuses_vertices_that_do_not_count_from_0) {
+    expect_bad(9, "\"ADDV;0\" must stand here, found \"ADDV;1\"", {face_head, state, triangle(1), close});
+}
+
+TEST(StreamGrammar, refuses_triangles_of_vertices_that_are_not_there) {
+    lines block = face_block;
+    block[15] = "FACE;0,1,3";
+    expect_bad(16, "the mesh has no vertex of this number, found \"FACE;0,1,3\"", {block});
+    block[15] = "FACE;0, 1, 2";
+    expect_bad(16, "these are no whole numbers, found \"FACE;0, 1, 2\"", {block});
+    block[15] = "FACE;0,1";
+    expect_bad(16, "a triangle has three corners, found \"FACE;0,1\"", {block});
+}
+
+TEST(StreamGrammar, takes_only_numbers_in_their_nine_digit_form) {
+    for (const char* number : {"1234.56789", "0.1", "1e-05", "1.23456789e+10", "-1e-07"}) {
+        lines block = face_block;
+        block[7] = "VERT;(0,0," + std::string(number) + ")";
+        expect_good({block});
+    }
+    for (const char* number : {"-0", "0.10", "5e-08", "1.0", "+1", "inf", "nan", "", "0.1234567891", " 1"}) {
+        lines block = face_block;
+        block[7] = "VERT;(0,0," + std::string(number) + ")";
+        expect_bad(8, "this is no triple of numbers in their shortest form, found \"" + block[7] + '"', {block});
+    }
+}
+
+TEST(StreamGrammar, takes_normals_that_are_unit_vectors_or_zero) {
+    lines block = face_block;
+    block[6] = "NORM;(0.577350269,0.577350269,0.577350269)";
+    expect_good({block});
+    block[6] = "NORM;(0,0,0)";
+    expect_good({block});
+    block[6] = "NORM;(0,1,1)";
+    expect_bad(7, "this is no unit vector, found \"NORM;(0,1,1)\"", {block});
+}
+
+TEST(StreamGrammar, wants_a_layer_list_in_an_animation_and_only_there) {
+    const lines listed = {"TLAY;Walls", "LYRS;0,1", "CULL;0", "MATL;0", "MAT2;0"};
+    const lines block = joined({face_head, listed, triangle(0), close});
+    EXPECT_EQ(fault_of({head, layer_table, pass, block, end}), std::nullopt);
+    EXPECT_EQ(fault_of({head, layer_table, pass, face_block, end}),
+              (grammar_fault{17, "\"LYRS;\" must stand here, found \"CULL;0\""}));
+    expect_bad(4, "\"CULL;0\" must stand here, found \"LYRS;0,1\"", {block});
+    lines wrong = block;
+    wrong[3] = "LYRS;0,2";
+    EXPECT_EQ(fault_of({head, layer_table, pass, wrong, end}),
+              (grammar_fault{17, "no layer has this number, found \"LYRS;0,2\""}));
+    lines unknown = joined({face_head, {"TLAY;Roof", "CULL;0", "MATL;0", "MAT2;0"}, triangle(0), close});
+    EXPECT_EQ(fault_of({head, layer_table, pass, unknown, end}), std::nullopt);
+}
+
+TEST(StreamGrammar, takes_materials_that_were_declared) {
+    const lines painted = {"TLAY;Layer0", "CULL;0", "MATL;10", "MAT2;10"};
+    expect_good({wall, face_head, painted, triangle(0), close});
+    expect_bad(5, "no material has this number, found \"MATL;10\"", {face_head, painted, triangle(0), close});
+    expect_bad(3, "\"MATI;10\" must stand here, found \"MATI;11\"", {{"MATF;a", "MTX2;1", "MATI;11"}});
+}
+
+TEST(StreamGrammar, refuses_a_back_material_in_a_block_of_one_side) {
+    const lines one_sided = {"TLAY;Layer0", "CULL;1", "MATL;0"};
+    expect_good({face_head, one_sided, triangle(0), close});
+    expect_bad(6, "a mesh has at least one vertex, found \"MAT2;0\"",
+               {face_head, one_sided, {"MAT2;0"}, triangle(0), close});
+}
+
+TEST(StreamGrammar, wants_texture_coordinates_exactly_in_textured_blocks) {
+    const lines textured = {"TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10", "MPU2;1", "MAT2;10"};
+    expect_good({wall, face_head, textured, textured_triangle(0), close});
+    expect_bad(13, "\"UVQ;\" must stand here, found \"VERT;(0,0,0)\"", {wall, face_head, textured, triangle(0), close});
+    expect_bad(8, "\"VERT;\" must stand here, found \"UVQ;(0.5,1.5,1)\"",
+               {face_head, state, textured_triangle(0), close});
+    expect_bad(13, "the third texture coordinate of a face is 1, found \"UVQ;(0,0,0)\"",
+               {wall, face_head, textured, textured_triangle(0, "UVQ;(0,0,0)"), close});
+    const lines behind = {"TLAY;Layer0", "CULL;1", "MATL;10", "MPUV;1"};
+    expect_good({wall, face_head, behind, textured_triangle(0), close});
+    expect_good({wall, face_head, behind, triangle(0), close});
+}
+
+TEST(StreamGrammar, a_lamp_block_gathers_faces_images_and_declarations) {
+    expect_good({lamp_head,
+                 state,
+                 triangle(0),
+                 wall,
+                 state,
+                 triangle(3),
+                 {"#;", "#;INSERT IMAGE IN LAMP"},
+                 image(6),
+                 state,
+                 triangle(10),
+                 end_of_lamp});
+    expect_good({lamp_head, {"INVS;1", "SHDW;0"}, end_of_lamp});
+    expect_bad(24, "\"ADDV;3\" must stand here, found \"ADDV;0\"",
+               {lamp_head, state, triangle(0), state, triangle(0), end_of_lamp});
+    expect_bad(18, "this cannot stand in the block of a lamp, found \"EMSH;\"", {lamp_head, state, triangle(0), close});
+    expect_bad(4, "this cannot stand in the block of a lamp, found \"#; ProcessFace MESH\"", {lamp_head, face_block});
+}
+
+TEST(StreamGrammar, a_lamp_block_neither_needs_nor_sets_off_the_stray_close) {
+    expect_good({face_block, lamp_head, state, triangle(0), end_of_lamp});
+    expect_good({lamp_head, state, triangle(0), end_of_lamp, face_block});
+}
+
+TEST(StreamGrammar, lamps_count_from_0_whatever_their_kind) {
+    const lines second = {"#; Process Face Lamp MESH", "MESH;", "LITE;1"};
+    expect_good({lamp_head, state, triangle(0), end_of_lamp, second, state, triangle(0), end_of_lamp});
+    expect_bad(5, "\"LITE;1\" must stand here, found \"LITE;0\"", {point_light, lamp_head, end_of_lamp});
+}
+
+TEST(StreamGrammar, a_face_lamp_closes_the_block_before_and_holds_both_passes_of_one_face) {
+    const lines face_lamp = {"#; Process Face Lamp MESH", "MESH;", "LITE;0"};
+    expect_good({face_lamp, state, triangle(0), state, triangle(3), end_of_lamp});
+    expect_good({face_block,
+                 {"EMSH; Close for new Face Lamp MESH"},
+                 face_lamp,
+                 state,
+                 triangle(0),
+                 end_of_lamp,
+                 {"EMSH; Face"},
+                 face_block});
+    expect_bad(18, "\"EMSH; Close for new Face Lamp MESH\" must stand here, found \"#; Process Face Lamp MESH\"",
+               {face_block, face_lamp, state, triangle(0), end_of_lamp});
+}
+
+TEST(StreamGrammar, an_illuminated_block_has_one_state_for_all_its_faces) {
+    const lines glowing = {
+        "#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10", "MPU2;1", "MAT2;10"};
+    expect_good({wall, glowing, triangle(0), textured_triangle(3), {"EMSH; END OF ILLUM material"}, face_block});
+    expect_good({wall, glowing, triangle(0), close, face_block});
+    expect_bad(22, "this cannot stand in an illuminated block, found \"TLAY;Layer0\"",
+               {wall, glowing, triangle(0), state, triangle(3), close});
+}
+
+TEST(StreamGrammar, bare_faces_need_a_direct_light_before_them) {
+    const lines bare = joined({state, triangle(0), close});
+    expect_good({point_light, bare, bare});
+    expect_good({face_block, {"#; Process Group LGHT Lamp Direct Light", "LGHT;0"}, bare, {"EMSH; Face"}, face_block});
+    expect_bad(1, "no item begins so, found \"TLAY;Layer0\"", {bare});
+    expect_bad(17, "\"EMSH;\" must stand here, found \"#;\"", {point_light, state, triangle(0)});
+}
+
+TEST(StreamGrammar, an_image_block_has_its_own_forms) {
+    const lines opening = {"#;", "#;NEW MESH for Image", "MESH"};
+    expect_good({wall, opening, image(0), close, face_block});
+    lines shadowless = joined({wall, opening, image(0), close});
+    shadowless.insert(shadowless.begin() + 8, "SHDW;0");
+    expect_good({shadowless});
+    lines wrong = joined({wall, opening, image(0), close});
+    wrong[5] = "MESH;";
+    expect_bad(6, "\"MESH\" must stand here, found \"MESH;\"", {wrong});
+    wrong = joined({wall, opening, image(0), close});
+    wrong[13] = "UVQ;(0,0,1)";
+    expect_bad(14, "\"UVQ;(0,0,0)\" must stand here, found \"UVQ;(0,0,1)\"", {wrong});
+}
+
+TEST(StreamGrammar, takes_section_planes_plants_and_rpc_objects_anywhere_in_the_body) {
+    const lines plane = {"CLPN;(0,0,1)", "CLPP;(1,2,3)"};
+    const lines plant = {"#;PLANT", "PLLB;OrnPlant",  "PLNM;Oak",      "PLLC;(10,0,0)", "PLDM;1.000000",
+                         "PLSN;1",  "PLRT;90.000000", "PLSC;0.950000", "PLNT;1",        "#"};
+    const lines rpc = {"RPCP;(0,0,0)",  "RPCX;(1,0,0)",  "RPCY;(0,1,0)", "RPCZ;(0,0,1)", "RPSX;1.000000",
+                       "RPSY;1.000000", "RPSZ;1.000000", "RPCL;Layer0",  "RPCN;0",       "#"};
+    expect_good({plane, plant, rpc, face_block, plant, lamp_head, plane, plant, rpc, end_of_lamp});
+    lines wrong = plant;
+    wrong[4] = "PLDM;1";
+    expect_bad(5, "this is no number with six decimals, found \"PLDM;1\"", {wrong});
+    expect_bad(1, "no item begins so, found \"PLLB;OrnPlant\"", {{plant.begin() + 1, plant.end()}});
+    wrong = rpc;
+    wrong[1] = "RPCX;(2,0,0)";
+    expect_bad(2, "this is no unit vector, found \"RPCX;(2,0,0)\"", {wrong});
+}
+
+TEST(StreamGrammar, takes_edge_blocks_at_the_end) {
+    const lines close_edges = {"EMSH; Edges"};
+    expect_good({edges, edge_head, beams(2), close_edges});
+    expect_good({face_block, edges, close_edges, edge_head, beams(1), close_edges});
+    expect_bad(20, "\"EMSH; Edges\" must stand here, found \"#;MESH for Edges\"",
+               {face_block, edges, edge_head, beams(1), close_edges});
+    expect_bad(65, "\"EMSH; Edges\" must stand here, found \"#;\"", {edges, edge_head, beams(1)});
+    expect_bad(4, "\"END;\" must stand here, found \"EMSH; Edges\"", {edges, {"#;"}, close_edges, edge_head});
+}
+
+TEST(StreamGrammar, the_first_edge_block_holds_999_edges_and_the_others_1000) {
+    const lines close_edges = {"EMSH; Edges"};
+    expect_good({edges, edge_head, beams(999), close_edges, edge_head, beams(1000), close_edges, edge_head, beams(1),
+                 close_edges});
+    const auto overfull = fault_of({head, pass, edges, edge_head, beams(1000), close_edges, end});
+    ASSERT_TRUE(overfull.has_value());
+    EXPECT_TRUE(overfull->reason.starts_with("the block of edges is overfull")) << *overfull;
+    const auto split =
+        fault_of({head, pass, edges, edge_head, beams(998), close_edges, edge_head, beams(1), close_edges, end});
+    ASSERT_TRUE(split.has_value());
+    EXPECT_TRUE(split->reason.starts_with("the block of edges before is not full")) << *split;
+}
+
+TEST(StreamGrammar, takes_the_edges_of_a_3d_document) {
+    const lines line = {"#;",   "MESH;", "EDGE;1", "TLAY;Edges", "EDG1;(0, 0, 0)", "EDG2;(10, 0, 0)", "EDGN;(0, 0, 1)",
+                        "EMSH;"};
+    expect_good({face_block, edges, line, line});
+    lines wrong = line;
+    wrong[4] = "EDG1;(0,0,0)";
+    expect_bad(7, "this is no triple of numbers in their shortest form, found \"EDG1;(0,0,0)\"", {edges, wrong});
+}
+
+TEST(StreamGrammar, refuses_lines_that_no_item_begins_with) {
+    for (const char* line : {"", "MESH;", "EMSH;", "FACE;0,1,2", "SHDW;0", "XXXX;1", "# ; ProcessFace MESH"})
+        expect_bad(1, "no item begins so, found \"" + std::string(line) + '"', {{line}});
+}
+
+} // namespace
