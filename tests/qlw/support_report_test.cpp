@@ -71,6 +71,19 @@ TEST_F(SupportReport, has_one_line_for_each_fact_and_no_other) {
                                           "     #SU Version: '17.2.2555'\r\n");
 }
 
+TEST_F(SupportReport, names_the_user_that_the_profile_names) {
+    const temporary_folder home;
+    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    home.write("Quillon Systems/Profile.ini",
+               "[Common]\r\nPhone=123\r\nEmail=Ann@Example.com\r\nUser Name=Ann\r\nCompany=Example\r\n");
+    reset_profile_state();
+    const std::string report = get_support_report();
+    reset_profile_state();
+    for (const char* line : {"     #Phone: '123'\r\n", "     #Email: 'ann@example.com'\r\n", "     #User: 'Ann'\r\n",
+                             "     #Company: 'Example'\r\n"})
+        EXPECT_NE(report.find(line), std::string::npos) << line << report;
+}
+
 TEST_F(SupportReport, of_a_machine_without_registry_names_date_computer_and_system) {
     if (!platform::lives_on_the_console)
         GTEST_SKIP() << "this system has a registry";
