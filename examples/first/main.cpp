@@ -16,7 +16,7 @@ constexpr double leg_width = 3;
 constexpr double table_length = 60;
 constexpr double table_depth = 32;
 
-void add_table(model_builder& m, index wood) {
+void add_table(model_builder& m, sketchup::index wood) {
     list_builder leg = m.component("Leg");
     leg.box({0, 0, 0}, {leg_width, leg_width, table_height - 1});
     list_builder table = m.root().group("Table", moved({20, 30, 0}));
@@ -29,8 +29,8 @@ void add_table(model_builder& m, index wood) {
 
 std::unique_ptr<model> small_room() {
     model_builder m;
-    const index wood = m.material("Wood", {160, 110, 60, 255});
-    const index furniture = m.layer("Furniture");
+    const sketchup::index wood = m.material("Wood", {160, 110, 60, 255});
+    const sketchup::index furniture = m.layer("Furniture");
     m.root().face({{0, 0, 0}, {120, 0, 0}, {120, 100, 0}, {0, 100, 0}});
     add_table(m, wood);
     list_builder box = m.root().group("Box", after(moved({95, 20, 0}), turned_about_z(30)));

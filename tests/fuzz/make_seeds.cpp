@@ -2,8 +2,10 @@
 
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
+#include "sketchup/skp/writer/modern_writer.h"
 #include "tests/fuzz/modern_seeds.h"
 #include "tests/fuzz/option_seeds.h"
+#include "tests/fuzz/picture_seeds.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -15,31 +17,59 @@ namespace {
 
 using namespace sketchup;
 
-// One of everything that a model can hold, in as few bytes as that takes.
-std::unique_ptr<model> one_of_everything() {
-    model_builder m;
-    const index layer = m.layer("Hidden", false);
-    const index paint = m.material("Paint", {200, 30, 30, 255}, 0.5);
-    const index tiles = m.textured_material("Tiles", {'B', 'M', 0, 0}, "tiles.bmp", 10, 20);
-    const entity_place face = m.root().face({{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}});
-    m.face(face).material = paint;
-    m.face(face).back_material = tiles;
+// Faces with holes, painted on both sides with mapped textures, and attributes of most types.
+void add_faces(model_builder& m) {
+    const std::vector<vec3> outline = {{0, 0, 0}, {8, 0, 0}, {8, 8, 0}, {0, 8, 0}};
+    const std::vector<std::vector<vec3>> holes = {{{2, 2, 0}, {4, 2, 0}, {4, 4, 0}}};
+    const entity_place face = m.root().face(outline, holes);
+    m.face(face).material = m.material("Paint", {200, 30, 30, 255}, 0.5);
+    m.face(face).back_material = m.textured_material("Tiles", {'B', 'M', 0, 0}, "tiles.bmp", 10, 20);
+    m.mapping(face).back.positioned = true;
     m.attribute(face, "numbers", "byte", {value_code::byte, std::int64_t{7}});
     m.attribute(face, "numbers", "array", {value_code::array, std::vector<typed_value>{text("a"), real_number(2)}});
     m.attribute(face, "numbers", "color", {value_code::color, rgba{1, 2, 3, 4}});
-    m.attribute(face, "numbers", "point", {value_code::point, vec3{1, 2, 3}});
-    list_builder group = m.root().group("group", moved({5, 0, 0}));
-    m.element(group.placement()).layer = layer;
-    const std::vector<vec3> outline = {{0, 0, 0}, {8, 0, 0}, {8, 8, 0}, {0, 8, 0}};
-    const std::vector<std::vector<vec3>> holes = {{{2, 2, 0}, {4, 2, 0}, {4, 4, 0}}};
-    group.face(outline, holes);
-    list_builder component = m.component("component");
-    component.polyline_curve(outline);
-    group.instance(component, scaled(2, 2, -1), "mirrored");
-    m.root().section_plane({0, 0, 1, -3}, true, "cut");
-    m.root().image(m.image_definition({'B', 'M', 0, 0}, "picture.bmp", 16, 16));
-    m.scene("scene", true);
+    m.attribute(m.dictionary(face, "numbers"), "nested", "point", {value_code::point, vec3{1, 2, 3}});
     m.attribute(m.root().list(), "qlw_globals", "ivl_2_sided_faces", whole_number(1));
+}
+
+void add_placements(model_builder& m) {
+    list_builder group = m.root().group("group", moved({5, 0, 0}));
+    m.element(group.placement()).layer = m.layer("Hidden", false);
+    list_builder component = m.component("component");
+    component.arc({0, 0, 0}, {3, 0, 0}, {0, 3, 0}, 0, 1, 2);
+    const std::vector<vec3> points = {{5, 0, 0}, {6, 1, 0}, {7, 0, 0}};
+    component.polyline_curve(points);
+    group.instance(component, scaled(2, 2, -1), "mirrored");
+    m.root().image(m.image_definition({'B', 'M', 0, 0}, "picture.bmp", 16, 16));
+    m.model().root.glued = 1;
+}
+
+void add_annotations(model_builder& m) {
+    for (const annotation_kind what :
+         {annotation_kind::guide_line, annotation_kind::guide_point, annotation_kind::text,
+          annotation_kind::linear_dimension, annotation_kind::radial_dimension, annotation_kind::polyline})
+        m.root().annotation(what);
+    m.root().section_plane({0, 0, 1, -3}, true, "cut");
+}
+
+void add_scene(model_builder& m) {
+    const sketchup::index made = m.scene("scene", true);
+    m.scene_camera(made).eye = {1, 2, 3};
+    scene& s = m.model().scenes[made];
+    s.rendering_options.emplace();
+    s.shadow_info.emplace();
+    s.hidden_layers = {0};
+    s.active_section_planes = {0};
+    m.model().layers[1].folder = m.layer_folder("folder", m.layer_folder("outer"));
+}
+
+// One of everything that a model can hold, in as few bytes as that takes.
+std::unique_ptr<model> one_of_everything() {
+    model_builder m;
+    add_faces(m);
+    add_placements(m);
+    add_annotations(m);
+    add_scene(m);
     return m.finish();
 }
 
@@ -66,8 +96,33 @@ bool write_classic_seeds(const std::filesystem::path& folder) {
     return written;
 }
 
+// Whole files, for the target that opens either container.
+bool write_archive_seeds(const std::filesystem::path& folder) {
+    using enum skp::modern_version;
+    bool written = true;
+    for (const auto& [name, version] : {std::pair("21", v21), std::pair("25", v25)}) {
+        written = write(folder / (std::string("empty_") + name), skp::write_modern(*empty(), version)) && written;
+        written =
+            write(folder / (std::string("all_") + name), skp::write_modern(*one_of_everything(), version)) && written;
+    }
+    return written;
+}
+
+// Documents of a model alone: small ones by hand, and those that stand in whole files.
 bool write_modern_seeds(const std::filesystem::path& folder) {
-    return write(folder / "empty", record_bytes::rec(500)) && write(folder / "all", modern_seeds::one_of_everything());
+    using enum skp::modern_version;
+    return write(folder / "empty", record_bytes::rec(500)) &&
+           write(folder / "all", modern_seeds::one_of_everything()) &&
+           write(folder / "empty_25", skp::modern_model_data(*empty(), v25)) &&
+           write(folder / "all_21", skp::modern_model_data(*one_of_everything(), v21)) &&
+           write(folder / "all_25", skp::modern_model_data(*one_of_everything(), v25));
+}
+
+bool write_picture_seeds(const std::filesystem::path& folder) {
+    bool written = true;
+    for (const auto& [name, bytes] : picture_seeds())
+        written = write(folder / name, bytes) && written;
+    return written;
 }
 
 bool write_text(const std::filesystem::path& file, std::string_view text) {
@@ -87,7 +142,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    if (write_classic_seeds(folder / "fuzz_classic") && write_modern_seeds(folder / "fuzz_modern") &&
+    if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder / "fuzz_classic") &&
+        write_modern_seeds(folder / "fuzz_modern") && write_picture_seeds(folder / "fuzz_picture") &&
         write_option_seeds(folder))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);

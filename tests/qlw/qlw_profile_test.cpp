@@ -1,5 +1,7 @@
 #include "qlw/qlw_profile.h"
 
+#include "qlw/ini_file.h"
+
 #include <gtest/gtest.h>
 
 TEST(UserProfile, a_key_that_was_never_written_gives_the_default) {

@@ -8,10 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 using sketchup::model_builder;
 using sketchup::api::texture_file_name;
 
@@ -126,8 +122,8 @@ std::vector<std::uint8_t> file_of(const image::picture& pixels, image::picture_f
 }
 
 std::vector<std::uint8_t> read_back(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    const std::string text = text_of_file(path);
+    return {text.begin(), text.end()};
 }
 
 } // namespace
@@ -170,7 +166,7 @@ TEST(Texture, is_written_unchanged_if_the_format_is_the_stored_one) {
     builder.textured_material("Brick", stored, "brick.jpg", 10, 20);
     test_model opened(builder);
     EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / "a.JPEG").c_str()), SU_ERROR_NONE);
-    EXPECT_EQ(read_back(folder / "a.JPEG"), stored);
+    EXPECT_EQ(read_back((folder / "a.JPEG")), stored);
 }
 
 TEST(Texture, is_written_anew_in_another_format) {
@@ -181,7 +177,7 @@ TEST(Texture, is_written_anew_in_another_format) {
     test_model opened(builder);
     for (const char* name : {"a.bmp", "a.TIF"}) {
         EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / name).c_str()), SU_ERROR_NONE);
-        EXPECT_EQ(image::decode_picture(read_back(folder / name)), pixels) << name;
+        EXPECT_EQ(image::decode_picture(read_back((folder / name))), pixels) << name;
     }
 }
 
@@ -196,7 +192,7 @@ TEST(Texture, is_recoloured_as_its_material_wants_but_not_in_its_original) {
     builder.model().materials[0].color = {147, 154, 158, 255};
     builder.model().textures[0].average_color = {105, 137, 98, 255};
     test_model opened(builder);
-    const std::string shown = folder / "shown.png", original = folder / "original.png";
+    const std::string shown = (folder / "shown.png"), original = (folder / "original.png");
     EXPECT_EQ(SUTextureWriteToFile(opened.texture(), shown.c_str()), SU_ERROR_NONE);
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), original.c_str()), SU_ERROR_NONE);
     EXPECT_EQ(image::decode_picture(read_back(shown))->bytes(), (std::vector<std::uint8_t>{158, 156, 147}));
@@ -213,7 +209,7 @@ TEST(Texture, that_is_damaged_fails_and_leaves_no_file) {
     test_model opened(builder);
     for (const sketchup::index texture : {0u, 1u}) {
         EXPECT_EQ(SUTextureWriteToFile(opened.texture(texture), (folder / "a.jpg").c_str()), SU_ERROR_SERIALIZATION);
-        EXPECT_FALSE(std::filesystem::exists(folder / "a.jpg"));
+        EXPECT_FALSE(std::filesystem::exists((folder / "a.jpg")));
     }
     size_t width = 7, height = 7;
     double s = 7, t = 7;
@@ -228,7 +224,7 @@ TEST(Texture, is_not_written_under_an_extension_that_is_not_known) {
     test_model opened(builder);
     for (const char* name : {"a.psd", "a.gif", "a", "no/folder.png"}) {
         EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / name).c_str()), SU_ERROR_SERIALIZATION) << name;
-        EXPECT_FALSE(std::filesystem::exists(folder / name)) << name;
+        EXPECT_FALSE(std::filesystem::exists((folder / name))) << name;
     }
 }
 
@@ -239,7 +235,7 @@ TEST(TextureFromPixels, writes_its_pixels_with_the_first_row_on_top) {
     SUTextureRef texture = SU_INVALID;
     ASSERT_EQ(SUTextureCreateFromImageData(&texture, 1, 2, 24, pixels), SU_ERROR_NONE);
     EXPECT_EQ(SUTextureWriteToFile(texture, (folder / "a.png").c_str()), SU_ERROR_NONE);
-    EXPECT_EQ(image::decode_picture(read_back(folder / "a.png"))->bytes(),
+    EXPECT_EQ(image::decode_picture(read_back((folder / "a.png")))->bytes(),
               (std::vector<std::uint8_t>{0, 0, 255, 0, 255, 0}));
     EXPECT_EQ(SUTextureWriteToFile(texture, (folder / "a.gif").c_str()), SU_ERROR_SERIALIZATION);
     SUTextureRelease(&texture);
@@ -247,7 +243,7 @@ TEST(TextureFromPixels, writes_its_pixels_with_the_first_row_on_top) {
 
 TEST(TextureFromFile, has_the_tile_size_that_was_asked_for) {
     const temporary_folder folder;
-    ASSERT_TRUE(image::write_picture(folder / "lake.png", noise(20, 10)));
+    ASSERT_TRUE(image::write_picture((folder / "lake.png"), noise(20, 10)));
     SUTextureRef texture = SU_INVALID;
     ASSERT_EQ(SUTextureCreateFromFile(&texture, (folder / "lake.png").c_str(), 8, 4), SU_ERROR_NONE);
     size_t width = 0, height = 0;

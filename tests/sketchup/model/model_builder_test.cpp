@@ -11,10 +11,10 @@ namespace {
 
 using namespace sketchup;
 
-std::vector<vec3> corners_of(const model& m, index loop) {
+std::vector<vec3> corners_of(const model& m, sketchup::index loop) {
     std::vector<vec3> corners;
     const index_range uses = m.loops[loop].uses;
-    for (index i = uses.first; i < uses.first + uses.count; ++i) {
+    for (sketchup::index i = uses.first; i < uses.first + uses.count; ++i) {
         const edge& e = m.edges[m.edge_uses[i].edge];
         corners.push_back(m.vertices[m.edge_uses[i].reversed ? e.end : e.start].position);
     }

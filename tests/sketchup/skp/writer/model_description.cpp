@@ -318,6 +318,8 @@ void describer::camera(const sketchup::camera& c) {
 }
 
 void describer::options(const sketchup::rendering_options& o) {
+    if (leaves_out("rendering options"))
+        return;
     under("rendering options", [&] {
         entity(o, "id of settings");
         std::map<std::string, std::string> values;

@@ -195,8 +195,8 @@ TEST(ModernWriter, keys_of_a_dictionary_are_sorted_by_their_bytes) {
 
 TEST(ModernWriter, a_picture_of_two_materials_is_stored_once) {
     model_builder m;
-    const index first = m.textured_material("first", bitmap, "tiles.bmp", 10, 20);
-    const index second = m.textured_material("second", bitmap, "tiles.bmp", 5, 5);
+    const sketchup::index first = m.textured_material("first", bitmap, "tiles.bmp", 10, 20);
+    const sketchup::index second = m.textured_material("second", bitmap, "tiles.bmp", 5, 5);
     model& made = m.model();
     made.textures[made.materials[second].texture].picture = made.textures[made.materials[first].texture].picture;
     const bytes file = skp::write_modern(*m.finish(), skp::modern_version::v25);

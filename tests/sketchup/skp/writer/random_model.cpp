@@ -36,7 +36,9 @@ private:
     void give_attributes_at(entity_place owner, int depth = 2);
     void give_ids();
     void give_id(entity& e);
-    index some_material() { return random_.chance(2) ? no_index : materials_[random_.below(size(materials_))]; }
+    sketchup::index some_material() {
+        return random_.chance(2) ? no_index : materials_[random_.below(size(materials_))];
+    }
     std::vector<attribute> options();
     shadow_info sun();
     camera view();
@@ -44,9 +46,9 @@ private:
 
     random_values random_;
     model_builder builder_;
-    std::vector<index> materials_;
+    std::vector<sketchup::index> materials_;
     std::vector<list_builder> components_; // each may hold those before it
-    std::vector<index> images_;
+    std::vector<sketchup::index> images_;
     std::vector<list_builder> groups_;
     std::int64_t last_id_ = 0;
 };
@@ -64,9 +66,10 @@ std::vector<std::uint8_t> some_picture(random_values& random) {
 void generator::add_materials() {
     for (std::uint32_t i = 2 + random_.below(4); i > 0; --i) {
         const std::string file = random_.name() + ".png";
-        const index made = random_.chance(2) ? builder_.material(random_.name(), random_.color())
-                                             : builder_.textured_material(random_.name(), some_picture(random_), file,
-                                                                          1 + random_.below(50), 2.5);
+        const sketchup::index made =
+            random_.chance(2)
+                ? builder_.material(random_.name(), random_.color())
+                : builder_.textured_material(random_.name(), some_picture(random_), file, 1 + random_.below(50), 2.5);
         material& m = builder_.model().materials[made];
         m.transparency = random_.figure();
         m.use_transparency = random_.chance(2);
@@ -86,13 +89,14 @@ void generator::add_materials() {
 }
 
 void generator::add_layers() {
-    std::vector<index> folders;
+    std::vector<sketchup::index> folders;
     for (std::uint32_t i = random_.below(4); i > 0; --i) {
-        const index parent = folders.empty() || random_.chance(2) ? no_index : folders[random_.below(size(folders))];
+        const sketchup::index parent =
+            folders.empty() || random_.chance(2) ? no_index : folders[random_.below(size(folders))];
         folders.push_back(builder_.layer_folder(random_.name(), parent, random_.chance(2)));
     }
     for (std::uint32_t i = random_.below(4); i > 0; --i) {
-        const index made = builder_.layer(random_.name(), random_.chance(2), random_.color());
+        const sketchup::index made = builder_.layer(random_.name(), random_.chance(2), random_.color());
         layer& l = builder_.model().layers[made];
         l.page_behavior = random_.below(64);
         if (!folders.empty() && random_.chance(2))
@@ -268,7 +272,7 @@ void generator::add_scenes() {
     constexpr std::uint32_t unknown_bits = 0xFF80;
     constexpr std::uint32_t keeps_axes_and_hidden_entities = 8 | 16;
     for (std::uint32_t i = random_.below(4); i > 0; --i) {
-        const index made = builder_.scene(random_.name(), random_.chance(2));
+        const sketchup::index made = builder_.scene(random_.name(), random_.chance(2));
         if (random_.chance(2))
             builder_.scene_camera(made) = view();
         model& m = builder_.model();
@@ -279,10 +283,10 @@ void generator::add_scenes() {
             s.rendering_options.emplace().values = options();
         if (random_.chance(2))
             s.shadow_info = sun();
-        for (index layer = 0; layer < m.layers.size(); ++layer)
+        for (sketchup::index layer = 0; layer < m.layers.size(); ++layer)
             if (random_.chance(3))
                 s.hidden_layers.push_back(layer);
-        for (index plane = 0; plane < m.section_planes.size(); ++plane)
+        for (sketchup::index plane = 0; plane < m.section_planes.size(); ++plane)
             if (random_.chance(3))
                 s.active_section_planes.push_back(plane);
         s.flags = (static_cast<std::uint32_t>(random_.bits()) & (unknown_bits | keeps_axes_and_hidden_entities)) |
@@ -351,7 +355,7 @@ void generator::give_attributes_at(entity_place owner, int depth) {
 void generator::give_attributes() {
     const model& m = builder_.model();
     const auto give = [this](entity_kind kind, const auto& array) {
-        for (index i = 0; i < array.size(); ++i)
+        for (sketchup::index i = 0; i < array.size(); ++i)
             if (random_.chance(3))
                 give_attributes_at({kind, i});
     };
