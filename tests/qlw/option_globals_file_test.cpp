@@ -186,9 +186,7 @@ TEST_F(OptionGlobalsFile, a_setting_of_the_profile_is_set_and_not_written) {
 TEST_F(OptionGlobalsFile, a_setting_of_the_profile_is_stored_there) {
     global_variables.create_variable("itest_own", SAVE_PROFILE);
     changes("itest_own; 5\n");
-    reset_settings();
-    global_variables.use_profile(profile);
-    EXPECT_EQ(global_variables.find_global("itest_own", SAVE_PROFILE).get_int(), 5);
+    EXPECT_THAT(profile.written, ElementsAre("Globals/itest_own=5"));
 }
 
 TEST_F(OptionGlobalsFile, only_three_save_types_are_written) {
