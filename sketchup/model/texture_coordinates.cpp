@@ -32,18 +32,6 @@ std::optional<matrix3> inverse_of(const matrix3& m) {
     return inverse;
 }
 
-// The matrix with its noise taken out, so that q of an affine mapping is 1 and not nearly 1.
-matrix3 clean_matrix(const side_mapping& mapping) {
-    matrix3 m = mapping.matrix;
-    if (is_affine(mapping)) {
-        for (double& element : m) {
-            element /= mapping.matrix[8];
-        }
-        m[2] = m[5] = 0;
-    }
-    return m;
-}
-
 } // namespace
 
 double tile_size(double size) {
@@ -88,7 +76,8 @@ side_coordinates::side_coordinates(const vec3& normal, const side_mapping& mappi
     : axes_(axes_of_plane(mapping.projected ? normalized_or(mapping.direction, normal) : normal)),
       width_(tile_size(width)), height_(tile_size(height)) {
     if (mapping.positioned) {
-        inverse_ = inverse_of(clean_matrix(mapping)).value_or(inverse_);
+        inverse_ = inverse_of(mapping.matrix).value_or(inverse_);
+        is_affine_ = is_affine(mapping);
     }
 }
 
@@ -96,7 +85,11 @@ uvq side_coordinates::at(const vec3& point) const {
     const double x = dot(point, axes_.u);
     const double y = dot(point, axes_.v);
     const matrix3& m = inverse_;
-    return {(x * m[0] + y * m[3] + m[6]) / width_, (x * m[1] + y * m[4] + m[7]) / height_, x * m[2] + y * m[5] + m[8]};
+    const uvq at = {(x * m[0] + y * m[3] + m[6]) / width_, (x * m[1] + y * m[4] + m[7]) / height_,
+                    x * m[2] + y * m[5] + m[8]};
+    // The noise in the matrix of an affine mapping belongs to it: the picture lies where u / q and v / q say. But the
+    // caller gets 1 for q, and not nearly 1.
+    return is_affine_ && at.q != 0 ? uvq{at.u / at.q, at.v / at.q, 1} : at;
 }
 
 side_coordinates coordinates_of_side(const model& m, const face& f, face_side side) {

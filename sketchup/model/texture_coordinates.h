@@ -60,6 +60,7 @@ public:
 private:
     plane_axes axes_;
     std::array<double, 9> inverse_{1, 0, 0, 0, 1, 0, 0, 0, 1}; // [x y 1] · inverse = [s t q], row by row
+    bool is_affine_ = true;
     double width_ = 1;
     double height_ = 1;
 };

@@ -2,6 +2,7 @@
 
 #include "tools/skp-dump/opened_model.h"
 #include "tools/skp-dump/prints.h"
+#include "tools/skp-dump/write_textures.h"
 
 #include <cstdio>
 #include <string>
@@ -12,22 +13,30 @@ namespace {
 
 enum class form { summary, json, tree };
 
-constexpr const char* usage = "usage: skp-dump [--summary | --json | --tree] MODEL...\n"
+struct request {
+    form wanted = form::summary;
+    bool writes_textures = false;
+    std::string texture_folder;
+    std::vector<std::string> models;
+};
+
+constexpr const char* usage = "usage: skp-dump [--summary | --json | --tree] [--textures FOLDER] MODEL...\n"
                               "  --summary  counts, sizes, layers and materials as text (the default)\n"
                               "  --json     one object a file, on one line\n"
                               "  --tree     the hierarchy with names, layers, transforms and attributes\n"
-                              "Status 0 if every model opened, 1 if one did not.\n";
+                              "  --textures FOLDER  the pictures of all materials as files\n"
+                              "Status 0 if every model opened and every picture was written, 1 otherwise.\n";
 
-// True if the model opened.
-bool dump(const std::string& file_name, form wanted) {
+// True if the model opened and, if asked for, its pictures could be written.
+bool dump(const std::string& file_name, const request& asked) {
     const opened_model opened(file_name);
     if (!opened.is_open()) {
-        if (wanted == form::json)
+        if (asked.wanted == form::json)
             print_json_failure(opened.failure());
         std::fprintf(stderr, "skp-dump: %s: %s\n", file_name.c_str(), opened.failure().c_str());
         return false;
     }
-    switch (wanted) {
+    switch (asked.wanted) {
     case form::summary:
         print_summary(file_name, opened.model());
         break;
@@ -38,36 +47,44 @@ bool dump(const std::string& file_name, form wanted) {
         print_tree(opened.model());
         break;
     }
-    return true;
+    return !asked.writes_textures || write_textures(opened.model(), asked.texture_folder);
+}
+
+// False if the arguments make no sense.
+bool read_arguments(int argc, char** argv, request& asked) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "--summary")
+            asked.wanted = form::summary;
+        else if (argument == "--json")
+            asked.wanted = form::json;
+        else if (argument == "--tree")
+            asked.wanted = form::tree;
+        else if (argument == "--textures" && i + 1 < argc) {
+            asked.writes_textures = true;
+            asked.texture_folder = argv[++i];
+        } else
+            asked.models.emplace_back(argument);
+    }
+    return !asked.models.empty();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    form wanted = form::summary;
-    std::vector<std::string> models;
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == "--summary")
-            wanted = form::summary;
-        else if (argument == "--json")
-            wanted = form::json;
-        else if (argument == "--tree")
-            wanted = form::tree;
-        else if (argument == "--help") {
-            std::fputs(usage, stdout);
-            return 0;
-        } else
-            models.emplace_back(argument);
+    if (argc == 2 && argv[1] == std::string_view("--help")) {
+        std::fputs(usage, stdout);
+        return 0;
     }
-    if (models.empty()) {
+    request asked;
+    if (!read_arguments(argc, argv, asked)) {
         std::fputs(usage, stderr);
         return 2;
     }
     SUInitialize();
-    bool all_opened = true;
-    for (const std::string& model : models)
-        all_opened = dump(model, wanted) && all_opened;
+    bool all_done = true;
+    for (const std::string& model : asked.models)
+        all_done = dump(model, asked) && all_done;
     SUTerminate();
-    return all_opened ? 0 : 1;
+    return all_done ? 0 : 1;
 }

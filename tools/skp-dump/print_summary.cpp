@@ -45,6 +45,20 @@ void print_layers(SUModelRef model) {
     }
 }
 
+// The size of a texture's picture and of its tile.
+std::string texture_text(SUTextureRef texture) {
+    std::size_t width = 0;
+    std::size_t height = 0;
+    double s = 1;
+    double t = 1;
+    const std::string name = su_text(texture, SUTextureGetFileName);
+    if (SUTextureGetDimensions(texture, &width, &height, &s, &t) != SU_ERROR_NONE)
+        return "texture " + name + " without a readable picture";
+    char sizes[160];
+    std::snprintf(sizes, sizeof sizes, " %zu x %zu pixels, tile %.6g x %.6g inches", width, height, 1 / s, 1 / t);
+    return "texture " + name + sizes;
+}
+
 void print_materials(SUModelRef model) {
     for (const SUMaterialRef material : su_list(model, SUModelGetNumMaterials, SUModelGetMaterials)) {
         SUColor color = {};
@@ -53,9 +67,12 @@ void print_materials(SUModelRef model) {
         SUMaterialGetOpacity(material, &opacity);
         SUTextureRef texture = SU_INVALID;
         const bool textured = SUMaterialGetTexture(material, &texture) == SU_ERROR_NONE;
-        std::printf("  material %s: #%02x%02x%02x, opacity %.6g%s%s\n", su_text(material, SUMaterialGetName).c_str(),
-                    color.red, color.green, color.blue, opacity, textured ? ", texture " : "",
-                    textured ? su_text(texture, SUTextureGetFileName).c_str() : "");
+        SUMaterialType type = SUMaterialType_Colored;
+        SUMaterialGetType(material, &type);
+        std::printf("  material %s: #%02x%02x%02x, opacity %.6g%s%s%s\n", su_text(material, SUMaterialGetName).c_str(),
+                    color.red, color.green, color.blue, opacity, textured ? ", " : "",
+                    textured ? texture_text(texture).c_str() : "",
+                    type == SUMaterialType_ColorizedTexture ? ", recoloured" : "");
     }
 }
 
@@ -79,6 +96,5 @@ void print_summary(const std::string& file_name, SUModelRef model) {
     box_line("box of the visible", written.box);
     print_layers(model);
     print_materials(model);
-    for (const SUSceneRef scene : su_list(model, SUModelGetNumScenes, SUModelGetScenes))
-        std::printf("  scene %s\n", su_text(scene, SUSceneGetName).c_str());
+    print_parts(model);
 }

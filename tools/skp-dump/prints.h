@@ -6,8 +6,11 @@
 
 #include <string>
 
-// Counts, sizes, layers and materials as lines of text.
+// Counts, sizes, layers, materials and, by print_parts, what else a model holds, as lines of text.
 void print_summary(const std::string& file_name, SUModelRef model);
+
+// The camera, scenes, images, section planes, behaviours of components and rendering options, a line each.
+void print_parts(SUModelRef model);
 
 // One JSON object on one line: "opens", "bytes", "container", "version", the counts, "layers", "materials",
 // "dictionaries", "scenes", and under "placed" and "written" what the model shows once flattened.

@@ -6,7 +6,9 @@
 #include "tests/image/pictures.h"
 #include "tests/support/temporary_folder.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 
 using sketchup::model_builder;
 using sketchup::api::texture_file_name;
@@ -122,8 +124,8 @@ std::vector<std::uint8_t> file_of(const image::picture& pixels, image::picture_f
 }
 
 std::vector<std::uint8_t> read_back(const std::string& path) {
-    const std::string text = text_of_file(path);
-    return {text.begin(), text.end()};
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 } // namespace
@@ -187,9 +189,9 @@ TEST(Texture, is_recoloured_as_its_material_wants_but_not_in_its_original) {
     pixel.bytes() = {98, 137, 115};
     const std::vector<std::uint8_t> stored = file_of(pixel, image::picture_format::png);
     model_builder builder;
-    builder.textured_material("Brick", stored, "brick.png", 10, 20);
-    builder.model().materials[0].type = sketchup::material_type::colorized;
-    builder.model().materials[0].color = {147, 154, 158, 255};
+    const sketchup::index paint = builder.textured_material("Brick", stored, "brick.png", 10, 20);
+    builder.model().materials[paint].type = sketchup::material_type::colorized;
+    builder.model().materials[paint].color = {147, 154, 158, 255};
     builder.model().textures[0].average_color = {105, 137, 98, 255};
     test_model opened(builder);
     const std::string shown = (folder / "shown.png"), original = (folder / "original.png");
