@@ -30,12 +30,15 @@ fpt vector_of(SUShadowInfoRef info, const char* key) {
 
 } // namespace
 
+sun_angles sun_angles_of(const fpt& to_sun) {
+    const double along_ground = std::sqrt(to_sun.x * to_sun.x + to_sun.y * to_sun.y);
+    return {std::atan2(to_sun.y, to_sun.x), std::atan2(to_sun.z, along_ground)};
+}
+
 void read_sun() {
     SUShadowInfoRef info = SU_INVALID;
     SUModelGetShadowInfo(open_model, &info);
-    const fpt to_sun = vector_of(info, "SunDirection");
-    const double azimuth = std::atan2(to_sun.y, to_sun.x);
-    const double altitude = std::atan2(to_sun.z, std::sqrt(to_sun.x * to_sun.x + to_sun.y * to_sun.y));
+    const auto [azimuth, altitude] = sun_angles_of(vector_of(info, "SunDirection"));
     set_global_double("rzyn_sun_azimuth", azimuth);
     set_global_double("rzyn_sun_altitude", altitude);
     set_global_double("rskp_sun_azimuth", azimuth);
