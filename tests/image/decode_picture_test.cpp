@@ -96,7 +96,7 @@ TEST(DecodePicture, of_an_absurd_size_fails_while_the_size_is_told) {
     ASSERT_TRUE(picture_size(png));
     EXPECT_EQ(picture_size(png)->width, 900000u);
     std::vector<std::uint8_t> bmp = encode_picture(noise(2, 2), picture_format::bmp);
-    for (const std::size_t field : {18, 22}) // width and height
+    for (const std::size_t field : {18u, 22u}) // width and height
         for (std::size_t i = 0; i < 4; ++i)
             bmp[field + i] = i < 3 ? 0xFF : 0x7F;
     EXPECT_FALSE(decode_picture(bmp));

@@ -91,17 +91,18 @@ size opened_as_tiff(const std::string& path) {
     return found;
 }
 
-// Not packed, and as long as the size and the depth in its header demand.
+// Not packed, and as long as the size and the depth in its header demand. Real models hold the oldest header, too.
 size opened_as_bmp(const std::string& path) {
     const std::vector<std::uint8_t> file = file_bytes(path);
-    const auto number = [&](std::size_t at) {
-        return file[at] + (std::uint32_t{file[at + 1]} << 8) + (std::uint32_t{file[at + 2]} << 16);
-    };
-    if (file.size() < 54 || file[0] != 'B' || file[1] != 'M' || file[30] != 0)
+    const auto number = [&](std::size_t at) { return std::uint32_t{file[at]} + (std::uint32_t{file[at + 1]} << 8); };
+    if (file.size() < 34 || file[0] != 'B' || file[1] != 'M')
         return {};
-    const size found = {number(18), number(22)};
-    const std::size_t bits = file[28];
-    return file.size() >= number(10) + (found[0] * bits + 31) / 32 * 4 * found[1] ? found : size{};
+    const bool is_oldest = number(14) == 12;
+    const size found = is_oldest ? size{number(18), number(20)} : size{number(18), number(22)};
+    const std::size_t bits = number(is_oldest ? 24 : 28);
+    const bool is_packed = !is_oldest && number(30) != 0;
+    const std::size_t needed = number(10) + (found[0] * bits + 31) / 32 * 4 * found[1];
+    return !is_packed && file.size() >= needed ? found : size{};
 }
 
 size opened_by_itself(const std::string& path) {
