@@ -186,7 +186,7 @@ TEST_F(OptionGlobalsFile, a_setting_of_the_profile_is_set_and_not_written) {
 TEST_F(OptionGlobalsFile, a_setting_of_the_profile_is_stored_there) {
     global_variables.create_variable("itest_own", SAVE_PROFILE);
     changes("itest_own; 5\n");
-    EXPECT_THAT(profile.written, ElementsAre("Globals/itest_own=5"));
+    EXPECT_THAT(profile.written, ElementsAre("Globals/itest_own=int 5"));
 }
 
 TEST_F(OptionGlobalsFile, only_three_save_types_are_written) {
