@@ -1,5 +1,7 @@
 #include "qlw/ini_text.h"
 
+#include "qlw/letter_case.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -38,10 +40,7 @@ std::string as_written(std::string_view value) {
 }
 
 std::string folded(std::string_view name) {
-    std::string lower(without_blanks(name));
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
+    return in_lower_case(std::string(without_blanks(name)));
 }
 
 std::string place_of(std::string_view folded_section, std::string_view key) {

@@ -1,6 +1,6 @@
 #include "qlw/registry_path.h"
 
-#include <algorithm>
+#include "qlw/letter_case.h"
 
 namespace {
 
@@ -9,13 +9,6 @@ constexpr std::string_view software = "SOFTWARE\\";
 constexpr std::string_view software_for_32_bits = "SOFTWARE\\WOW6432Node\\";
 constexpr std::string_view company_tree = "software\\quillon systems\\";
 constexpr std::string_view still_in_the_registry = "software\\quillon systems\\profile\\globals\\azure";
-
-std::string in_lower_case(std::string_view text) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
 
 } // namespace
 
@@ -48,6 +41,6 @@ std::optional<std::string> form_for_32_bits(platform::registry_hive hive, std::s
 }
 
 bool lies_in_company_tree(std::string_view path) {
-    const std::string lower = in_lower_case(path);
+    const std::string lower = in_lower_case(std::string(path));
     return lower.find(company_tree) != std::string::npos && lower.find(still_in_the_registry) == std::string::npos;
 }

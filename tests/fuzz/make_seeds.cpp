@@ -6,6 +6,7 @@
 #include "tests/fuzz/modern_seeds.h"
 #include "tests/fuzz/option_seeds.h"
 #include "tests/fuzz/picture_seeds.h"
+#include "tests/fuzz/text_seeds.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -144,7 +145,7 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = argv[1];
     if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder / "fuzz_classic") &&
         write_modern_seeds(folder / "fuzz_modern") && write_picture_seeds(folder / "fuzz_picture") &&
-        write_option_seeds(folder))
+        write_option_seeds(folder) && write_text_seeds(argv[1]))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
