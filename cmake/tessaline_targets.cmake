@@ -63,7 +63,8 @@ function(tessaline_test name label)
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE tessaline_flags ${test_LINK} GTest::gmock GTest::gtest_main)
     target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    # No test reads or writes the settings of whoever runs it.
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
-      PROPERTIES LABELS ${label} TIMEOUT 600)
+      PROPERTIES LABELS ${label} TIMEOUT 600 ENVIRONMENT XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/settings_of_tests)
   endif()
 endfunction()

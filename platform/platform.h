@@ -148,6 +148,8 @@ std::string user_config_folder(); // POSIX: XDG_CONFIG_HOME, else ~/.config; Win
 std::string documents_folder();   // POSIX: XDG_DOCUMENTS_DIR, else ~/Documents
 std::string temporary_folder();   // POSIX: TMPDIR, else /tmp; may be missing on disk
 std::string current_folder();
+// Where a settings file named without a folder is looked up. Windows: the system's own folder; POSIX: empty.
+std::string shared_ini_folder();
 
 // ---- the file system (file_system.cpp)
 
@@ -218,6 +220,31 @@ private:
 
 // The whole file. Nothing if it cannot be opened, is no plain file, or has more than `limit` bytes.
 std::optional<std::vector<std::byte>> read_file(const std::string& name, std::uint64_t limit);
+
+// ---- files that several processes write (shared_file.cpp)
+
+// Keeps other processes from what the lock file stands for. The lock file exists only while somebody holds or awaits
+// the lock. A process that dies gives the lock back.
+class file_lock {
+public:
+    file_lock() = default;
+    file_lock(const file_lock&) = delete;
+    file_lock& operator=(const file_lock&) = delete;
+    ~file_lock();
+
+    // Waits until nobody else holds the lock of that name, in this process or another. At most once for each object.
+    // False if that takes longer than `patience` milliseconds, or if the lock file cannot be made.
+    bool take(const std::string& name, int patience);
+
+private:
+    std::string lock_name;
+    std::intptr_t handle = -1;
+};
+
+// Puts other bytes into a file in one step: whoever opens it gets the old bytes or the new ones, whole. A missing file
+// is made. Permissions stay, and so does a link: the file behind it changes. False on failure, which leaves the file as
+// it was; a file that may not be written is such a failure. Between two that may write it a file_lock must stand.
+bool replace_file(const std::string& name, std::string_view bytes);
 
 // ---- the clock (clock.cpp)
 

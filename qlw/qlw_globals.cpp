@@ -1,5 +1,6 @@
 #include "qlw/qlw_globals.h"
 
+#include "qlw/profile_state.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/setting_names.h"
 
@@ -98,6 +99,7 @@ void cl_global_variable_array::reset() {
 
 void reset_settings() {
     global_variables.reset();
+    reset_profile_state();
 }
 
 std::vector<std::string> get_global_names() {

@@ -61,7 +61,8 @@ extern cl_global_variable_array global_variables;
 // start-up.
 void register_all_globals();
 
-// The table as at the start of the process: empty, with the user's profile. For tests and fuzzing.
+// The table as at the start of the process: empty, with the user's profile, of which nothing has been read. For tests
+// and fuzzing.
 void reset_settings();
 
 // The names of all settings, ascending by byte.

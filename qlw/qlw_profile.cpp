@@ -1,26 +1,55 @@
+// A setting of the user: in the profile's ini file, else in the registry of an older version, else the default.
+
 #include "qlw/qlw_profile.h"
 
-std::string get_profile_string(std::string_view, std::string_view, std::string_view default_value, bool) {
-    return std::string(default_value);
+#include "qlw/ini_file.h"
+#include "qlw/qlw_identity.h"
+#include "qlw/registry_access.h"
+#include "qlw/text_numbers.h"
+
+#include <optional>
+
+namespace {
+
+constexpr std::string_view profile_file = "Profile";
+
+std::string registry_path_of(std::string_view section, std::string_view key) {
+    std::string path = "HKEY_CURRENT_USER\\Software\\";
+    path.append(company_name).append("\\Profile\\").append(section).append("\\").append(key);
+    return path;
 }
 
-int get_profile_int(std::string_view, std::string_view, int default_value, bool) {
-    return default_value;
+} // namespace
+
+std::string get_profile_string(std::string_view section, std::string_view key, std::string_view default_value,
+                               bool quiet) {
+    if (const auto found = find_in_ini_file(section, key, profile_file))
+        return *found;
+    return get_string_from_registry(registry_path_of(section, key), default_value, quiet);
 }
 
-double get_profile_double(std::string_view, std::string_view, double default_value, bool) {
-    return default_value;
+int get_profile_int(std::string_view section, std::string_view key, int default_value, bool quiet) {
+    if (const auto found = find_in_ini_file(section, key, profile_file))
+        return decimal_value(*found);
+    return get_int_from_registry(registry_path_of(section, key), default_value, quiet);
 }
 
-void write_profile_string(std::string_view, std::string_view, std::string_view) {}
+double get_profile_double(std::string_view section, std::string_view key, double default_value, bool quiet) {
+    if (const auto found = find_in_ini_file(section, key, profile_file))
+        return double_value(*found);
+    return get_double_from_registry(registry_path_of(section, key), default_value, quiet);
+}
 
-void write_profile_int(std::string_view, std::string_view, int) {}
+void write_profile_string(std::string_view section, std::string_view key, std::string_view value) {
+    write_string_to_ini_file(section, key, value, profile_file);
+}
 
-void write_profile_double(std::string_view, std::string_view, double) {}
+void write_profile_int(std::string_view section, std::string_view key, int value) {
+    write_profile_string(section, key, integer_text(value));
+}
 
-std::string get_string_from_default_ini(std::string_view, std::string_view, std::string_view default_value,
-                                        std::string_view) {
-    return std::string(default_value);
+void write_profile_double(std::string_view section, std::string_view key, double value) {
+    write_profile_string(section, key, number_text(value));
 }
 
 std::string cl_profile::get_string(std::string_view section, std::string_view key, std::string_view default_value,

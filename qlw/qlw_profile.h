@@ -1,27 +1,23 @@
 #pragma once
 
-// Where the user's settings are kept between runs. This build has no store: every read gives its default and every
-// write is dropped, as on a machine whose user has never saved a setting.
+// Where the user's settings are kept between runs: the ini file "Profile". What it lacks is looked for in the registry,
+// where older versions kept it; nothing is written there.
 
 #include <string>
 #include <string_view>
 
 // What the profile holds under a section and a key, else `default_value`.
-// quiet: a missing key is expected and is not to be reported.
+// quiet: a missing key is expected and is not to be reported. A value in the file that is no number is 0.
 std::string get_profile_string(std::string_view section, std::string_view key, std::string_view default_value,
                                bool quiet);
 int get_profile_int(std::string_view section, std::string_view key, int default_value, bool quiet);
 double get_profile_double(std::string_view section, std::string_view key, double default_value, bool quiet);
 
-// Store a value in the profile under a section and a key.
+// Store a value in the profile under a section and a key. A value that stands there already leaves the file alone; a
+// profile that cannot be written stays as it is without a word.
 void write_profile_string(std::string_view section, std::string_view key, std::string_view value);
 void write_profile_int(std::string_view section, std::string_view key, int value);
 void write_profile_double(std::string_view section, std::string_view key, double value);
-
-// What the installation's own default file holds, else `default_value`; asked when the profile lacks a key.
-// file: its name; empty means the application's name.
-std::string get_string_from_default_ini(std::string_view section, std::string_view key, std::string_view default_value,
-                                        std::string_view file);
 
 // The profile as the settings see it. The operations forward to the functions above; a test puts its own in their
 // place.

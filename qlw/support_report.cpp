@@ -5,6 +5,7 @@
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_identity.h"
 #include "qlw/qlw_std.h"
+#include "qlw/registry_access.h"
 #include "qlw/text_format.h"
 #include "qlw/trace_state.h"
 
@@ -47,14 +48,10 @@ std::string line(std::string_view label, std::string_view value) {
     return "     #" + std::string(label) + ": '" + std::string(value) + "'\r\n";
 }
 
+// A path without hive is one of the company's own, which the ini files hold first.
 std::string text_stored_at(const std::string& path) {
-    constexpr std::string_view hive = "HKEY_LOCAL_MACHINE\\";
-    if (!path.starts_with(hive))
-        return {};
-    const std::size_t last = path.rfind('\\');
-    const auto answer = platform::system_registry()->read(
-        platform::registry_hive::local_machine, path.substr(hive.size(), last - hive.size()), path.substr(last + 1));
-    return std::string(reinterpret_cast<const char*>(answer.data.data()), answer.data.size());
+    constexpr bool quiet = true;
+    return path.starts_with("HKEY_") ? get_string_from_registry(path, {}, quiet) : get_from_registry_both(path, {});
 }
 
 } // namespace

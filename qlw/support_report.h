@@ -23,7 +23,7 @@ struct support_facts {
 using registry_text_reader = std::function<std::string(const std::string& path)>;
 
 // Gathers the facts from the registry, the settings and the platform. The setting "scomm_company" exists afterwards. A
-// system without a registry leaves phone, user, email and owner empty, and gives the computer's name by itself.
+// system without a registry has no owner, and gives the computer's name by itself.
 support_facts gather_support_facts(const registry_text_reader& stored);
 
 // One line for each fact, with five leading blanks; lines end in CR LF.

@@ -10,6 +10,7 @@
 #include "tessaline/placements.h"
 #include "tessaline/plants.h"
 #include "tessaline/transforms.h"
+#include "tessaline/view_file.h"
 
 #include <string>
 #include <string_view>
@@ -78,10 +79,6 @@ public:
     void process_skatter_instances();
     void count_skatter_instances();
 
-    // views_and_sun.cpp: what is read ahead of the walk.
-    void read_sun();
-    void read_view();
-
     // plants.cpp: components that stand for objects of the renderer's libraries.
     void write_rpc(SUComponentInstanceRef instance, const rpc_description& rpc, const transform16& transform);
     // instance: invalid for a scattered plant, whose layer is layer_text then.
@@ -140,6 +137,9 @@ public:
 
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
+
+    // The camera that the parent has set.
+    camera_view view;
 
     // Progress and model facts.
     int total_items = 0;

@@ -3,23 +3,14 @@
 #include "tessaline/asked_paths.h"
 
 #include "platform/platform.h"
+#include "qlw/registry_access.h"
 #include "tessaline/paths.h"
-
-#include <string_view>
 
 namespace {
 
-constexpr auto last_model_hive = platform::registry_hive::local_machine;
-constexpr const char* last_model_key = "SOFTWARE\\Quillon Systems\\QLW DEBUG";
-constexpr const char* last_model_value = "LastSKP";
-
-std::string last_model() {
-    const auto answer = platform::system_registry()->read(last_model_hive, last_model_key, last_model_value);
-    if (!answer.value_found)
-        return {};
-    const std::string_view text(reinterpret_cast<const char*>(answer.data.data()), answer.data.size());
-    return std::string(text.substr(0, text.find('\0')));
-}
+// Written without the hive: the company's own tree has moved into an ini file, and only reading still looks here.
+constexpr const char* last_model_path = "SOFTWARE\\Quillon Systems\\QLW DEBUG\\LastSKP";
+constexpr const char* last_model_read_path = "HKEY_LOCAL_MACHINE\\SOFTWARE\\Quillon Systems\\QLW DEBUG\\LastSKP";
 
 } // namespace
 
@@ -27,11 +18,11 @@ std::optional<std::string> ask_for_model() {
     platform::file_question question;
     question.title = "Tessaline, to create SKP XML file";
     question.default_extension = "skp";
-    question.default_name = last_model();
+    question.default_name = get_string_from_registry(last_model_read_path, {}, true);
     question.filter = "SketchUp Files (*.skp)|*.skp||";
     const auto answer = platform::ask_for_file_to_open(question);
     if (answer)
-        platform::system_registry()->write_text(last_model_hive, last_model_key, last_model_value, *answer);
+        set_registry_string_data(last_model_path, *answer);
     return answer;
 }
 

@@ -14,11 +14,25 @@ std::optional<bool> typed_value::boolean() const {
     return answer;
 }
 
+std::optional<double> typed_value::number() const {
+    double answer = 0;
+    if (SUTypedValueGetDouble(value, &answer) != SU_ERROR_NONE)
+        return std::nullopt;
+    return answer;
+}
+
 std::optional<std::string> typed_value::text() const {
     model_text string;
     if (SUTypedValueGetString(value, string.out()) != SU_ERROR_NONE)
         return std::nullopt;
     return string.utf8();
+}
+
+std::optional<fpt> typed_value::vector() const {
+    double answer[3] = {};
+    if (SUTypedValueGetVector3d(value, answer) != SU_ERROR_NONE)
+        return std::nullopt;
+    return fpt{answer[0], answer[1], answer[2]};
 }
 
 std::vector<std::string> keys_of(SUAttributeDictionaryRef dictionary) {

@@ -2,6 +2,7 @@
 
 // Keys and values of one attribute dictionary.
 
+#include "qlw/qlw_math.h"
 #include "sketchup/SketchUpAPI.h"
 
 #include <optional>
@@ -21,7 +22,9 @@ public:
 
     // Nothing if the value is of another type.
     std::optional<bool> boolean() const;
+    std::optional<double> number() const; // a double, not a whole number
     std::optional<std::string> text() const;
+    std::optional<fpt> vector() const;
 
 private:
     SUTypedValueRef value = SU_INVALID;

@@ -14,6 +14,7 @@
 #include "tessaline/run_state.h"
 #include "tessaline/skatter_file.h"
 #include "tessaline/SketchUpReader.h"
+#include "tessaline/sun.h"
 #include "tessaline/texture_preload.h"
 
 #include <string>
@@ -100,7 +101,7 @@ int SketchUpReader::ReadSkpFile(const std::string& input_path, const std::string
     open_stream(output_path);
     if (!input_path.empty())
         theApp.batch_folder = folder_of(input_path);
-    read_view();
+    view = read_view_file(theApp.batch_folder);
     prepare_batch_folders();
     apply_model_dictionaries();
     read_color_by_layer();

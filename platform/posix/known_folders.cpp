@@ -55,6 +55,10 @@ std::string temporary_folder() {
     return folder && !folder->empty() ? without_separator_at_end(*folder) : "/tmp";
 }
 
+std::string shared_ini_folder() {
+    return {};
+}
+
 std::string current_folder() {
     std::array<char, 4096> buffer; // PATH_MAX on Linux
     return getcwd(buffer.data(), buffer.size()) ? std::string(buffer.data()) : std::string();

@@ -1,5 +1,7 @@
 #include "sketchup/api/shadow_values.h"
 
+#include "sketchup/model/sun_position.h"
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -40,9 +42,24 @@ double north_angle_degrees(const vec3& north) {
     return degrees < 0 ? degrees + 360 : degrees;
 }
 
+typed_value direction_to_sun(const shadow_info& info) {
+    const auto direction = sun_direction(info);
+    return direction ? typed_value{value_code::vector, *direction} : typed_value{};
+}
+
+typed_value sunrise(const shadow_info& info) {
+    const auto hours = sunrise_and_sunset(info);
+    return hours ? moment(hours->rise) : typed_value{};
+}
+
+typed_value sunset(const shadow_info& info) {
+    const auto hours = sunrise_and_sunset(info);
+    return hours ? moment(hours->set) : typed_value{};
+}
+
 struct named_value {
     std::string_view key;
-    typed_value (*get)(const shadow_info&);
+    typed_value (*get)(const shadow_info&); // nil if there is no such moment or direction
 };
 
 constexpr named_value values[] = {
@@ -62,6 +79,11 @@ constexpr named_value values[] = {
     {"NorthAngle", [](const shadow_info& i) { return number(north_angle_degrees(i.north)); }},
     {"ShadowTime", [](const shadow_info& i) { return moment(i.time); }},
     {"ShadowTime_time_t", [](const shadow_info& i) { return moment(i.time); }},
+    {"SunDirection", direction_to_sun},
+    {"SunRise", sunrise},
+    {"SunRise_time_t", sunrise},
+    {"SunSet", sunset},
+    {"SunSet_time_t", sunset},
     {"TZOffset", [](const shadow_info& i) { return number(i.time_zone); }},
     {"UseSunForAllShading", [](const shadow_info& i) { return boolean(i.use_sun_for_all_shading); }},
 };
@@ -73,7 +95,10 @@ std::optional<typed_value> shadow_value(const shadow_info& info, std::string_vie
         std::find_if(std::begin(values), std::end(values), [key](const named_value& v) { return v.key == key; });
     if (found == std::end(values))
         return std::nullopt;
-    return found->get(info);
+    typed_value value = found->get(info);
+    if (value.code == value_code::nil)
+        return std::nullopt;
+    return value;
 }
 
 } // namespace sketchup::api

@@ -27,13 +27,6 @@ files_by_name files_below(const std::string& folder) {
     return files;
 }
 
-std::string with_batch_folder(std::string text, const std::string& folder) {
-    constexpr std::string_view mark = "@BATCH@";
-    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + folder.size()))
-        text.replace(at, mark.size(), folder);
-    return text;
-}
-
 // The golden files of a case, with the folder's name in them.
 files_by_name golden_files(const std::string& case_name, const std::string& batch_folder) {
     const std::string folder = std::string(TESSALINE_SOURCE_DIR) + "/tests/batch/" + case_name + "/expected";
@@ -133,6 +126,13 @@ std::set<std::string> batch::folders() const {
         if (entry.is_directory())
             folders.insert(std::filesystem::relative(entry.path(), full_name).generic_string());
     return folders;
+}
+
+std::string with_batch_folder(std::string text, const std::string& folder) {
+    constexpr std::string_view mark = "@BATCH@";
+    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + folder.size()))
+        text.replace(at, mark.size(), folder);
+    return text;
 }
 
 std::vector<std::string> differences(const files_by_name& expected, const files_by_name& found) {

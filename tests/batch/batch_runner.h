@@ -68,6 +68,9 @@ private:
     std::string zone = "UTC";
 };
 
+// A golden text with the folder's name in place of each "@BATCH@".
+std::string with_batch_folder(std::string golden_text, const std::string& folder);
+
 // One text for each file that is missing, not expected, or different, with its first differing line.
 std::vector<std::string> differences(const files_by_name& expected, const files_by_name& found);
 

@@ -29,6 +29,11 @@ TEST(BatchDifferences, missing_and_unexpected_files_are_named) {
     EXPECT_EQ(differences({{"a.txt", ""}}, {{"b.txt", ""}}), (texts{"a.txt is missing", "b.txt is not expected"}));
 }
 
+TEST(BatchGoldenText, every_mark_stands_for_the_batch_folder) {
+    EXPECT_EQ(with_batch_folder("GNDC;@BATCH@/Plants/a\r\n@BATCH@@BATCH", "/tmp/@BATCH@"),
+              "GNDC;/tmp/@BATCH@/Plants/a\r\n/tmp/@BATCH@@BATCH");
+}
+
 TEST(BatchFolder, files_and_folders_are_listed_with_their_names_from_the_batch_folder_on) {
     batch b("two/deep");
     b.put("Plants/Oak.plant", "oak");

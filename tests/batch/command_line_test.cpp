@@ -74,6 +74,20 @@ TEST(CommandLineBatch, switches_without_effect_change_nothing) {
     expect_batch(b, "one_square");
 }
 
+// A debugging aid: an empty file of that name in the temporary folder.
+TEST(CommandLineBatch, a_marker_file_makes_a_run_show_what_it_was_passed) {
+    batch b;
+    put_square(b);
+    b.surrounding().write("tmp/qlw_show_command_line", "");
+    const std::string model = b / "geometry.qlm";
+    const std::string stream = b / "batch_file.txt";
+    const run_outcome outcome = b.run_with({model, stream, "-is_animation"});
+    EXPECT_EQ(outcome.errors, "TEMP/qlw_show_command_line found: " TESSALINE_PROGRAM " " + model + " " + stream +
+                                  " -is_animation\nsin: " + model + "\nsout: " + stream + "\n" +
+                                  std::string(quiet_errors));
+    EXPECT_TRUE(b.has("batch_file.txt"));
+}
+
 TEST(CommandLineBatch, a_file_that_is_no_model_leaves_no_stream_and_no_word) {
     for (const std::string_view bytes : {"", "no model", "\xFF\xFE\xFF\x0E"}) {
         batch b;

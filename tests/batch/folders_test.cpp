@@ -36,6 +36,32 @@ TEST(FoldersBatch, old_results_go_and_what_is_edited_by_hand_stays) {
     expect_run(b, "old_files");
 }
 
+// The file as the model carries it: a frame with the name of the data and the count of digits, then "plane" in
+// hexadecimal; 31 characters in one chunk.
+void put_square_with_ground_plane(batch& b) {
+    model_builder m;
+    m.root().square(10);
+    const entity_place list = m.root().list();
+    m.attribute(list, "Zyn_Ground_Plane", "Ground_Plane_Saved", truth(true));
+    m.attribute(list, "Zyn_Ground_Plane", "hex_data", text("31;1;x;"));
+    m.attribute(list, "Zyn_Ground_Plane", "hex_data_chunk0", text("[hex_data][00000010];706c616e65"));
+    b.put_model(m);
+}
+
+TEST(FoldersBatch, the_ground_plane_that_the_model_carries_is_restored) {
+    batch b;
+    put_square_with_ground_plane(b);
+    expect_run(b, "ground_plane");
+}
+
+TEST(FoldersBatch, a_ground_plane_that_lies_there_wins_over_that_of_the_model) {
+    batch b;
+    put_square_with_ground_plane(b);
+    b.put("ZynBatch_Materials/Zyn_Ground_Plane.OrnMaterial", "edited by hand");
+    b.run();
+    EXPECT_EQ(b.read("ZynBatch_Materials/Zyn_Ground_Plane.OrnMaterial"), "edited by hand");
+}
+
 TEST(FoldersBatch, a_blank_in_the_name_of_the_folder_does_no_harm) {
     batch b("my batch folder");
     put_square(b);

@@ -75,7 +75,7 @@ TEST(GeometryBatch, numbers_have_nine_digits_and_are_cut_to_0_in_metres) {
     expect_run(b, "small_and_large_coordinates");
 }
 
-// Above x = -1, y = 0 a normal that looks up has no helper beside it to turn about, and is taken from the world's axes
+// Above x = -1, y = 0 a normal that looks up has no second direction to turn about, and is taken from the world's axes
 // as they are seen from that corner: (2,0,-5) x (1,1,-5) = (5,5,2).
 TEST(GeometryBatch, the_normal_tilts_at_a_corner_above_minus_1_and_0) {
     batch b;

@@ -90,8 +90,7 @@ TEST(LayersBatch, with_layer0_hidden_the_inherited_layer_decides) {
     expect_run(b, "hidden_layer0");
 }
 
-TEST(LayersBatch, an_animation_holds_all_layers_with_their_table_and_chains) {
-    batch b;
+void put_model_for_animation(batch& b) {
     model_builder m;
     const sketchup::index walls = m.layer("Walls");
     const sketchup::index doors = m.layer("Doors", false);
@@ -109,7 +108,18 @@ TEST(LayersBatch, an_animation_holds_all_layers_with_their_table_and_chains) {
     m.root().instance(plain);
     add_square(m.root());
     b.put_model(m);
+}
+
+TEST(LayersBatch, an_animation_holds_all_layers_with_their_table_and_chains) {
+    batch b;
+    put_model_for_animation(b);
     expect_run(b, "animation", {b / "batch_file.txt", "-is_animation"});
+}
+
+TEST(LayersBatch, an_animation_needs_no_name_for_its_stream) {
+    batch b;
+    put_model_for_animation(b);
+    expect_run(b, "animation", {"-is_animation"});
 }
 
 // The instance stays, but the faces of it that would count as on that layer go.

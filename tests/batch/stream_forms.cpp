@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <regex>
 #include <string>
 
 namespace {
@@ -91,6 +90,13 @@ bool is_real(std::string_view text) {
 }
 
 bool is_date(std::string_view text) {
-    static const std::regex form(R"(\d\d/\d\d/\d{4}  \d\d:\d\d:\d\d .*)");
-    return text == "Invalid DateTime" || std::regex_match(text.begin(), text.end(), form);
+    constexpr std::string_view form = "00/00/0000  00:00:00 "; // each 0 stands for a digit; the time zone follows
+    if (text == "Invalid DateTime")
+        return true;
+    if (text.size() < form.size())
+        return false;
+    for (std::size_t i = 0; i < form.size(); ++i)
+        if (form[i] == '0' ? text[i] < '0' || text[i] > '9' : text[i] != form[i])
+            return false;
+    return true;
 }

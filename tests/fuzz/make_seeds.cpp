@@ -4,11 +4,15 @@
 #include "sketchup/skp/writer/classic_writer.h"
 #include "sketchup/skp/writer/modern_writer.h"
 #include "tests/fuzz/modern_seeds.h"
+#include "tests/fuzz/option_seeds.h"
+#include "tests/fuzz/picture_seeds.h"
+#include "tests/fuzz/text_seeds.h"
 
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -115,6 +119,22 @@ bool write_modern_seeds(const std::filesystem::path& folder) {
            write(folder / "all_25", skp::modern_model_data(*one_of_everything(), v25));
 }
 
+bool write_picture_seeds(const std::filesystem::path& folder) {
+    bool written = true;
+    for (const auto& [name, bytes] : picture_seeds())
+        written = write(folder / name, bytes) && written;
+    return written;
+}
+
+bool write_text(const std::filesystem::path& file, std::string_view text) {
+    return write(file, {text.begin(), text.end()});
+}
+
+bool write_option_seeds(const std::filesystem::path& folder) {
+    return write_text(folder / "fuzz_option_file" / "all", option_seeds::option_file) &&
+           write_text(folder / "fuzz_view_file" / "all", option_seeds::view_file);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -124,7 +144,8 @@ int main(int argc, char** argv) {
     }
     const std::filesystem::path folder = argv[1];
     if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder / "fuzz_classic") &&
-        write_modern_seeds(folder / "fuzz_modern"))
+        write_modern_seeds(folder / "fuzz_modern") && write_picture_seeds(folder / "fuzz_picture") &&
+        write_option_seeds(folder) && write_text_seeds(argv[1]))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;

@@ -2,7 +2,7 @@
 
 #include "image/decode_picture.h"
 #include "tests/image/pictures.h"
-#include "tests/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -89,8 +89,8 @@ TEST(WritePicture, chooses_the_format_by_the_extension_in_any_case) {
                                        {"a.jpeg", picture_format::jpeg},
                                        {"a.Tif", picture_format::tiff},
                                        {"a.bmp", picture_format::bmp}}) {
-        EXPECT_TRUE(image::write_picture(folder.file(name), source)) << name;
-        const std::string text = text_of_file(folder.file(name));
+        EXPECT_TRUE(image::write_picture((folder / name), source)) << name;
+        const std::string text = folder.read(name);
         EXPECT_EQ(std::vector<std::uint8_t>(text.begin(), text.end()), encode_picture(source, format)) << name;
     }
 }
@@ -98,25 +98,25 @@ TEST(WritePicture, chooses_the_format_by_the_extension_in_any_case) {
 TEST(WritePicture, leaves_no_file_if_it_fails) {
     const temporary_folder folder;
     for (const char* name : {"a.gif", "a", "a.", "no/such/folder.png"}) {
-        EXPECT_FALSE(image::write_picture(folder.file(name), gradient(8, 8))) << name;
-        EXPECT_FALSE(std::filesystem::exists(folder.file(name))) << name;
+        EXPECT_FALSE(image::write_picture((folder / name), gradient(8, 8))) << name;
+        EXPECT_FALSE(std::filesystem::exists((folder / name))) << name;
     }
-    EXPECT_FALSE(image::write_picture(folder.file("wide.jpg"), *picture::make({65501, 1, 24})));
-    EXPECT_FALSE(std::filesystem::exists(folder.file("wide.jpg")));
-    EXPECT_FALSE(image::write_picture(folder.file("empty.png"), picture()));
-    EXPECT_FALSE(std::filesystem::exists(folder.file("empty.png")));
+    EXPECT_FALSE(image::write_picture((folder / "wide.jpg"), *picture::make({65501, 1, 24})));
+    EXPECT_FALSE(std::filesystem::exists((folder / "wide.jpg")));
+    EXPECT_FALSE(image::write_picture((folder / "empty.png"), picture()));
+    EXPECT_FALSE(std::filesystem::exists((folder / "empty.png")));
 }
 
 TEST(WritePicture, leaves_a_file_of_another_kind_alone) {
     const temporary_folder folder;
-    write_file(folder.file("notes.txt"), "keep me");
-    EXPECT_FALSE(image::write_picture(folder.file("notes.txt"), gradient(8, 8)));
-    EXPECT_EQ(text_of_file(folder.file("notes.txt")), "keep me");
+    folder.write("notes.txt", "keep me");
+    EXPECT_FALSE(image::write_picture((folder / "notes.txt"), gradient(8, 8)));
+    EXPECT_EQ(folder.read("notes.txt"), "keep me");
 }
 
 TEST(WritePicture, replaces_an_old_file) {
     const temporary_folder folder;
-    write_file(folder.file("a.bmp"), std::string(100000, 'x'));
-    EXPECT_TRUE(image::write_picture(folder.file("a.bmp"), gradient(2, 2)));
-    EXPECT_EQ(std::filesystem::file_size(folder.file("a.bmp")), 54u + 2 * 8);
+    folder.write("a.bmp", std::string(100000, 'x'));
+    EXPECT_TRUE(image::write_picture((folder / "a.bmp"), gradient(2, 2)));
+    EXPECT_EQ(std::filesystem::file_size((folder / "a.bmp")), 54u + 2 * 8);
 }

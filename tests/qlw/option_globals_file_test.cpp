@@ -7,6 +7,7 @@
 
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -34,7 +35,7 @@ protected:
 
 TEST_F(OptionGlobalsFile, comments_blank_lines_and_lines_without_a_name_are_skipped) {
     set_global_int("ivl_resx", 640);
-    EXPECT_FALSE(changes("# comment\n#ivl_resx;1\n\n   \n;value\nivl_resx\n"));
+    EXPECT_FALSE(changes("# comment\n#ivl_resx;1\n  # ivl_resx;1\n\n   \n;value\n ;value\nivl_resx\n"));
     EXPECT_EQ(get_global_int("ivl_resx"), 640);
 }
 
@@ -65,6 +66,60 @@ TEST_F(OptionGlobalsFile, every_type_is_read_by_the_first_letter_of_its_name) {
     EXPECT_EQ(global_variables.lookup("xtest_other"), nullptr);
 }
 
+TEST_F(OptionGlobalsFile, the_name_ends_at_the_first_separator) {
+    changes("stest_text; a;b ; c\n");
+    EXPECT_EQ(get_global_string("stest_text"), "a;b ; c");
+}
+
+TEST_F(OptionGlobalsFile, a_boolean_is_true_for_any_number_but_zero) {
+    changes("btest_a; 2\nbtest_b; -1\nbtest_c; true\nbtest_d; 0\n");
+    EXPECT_TRUE(get_global_bool("btest_a"));
+    EXPECT_TRUE(get_global_bool("btest_b"));
+    EXPECT_FALSE(get_global_bool("btest_c"));
+    EXPECT_FALSE(get_global_bool("btest_d"));
+}
+
+TEST_F(OptionGlobalsFile, values_that_are_the_same_are_no_change) {
+    changes("btest_flag; 1\nitest_count; 3\nrtest_size; 0.1\nptest_point; (1, 2, 3)\nstest_text; a\\\\b\n"
+            "ctest_color; 255\n");
+    EXPECT_FALSE(changes(written()));
+}
+
+TEST_F(OptionGlobalsFile, reading_tells_that_a_setting_changed_wherever_its_line_stands) {
+    changes("itest_a; 1\nitest_b; 2\n");
+    EXPECT_TRUE(changes("itest_a; 9\nitest_b; 2\n"));
+    EXPECT_TRUE(changes("itest_a; 9\nitest_b; 3\n"));
+}
+
+TEST_F(OptionGlobalsFile, the_last_of_two_equal_names_wins) {
+    changes("itest_a; 1\nitest_a; 2\n");
+    EXPECT_EQ(get_global_int("itest_a"), 2);
+}
+
+TEST_F(OptionGlobalsFile, names_are_compared_with_their_case) {
+    set_global_int("ivl_resx", 640);
+    changes("ivl_ResX; 800\n");
+    EXPECT_EQ(get_global_int("ivl_resx"), 640);
+}
+
+TEST_F(OptionGlobalsFile, a_name_that_no_table_holds_is_reported_as_not_preset) {
+    reported();
+    changes("itest_unknown; 5\n");
+    EXPECT_THAT(reported(), testing::Contains(HasSubstr("itest_unknown")));
+}
+
+TEST_F(OptionGlobalsFile, a_name_of_no_type_in_the_table_keeps_its_value) {
+    global_variables.create_variable("xtest_other", OPTION_GLOBAL).set_double(3);
+    EXPECT_FALSE(changes("xtest_other; 1\n"));
+    EXPECT_EQ(global_variables.lookup("xtest_other")->get_double(), 3);
+}
+
+TEST_F(OptionGlobalsFile, a_line_of_a_megabyte_is_read_whole) {
+    const std::string text(1 << 20, 'x');
+    changes("stest_text; " + text + "\n");
+    EXPECT_EQ(get_global_string("stest_text"), text);
+}
+
 TEST_F(OptionGlobalsFile, a_name_that_no_table_holds_survives_from_file_to_file) {
     changes("itest_unknown; 5\n");
     EXPECT_THAT(written(), HasSubstr("itest_unknown; 5\r\n"));
@@ -74,6 +129,11 @@ TEST_F(OptionGlobalsFile, a_doubled_backslash_is_one_and_is_doubled_again) {
     changes("stest_path; c:\\\\tmp\\\\x\n");
     EXPECT_EQ(get_global_string("stest_path"), "c:\\tmp\\x");
     EXPECT_THAT(written(), HasSubstr("stest_path; c:\\\\tmp\\\\x\r\n"));
+}
+
+TEST_F(OptionGlobalsFile, only_pairs_of_backslashes_become_one) {
+    changes("stest_path; a\\b\\\\\\c\\\n"); // one, three, and one at the end
+    EXPECT_EQ(get_global_string("stest_path"), "a\\b\\\\c\\");
 }
 
 TEST_F(OptionGlobalsFile, a_line_break_in_a_text_comes_back_as_a_backslash_and_n) {
@@ -91,6 +151,7 @@ TEST_F(OptionGlobalsFile, image_filters_are_left_out_unless_they_are_remembered)
     EXPECT_THAT(written(), Not(HasSubstr("vl_image_filters")));
     set_global_bool("bvl_remember_filters", true);
     EXPECT_THAT(written(), HasSubstr("ivl_image_filters; 3\r\n"));
+    EXPECT_THAT(written(), HasSubstr("svl_image_filters; blur\r\n"));
 }
 
 TEST_F(OptionGlobalsFile, a_double_that_differs_in_the_tenth_digit_counts_as_changed) {
@@ -122,6 +183,38 @@ TEST_F(OptionGlobalsFile, a_setting_of_the_profile_is_set_and_not_written) {
     EXPECT_THAT(written(), Not(HasSubstr("itest_own")));
 }
 
+TEST_F(OptionGlobalsFile, a_setting_of_the_profile_is_stored_there) {
+    global_variables.create_variable("itest_own", SAVE_PROFILE);
+    changes("itest_own; 5\n");
+    EXPECT_THAT(profile.written, ElementsAre("Globals/itest_own=int 5"));
+}
+
+TEST_F(OptionGlobalsFile, only_three_save_types_are_written) {
+    for (const save_types saved : {SAVE_UNKNOWN, SAVE_NONE, SAVE_PROFILE, SAVE_DATABASE, OPTION_GLOBAL,
+                                   OPTION_NON_DATABASE_GLOBAL, SAVE_NONE_6, SAVE_NONE_7, SAVE_NONE_8})
+        global_variables.create_variable("itest_saved_" + std::to_string(saved), saved);
+    const std::string text = written();
+    for (const int saved : {0, 3, 4})
+        EXPECT_THAT(text, HasSubstr("itest_saved_" + std::to_string(saved) + "; 0\r\n"));
+    for (const int saved : {1, 2, 5, 6, 7, 8})
+        EXPECT_THAT(text, Not(HasSubstr("itest_saved_" + std::to_string(saved))));
+}
+
+TEST_F(OptionGlobalsFile, a_colour_is_written_with_all_32_bits) {
+    global_variables.create_variable("ctest_color", OPTION_GLOBAL).set_int(-2);
+    EXPECT_THAT(written(), HasSubstr("ctest_color; -2\r\n"));
+}
+
+TEST_F(OptionGlobalsFile, a_point_and_a_text_have_the_forms_of_their_types) {
+    set_global_fpt("ptest_point", {1, -2.5, 1e-9});
+    set_global_string("stest_text", "a b");
+    set_global_bool("btest_flag", true);
+    const std::string text = written();
+    EXPECT_THAT(text, HasSubstr("ptest_point; (1, -2.5, 1e-09)\r\n"));
+    EXPECT_THAT(text, HasSubstr("stest_text; a b\r\n"));
+    EXPECT_THAT(text, HasSubstr("btest_flag; 1\r\n"));
+}
+
 TEST_F(OptionGlobalsFile, lines_come_out_sorted) {
     changes("itest_b; 1\nitest_a; 2\n");
     const std::string text = written();
@@ -136,8 +229,21 @@ TEST_F(OptionGlobalsFile, a_name_of_no_type_is_reported_when_writing) {
 }
 
 TEST_F(OptionGlobalsFile, a_missing_file_changes_nothing) {
+    reported();
     read_option_globals(folder / "missing.txt");
     read_option_globals("");
+    EXPECT_THAT(reported(), testing::IsEmpty());
+}
+
+TEST_F(OptionGlobalsFile, a_file_is_read_by_its_name) {
+    read_option_globals(folder.write("in.txt", "ivl_resx; 800\n"));
+    EXPECT_EQ(get_global_int("ivl_resx"), 800);
+}
+
+TEST_F(OptionGlobalsFile, a_file_that_cannot_be_opened_is_reported_and_not_shown) {
+    reported();
+    read_option_globals(folder.make_folder("in.txt"));
+    EXPECT_THAT(reported(), ElementsAre(testing::StartsWith("REPORT: ")));
 }
 
 TEST_F(OptionGlobalsFile, a_file_that_is_not_open_is_reported) {

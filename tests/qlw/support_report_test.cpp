@@ -4,11 +4,13 @@
 
 #include "platform/platform.h"
 #include "qlw/letter_case.h"
+#include "qlw/profile_state.h"
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_std.h"
 #include "tests/support/environment.h"
 #include "tests/support/trace_capture.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -21,8 +23,13 @@ const std::string own = "SOFTWARE\\Quillon Systems\\";
 
 class SupportReport : public testing::Test {
 protected:
-    SupportReport() { reset_settings(); }
-    ~SupportReport() override { reset_settings(); }
+    SupportReport() { forget_all(); }
+    ~SupportReport() override { forget_all(); }
+
+    static void forget_all() {
+        reset_settings();
+        reset_profile_state();
+    }
 
     support_facts facts() const {
         return gather_support_facts([this](const std::string& path) {
@@ -64,6 +71,19 @@ TEST_F(SupportReport, has_one_line_for_each_fact_and_no_other) {
                                           "     #SU Version: '17.2.2555'\r\n");
 }
 
+TEST_F(SupportReport, names_the_user_that_the_profile_names) {
+    const temporary_folder home;
+    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    home.write("Quillon Systems/Profile.ini",
+               "[Common]\r\nPhone=123\r\nEmail=Ann@Example.com\r\nUser Name=Ann\r\nCompany=Example\r\n");
+    reset_profile_state();
+    const std::string report = get_support_report();
+    reset_profile_state();
+    for (const char* line : {"     #Phone: '123'\r\n", "     #Email: 'ann@example.com'\r\n", "     #User: 'Ann'\r\n",
+                             "     #Company: 'Example'\r\n"})
+        EXPECT_NE(report.find(line), std::string::npos) << line << report;
+}
+
 TEST_F(SupportReport, of_a_machine_without_registry_names_date_computer_and_system) {
     if (!platform::lives_on_the_console)
         GTEST_SKIP() << "this system has a registry";
@@ -90,6 +110,17 @@ TEST_F(SupportReport, of_a_machine_without_registry_names_date_computer_and_syst
                                         get_windows_version_text() +
                                         "'\r\n"
                                         "     #SU Version: ''\r\n");
+}
+
+TEST_F(SupportReport, takes_what_is_known_of_the_user_from_the_profile) {
+    const temporary_folder home;
+    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    home.write("Quillon Systems/Profile.ini", "[Common]\r\nCompany=Larch & Partners\r\nPhone=555 0100\r\n"
+                                              "User Name=Ada Larch\r\nEmail=Ada@Larch.Example\r\n");
+    EXPECT_THAT(get_support_report(), testing::HasSubstr("     #Company: 'Larch & Partners'\r\n"
+                                                         "     #Phone: '555 0100'\r\n"
+                                                         "     #User: 'Ada Larch'\r\n"
+                                                         "     #Email: 'ada@larch.example'\r\n"));
 }
 
 TEST_F(SupportReport, ends_in_the_two_notes_that_a_caller_left) {

@@ -49,8 +49,10 @@ private:
 
 std::string convert(const std::string& sample, const temporary_folder& batch) {
     std::filesystem::copy_file(samples_folder() + sample, batch / "geometry.qlm");
+    const temporary_folder home; // the settings of whoever runs the tests are neither read nor written
     const program_result run =
-        run_program(shell_quoted(TESSALINE_PROGRAM) + " " + shell_quoted(batch / "geometry.qlm") + " 2>/dev/null");
+        run_program("XDG_CONFIG_HOME=" + shell_quoted(home / "config") + " HOME=" + shell_quoted(home.name()) + " " +
+                    shell_quoted(TESSALINE_PROGRAM) + " " + shell_quoted(batch / "geometry.qlm") + " 2>/dev/null");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.output, "");
     return batch.read("batch_file.txt");

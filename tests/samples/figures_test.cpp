@@ -54,10 +54,18 @@ std::string difference(const json& found, const json& expected, const std::strin
     return same ? "" : place + ": " + found.dump() + " instead of " + expected.dump();
 }
 
+// The BMP of one material has the header of 12 bytes, in which width and height are 16 bits each; the figures take both
+// for one number: 4194368 = 64 + 64 x 65536.
+json mended(const std::string& sample, json expected) {
+    if (sample == "shadowtexture-simple-hex.skp")
+        expected["materials"][6]["pixels"] = {64, 64};
+    return expected;
+}
+
 class SampleFigures : public testing::TestWithParam<std::string> {};
 
 TEST_P(SampleFigures, agree_with_those_of_an_independent_reader) {
-    const json expected = expected_figures()[GetParam()];
+    const json expected = mended(GetParam(), expected_figures()[GetParam()]);
     const program_result run = run_program(shell_quoted(SKP_DUMP_PROGRAM) + " --json " +
                                            shell_quoted(samples_folder() + GetParam()) + " 2>/dev/null");
     json found = json::parse(run.output);

@@ -8,6 +8,13 @@
 #include <string>
 #include <string_view>
 
+// The bytes of a file; empty if it cannot be read.
+inline std::string text_of_file(const std::string& path) {
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
 class temporary_folder {
 public:
     temporary_folder() {
@@ -37,11 +44,7 @@ public:
         std::filesystem::create_directories(*this / inside);
         return *this / inside;
     }
-    std::string read(const std::string& inside) const {
-        std::ostringstream text;
-        text << std::ifstream(*this / inside, std::ios::binary).rdbuf();
-        return text.str();
-    }
+    std::string read(const std::string& inside) const { return text_of_file(*this / inside); }
     bool has(const std::string& inside) const {
         return std::filesystem::exists(std::filesystem::symlink_status(*this / inside));
     }

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path program_folder = fs::path(__FILE__).parent_path() / "../../tessaline";
+const fs::path program_folder = fs::path(TESSALINE_SOURCE_DIR) / "tessaline";
 
 // The text of every source file of the program by its name.
 std::map<std::string, std::string> program_sources() {

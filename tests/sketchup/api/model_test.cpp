@@ -1,7 +1,7 @@
 #include "tests/sketchup/api/test_model.h"
 
 #include "sketchup/api/inspect.h"
-#include "tests/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -20,23 +20,23 @@ SUResult open(const std::string& path) {
 } // namespace
 
 TEST(OpeningAModel, a_missing_file_is_a_reading_error) {
-    EXPECT_EQ(open(temporary_folder().path() + "/nowhere.skp"), SU_ERROR_SERIALIZATION);
+    EXPECT_EQ(open(temporary_folder() / "nowhere.skp"), SU_ERROR_SERIALIZATION);
 }
 
 TEST(OpeningAModel, a_folder_is_a_reading_error) {
-    EXPECT_EQ(open(temporary_folder().path()), SU_ERROR_SERIALIZATION);
+    EXPECT_EQ(open(temporary_folder().name()), SU_ERROR_SERIALIZATION);
 }
 
 TEST(OpeningAModel, an_empty_file_is_no_model) {
     const temporary_folder folder;
-    write_file(folder.path() + "/empty.skp", "");
-    EXPECT_EQ(open(folder.path() + "/empty.skp"), SU_ERROR_MODEL_INVALID);
+    folder.write("empty.skp", "");
+    EXPECT_EQ(open(folder / "empty.skp"), SU_ERROR_MODEL_INVALID);
 }
 
 TEST(OpeningAModel, twenty_bytes_of_text_are_no_model) {
     const temporary_folder folder;
-    write_file(folder.path() + "/text.skp", "twenty bytes of text");
-    EXPECT_EQ(open(folder.path() + "/text.skp"), SU_ERROR_MODEL_INVALID);
+    folder.write("text.skp", "twenty bytes of text");
+    EXPECT_EQ(open(folder / "text.skp"), SU_ERROR_MODEL_INVALID);
 }
 
 TEST(OpeningAModel, null_pointers_are_told_apart) {

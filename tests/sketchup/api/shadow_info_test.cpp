@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using sketchup::shadow_info;
 using sketchup::typed_value;
 using sketchup::value_code;
@@ -83,4 +85,67 @@ TEST(ShadowInfo, is_asked_through_a_handle) {
     SUTypedValueRef not_created = SU_INVALID;
     EXPECT_EQ(SUShadowInfoGetValue(info, "Latitude", &not_created), SU_ERROR_INVALID_OUTPUT);
     EXPECT_EQ(SUShadowInfoGetValue(SU_INVALID, "Latitude", &value.ref), SU_ERROR_INVALID_INPUT);
+}
+
+TEST(ShadowInfo, works_out_where_the_sun_stands) {
+    shadow_info info; // Golden, Colorado, 2003 October 17, 12:30:30
+    info.latitude = 39.742476;
+    info.longitude = -105.1786;
+    info.time_zone = -7;
+    info.time = 1066393830;
+    const auto direction = shadow_value(info, "SunDirection");
+    ASSERT_TRUE(direction);
+    EXPECT_EQ(direction->code, value_code::vector);
+    // Azimuth 194.34 clockwise from y, altitude 39.87: cos 39.87 x sin 194.34, cos 39.87 x cos 194.34, sin 39.87.
+    const auto to_sun = std::get<sketchup::vec3>(direction->data);
+    EXPECT_NEAR(to_sun.x, -0.1901, 3e-4);
+    EXPECT_NEAR(to_sun.y, -0.7437, 3e-4);
+    EXPECT_NEAR(to_sun.z, 0.6411, 3e-4);
+}
+
+TEST(ShadowInfo, works_out_when_the_sun_rises_and_sets_on_the_local_clock) {
+    shadow_info info; // the same place, 2015 January 2, noon
+    info.latitude = 39.742476;
+    info.longitude = -105.1786;
+    info.time_zone = -7;
+    info.time = 1420200000;
+    const auto seconds = [&info](const char* key) {
+        const auto value = shadow_value(info, key);
+        EXPECT_EQ(value->code, value_code::time) << key;
+        return double(std::get<std::int64_t>(value->data) - 1420156800); // since midnight
+    };
+    for (const char* key : {"SunRise", "SunRise_time_t"})
+        EXPECT_NEAR(seconds(key), 26515, 5) << key; // 07:21:55
+    for (const char* key : {"SunSet", "SunSet_time_t"})
+        EXPECT_NEAR(seconds(key), 60463, 5) << key; // 16:47:43
+}
+
+TEST(ShadowInfo, has_no_sunrise_on_a_polar_day) {
+    shadow_info info;
+    info.latitude = 80;
+    info.time = 1718971200; // 2024 June 21, noon
+    for (const char* key : {"SunRise", "SunRise_time_t", "SunSet", "SunSet_time_t"})
+        EXPECT_FALSE(shadow_value(info, key)) << key;
+    EXPECT_TRUE(shadow_value(info, "SunDirection"));
+}
+
+TEST(ShadowInfo, has_no_sun_over_no_place) {
+    shadow_info info;
+    info.latitude = std::nan("");
+    EXPECT_FALSE(shadow_value(info, "SunDirection"));
+}
+
+TEST(ShadowInfo, gives_the_direction_to_the_sun_as_a_vector) {
+    sketchup::model_builder builder;
+    test_model opened(builder);
+    SUShadowInfoRef info = SU_INVALID;
+    SUModelGetShadowInfo(opened.ref, &info);
+    test_value value;
+    EXPECT_EQ(SUShadowInfoGetValue(info, "SunDirection", &value.ref), SU_ERROR_NONE);
+    EXPECT_EQ(value.type(), SUTypedValueType_Vector3D);
+    double direction[3]{};
+    EXPECT_EQ(SUTypedValueGetVector3d(value.ref, direction), SU_ERROR_NONE);
+    EXPECT_NEAR(direction[0] * direction[0] + direction[1] * direction[1] + direction[2] * direction[2], 1, 1e-12);
+    EXPECT_EQ(SUShadowInfoGetValue(info, "SunRise", &value.ref), SU_ERROR_NONE);
+    EXPECT_EQ(value.type(), SUTypedValueType_Time);
 }

@@ -4,7 +4,7 @@
 #include "image/encode_picture.h"
 #include "sketchup/api/texture_file_name.h"
 #include "tests/image/pictures.h"
-#include "tests/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -46,10 +46,10 @@ TEST(Texture, writes_its_stored_bytes_unchanged) {
     model_builder builder;
     builder.textured_material("Brick", {'B', 'M', 0, 255}, "brick.bmp", 10, 20);
     test_model opened(builder);
-    const std::string path = folder.file("original.bmp");
+    const std::string path = folder / "original.bmp";
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), path.c_str()), SU_ERROR_NONE);
-    EXPECT_EQ(text_of_file(path), std::string("BM\0\xFF", 4));
-    EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), folder.file("no/folder.bmp").c_str()),
+    EXPECT_EQ(folder.read("original.bmp"), std::string("BM\0\xFF", 4));
+    EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), (folder / "no/folder.bmp").c_str()),
               SU_ERROR_SERIALIZATION);
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), nullptr), SU_ERROR_NULL_POINTER_INPUT);
 }
@@ -60,7 +60,7 @@ TEST(Texture, without_a_picture_writes_nothing) {
     builder.textured_material("Brick", {}, "brick.bmp", 10, 20);
     builder.model().textures[0].picture = sketchup::no_index;
     test_model opened(builder);
-    const std::string path = folder.file("picture.png");
+    const std::string path = folder / "picture.png";
     EXPECT_EQ(SUTextureWriteToFile(opened.texture(), path.c_str()), SU_ERROR_SERIALIZATION);
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), path.c_str()), SU_ERROR_SERIALIZATION);
     EXPECT_FALSE(std::filesystem::exists(path));
@@ -165,8 +165,8 @@ TEST(Texture, is_written_unchanged_if_the_format_is_the_stored_one) {
     const std::vector<std::uint8_t> stored = file_of(gradient(9, 9), image::picture_format::jpeg);
     builder.textured_material("Brick", stored, "brick.jpg", 10, 20);
     test_model opened(builder);
-    EXPECT_EQ(SUTextureWriteToFile(opened.texture(), folder.file("a.JPEG").c_str()), SU_ERROR_NONE);
-    EXPECT_EQ(read_back(folder.file("a.JPEG")), stored);
+    EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / "a.JPEG").c_str()), SU_ERROR_NONE);
+    EXPECT_EQ(read_back((folder / "a.JPEG")), stored);
 }
 
 TEST(Texture, is_written_anew_in_another_format) {
@@ -176,8 +176,8 @@ TEST(Texture, is_written_anew_in_another_format) {
     builder.textured_material("Brick", file_of(pixels, image::picture_format::png), "brick.png", 10, 20);
     test_model opened(builder);
     for (const char* name : {"a.bmp", "a.TIF"}) {
-        EXPECT_EQ(SUTextureWriteToFile(opened.texture(), folder.file(name).c_str()), SU_ERROR_NONE);
-        EXPECT_EQ(image::decode_picture(read_back(folder.file(name))), pixels) << name;
+        EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / name).c_str()), SU_ERROR_NONE);
+        EXPECT_EQ(image::decode_picture(read_back((folder / name))), pixels) << name;
     }
 }
 
@@ -192,7 +192,7 @@ TEST(Texture, is_recoloured_as_its_material_wants_but_not_in_its_original) {
     builder.model().materials[0].color = {147, 154, 158, 255};
     builder.model().textures[0].average_color = {105, 137, 98, 255};
     test_model opened(builder);
-    const std::string shown = folder.file("shown.png"), original = folder.file("original.png");
+    const std::string shown = (folder / "shown.png"), original = (folder / "original.png");
     EXPECT_EQ(SUTextureWriteToFile(opened.texture(), shown.c_str()), SU_ERROR_NONE);
     EXPECT_EQ(SUTextureWriteOriginalToFile(opened.texture(), original.c_str()), SU_ERROR_NONE);
     EXPECT_EQ(image::decode_picture(read_back(shown))->bytes(), (std::vector<std::uint8_t>{158, 156, 147}));
@@ -208,8 +208,8 @@ TEST(Texture, that_is_damaged_fails_and_leaves_no_file) {
     builder.textured_material("Words", {'w', 'o', 'r', 'd', 's'}, "words.png", 10, 20);
     test_model opened(builder);
     for (const sketchup::index texture : {0u, 1u}) {
-        EXPECT_EQ(SUTextureWriteToFile(opened.texture(texture), folder.file("a.jpg").c_str()), SU_ERROR_SERIALIZATION);
-        EXPECT_FALSE(std::filesystem::exists(folder.file("a.jpg")));
+        EXPECT_EQ(SUTextureWriteToFile(opened.texture(texture), (folder / "a.jpg").c_str()), SU_ERROR_SERIALIZATION);
+        EXPECT_FALSE(std::filesystem::exists((folder / "a.jpg")));
     }
     size_t width = 7, height = 7;
     double s = 7, t = 7;
@@ -223,8 +223,8 @@ TEST(Texture, is_not_written_under_an_extension_that_is_not_known) {
     builder.textured_material("Brick", file_of(noise(9, 5), image::picture_format::png), "brick.png", 10, 20);
     test_model opened(builder);
     for (const char* name : {"a.psd", "a.gif", "a", "no/folder.png"}) {
-        EXPECT_EQ(SUTextureWriteToFile(opened.texture(), folder.file(name).c_str()), SU_ERROR_SERIALIZATION) << name;
-        EXPECT_FALSE(std::filesystem::exists(folder.file(name))) << name;
+        EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / name).c_str()), SU_ERROR_SERIALIZATION) << name;
+        EXPECT_FALSE(std::filesystem::exists((folder / name))) << name;
     }
 }
 
@@ -234,18 +234,18 @@ TEST(TextureFromPixels, writes_its_pixels_with_the_first_row_on_top) {
     const SUByte pixels[] = {0, 0, 255, 99, 0, 255, 0, 99};
     SUTextureRef texture = SU_INVALID;
     ASSERT_EQ(SUTextureCreateFromImageData(&texture, 1, 2, 24, pixels), SU_ERROR_NONE);
-    EXPECT_EQ(SUTextureWriteToFile(texture, folder.file("a.png").c_str()), SU_ERROR_NONE);
-    EXPECT_EQ(image::decode_picture(read_back(folder.file("a.png")))->bytes(),
+    EXPECT_EQ(SUTextureWriteToFile(texture, (folder / "a.png").c_str()), SU_ERROR_NONE);
+    EXPECT_EQ(image::decode_picture(read_back((folder / "a.png")))->bytes(),
               (std::vector<std::uint8_t>{0, 0, 255, 0, 255, 0}));
-    EXPECT_EQ(SUTextureWriteToFile(texture, folder.file("a.gif").c_str()), SU_ERROR_SERIALIZATION);
+    EXPECT_EQ(SUTextureWriteToFile(texture, (folder / "a.gif").c_str()), SU_ERROR_SERIALIZATION);
     SUTextureRelease(&texture);
 }
 
 TEST(TextureFromFile, has_the_tile_size_that_was_asked_for) {
     const temporary_folder folder;
-    ASSERT_TRUE(image::write_picture(folder.file("lake.png"), noise(20, 10)));
+    ASSERT_TRUE(image::write_picture((folder / "lake.png"), noise(20, 10)));
     SUTextureRef texture = SU_INVALID;
-    ASSERT_EQ(SUTextureCreateFromFile(&texture, folder.file("lake.png").c_str(), 8, 4), SU_ERROR_NONE);
+    ASSERT_EQ(SUTextureCreateFromFile(&texture, (folder / "lake.png").c_str(), 8, 4), SU_ERROR_NONE);
     size_t width = 0, height = 0;
     double s = 0, t = 0;
     EXPECT_EQ(SUTextureGetDimensions(texture, &width, &height, &s, &t), SU_ERROR_NONE);
@@ -259,9 +259,9 @@ TEST(TextureFromFile, has_the_tile_size_that_was_asked_for) {
 
 TEST(TextureFromFile, needs_a_picture) {
     const temporary_folder folder;
-    write_file(folder.file("words.png"), "words");
+    folder.write("words.png", "words");
     SUTextureRef texture = SU_INVALID;
-    EXPECT_EQ(SUTextureCreateFromFile(&texture, folder.file("words.png").c_str(), 1, 1), SU_ERROR_SERIALIZATION);
-    EXPECT_EQ(SUTextureCreateFromFile(&texture, folder.file("missing.png").c_str(), 1, 1), SU_ERROR_SERIALIZATION);
+    EXPECT_EQ(SUTextureCreateFromFile(&texture, (folder / "words.png").c_str(), 1, 1), SU_ERROR_SERIALIZATION);
+    EXPECT_EQ(SUTextureCreateFromFile(&texture, (folder / "missing.png").c_str(), 1, 1), SU_ERROR_SERIALIZATION);
     EXPECT_FALSE(SUIsValid(texture));
 }

@@ -1,0 +1,50 @@
+// Reads ini files once and rewrites them beside other processes that do the same.
+
+#include "qlw/ini_store.h"
+
+#include "platform/platform.h"
+
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr std::uint64_t largest_file = 4u << 20; // some 600 settings of at most 4,096 bytes take less
+constexpr int patience_milliseconds = 2000;      // a rewrite takes less than one
+
+// The text on the disk, empty for a missing file; nothing for one that is not to be touched.
+std::optional<ini_text> text_on_disk(const std::string& name) {
+    const auto bytes = platform::read_file(name, largest_file);
+    if (bytes)
+        return ini_text(std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size()));
+    return platform::exists(name) ? std::nullopt : std::optional<ini_text>(std::in_place);
+}
+
+} // namespace
+
+const ini_text& ini_store::file(const std::string& name) {
+    const auto known = files.find(name);
+    if (known != files.end())
+        return known->second;
+    return files.emplace(name, text_on_disk(name).value_or(ini_text())).first->second;
+}
+
+void ini_store::write(const std::string& name, std::string_view section, std::string_view key, std::string_view value) {
+    // Replacing is one step, so a look without the lock sees a whole file, and mostly there is nothing to do.
+    std::optional<ini_text> text = text_on_disk(name);
+    const ini_text seen = text.value_or(ini_text());
+    files.insert_or_assign(name, seen);
+    if (!text || !text->set_value(section, key, value))
+        return;
+    platform::file_lock lock;
+    if (!lock.take(name + ".lock", patience_milliseconds))
+        return;
+    text = text_on_disk(name);
+    if (!text)
+        return;
+    const bool is_changed = text->set_value(section, key, value);
+    if (text->bytes().size() > largest_file) // the next run would read nothing of it
+        return;
+    if (!is_changed || platform::replace_file(name, text->bytes()))
+        files.insert_or_assign(name, *std::move(text));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+// The ini files of a run: each is read once, and a write loses nothing that another process has written meanwhile.
+
+#include "qlw/ini_text.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+
+class ini_store {
+public:
+    // The file as it was when it was first asked for, or after the last write through this object. A file that is
+    // missing, cannot be read or is larger than any that a program writes counts as empty. name: the full name.
+    const ini_text& file(const std::string& name);
+
+    // Whether the file has been read.
+    bool holds(const std::string& name) const { return files.contains(name); }
+
+    // Makes the value under a key read so on the disk. If it does already, the file is left alone; otherwise it is read
+    // again under a lock, edited, and replaced in one step. The folder must exist. A file that cannot be read or would
+    // grow too large, or a place that takes no file, is left as it is without a word: the value is lost with the run.
+    void write(const std::string& name, std::string_view section, std::string_view key, std::string_view value);
+
+    // Forgets what has been read.
+    void forget() { files.clear(); }
+
+private:
+    std::map<std::string, ini_text> files;
+};
