@@ -38,8 +38,8 @@ public:
         u8(value.blue);
         u8(value.alpha);
     }
-    void raw(std::span<const std::uint8_t> bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
-    void raw(std::string_view bytes) { bytes_.insert(bytes_.end(), bytes.begin(), bytes.end()); }
+    void raw(std::span<const std::uint8_t> bytes) { append(bytes.data(), bytes.size()); }
+    void raw(std::string_view bytes) { append(bytes.data(), bytes.size()); }
 
     // Sets four bytes that were written before, the first of them at that count.
     void set_u32(std::size_t at, std::uint32_t value) { std::memcpy(bytes_.data() + at, &value, sizeof(value)); }
@@ -50,9 +50,12 @@ public:
 private:
     template<class T>
     void put(T value) {
-        const auto* first = reinterpret_cast<const std::uint8_t*>(&value);
-        bytes_.insert(bytes_.end(), first, first + sizeof(T));
+        append(&value, sizeof(T));
     }
+    // Not in the header: the writers recurse along the nesting of a model, and growing a vector in place would make
+    // each of their stack frames several times as large.
+    void append(const void* first, std::size_t count);
+
     std::vector<std::uint8_t> bytes_;
 };
 

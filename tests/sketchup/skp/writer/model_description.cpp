@@ -188,10 +188,11 @@ void describer::layers() {
 
 void describer::vertex(const std::string& which, index at) {
     const auto [number, is_new] = vertex_numbers_.try_emplace(at, vertex_numbers_.size());
-    under(which + " vertex " + std::to_string(number->second) + " " + text_of(m_.vertices[at].position), [&] {
-        if (is_new)
-            entity(m_.vertices[at], "id of a vertex");
-    });
+    under(which + " vertex " + std::to_string(number->second) + " " + text_of(m_.vertices[at].position),
+          [&, first = is_new] {
+              if (first)
+                  entity(m_.vertices[at], "id of a vertex");
+          });
 }
 
 void describer::curve(index at) {

@@ -64,7 +64,7 @@ TEST(WriterLimits, a_model_with_more_objects_than_short_tags_can_number_comes_ba
 }
 
 TEST(WriterLimits, texts_of_254_255_65534_65535_and_70000_characters_come_back) {
-    for (const std::size_t size : {254, 255, 65534, 65535, 70000}) {
+    for (const std::size_t size : {254u, 255u, 65534u, 65535u, 70000u}) {
         model_builder m;
         m.model().description = std::string(size, 'x');
         const auto original = m.finish();
