@@ -11,8 +11,11 @@
 
 namespace {
 
+// Without the byte-order mark, which is no part of the first line.
 std::vector<std::string_view> lines_of(std::string_view text) {
     std::vector<std::string_view> lines;
+    if (text.starts_with("\xEF\xBB\xBF"))
+        text.remove_prefix(3);
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
         std::string_view line = text.substr(0, end);
