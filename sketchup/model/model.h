@@ -53,10 +53,10 @@ enum class entity_kind : std::uint8_t {
 struct entity {
     explicit entity(entity_kind k) : kind(k) {}
     entity_kind kind;
-    std::int32_t id = 0;             // handed out in reading order from 1 by model::give_id; never stored in a file
-    std::int64_t persistent_id = 0;  // 0 where the file stores none
-    index_range dictionaries;        // in model::dictionaries
-    model* owner = nullptr;          // set by link()
+    std::int32_t id = 0;            // handed out in reading order from 1 by model::give_id; never stored in a file
+    std::int64_t persistent_id = 0; // 0 where the file stores none
+    index_range dictionaries;       // in model::dictionaries
+    model* owner = nullptr;         // set by link()
 };
 
 struct drawing_element : entity {
@@ -150,7 +150,14 @@ struct section_plane : drawing_element {
     std::string symbol;
 };
 
-enum class annotation_kind : std::uint8_t { guide_line, guide_point, text, linear_dimension, radial_dimension, polyline };
+enum class annotation_kind : std::uint8_t {
+    guide_line,
+    guide_point,
+    text,
+    linear_dimension,
+    radial_dimension,
+    polyline
+};
 
 // What is drawn for the draughtsman and never rendered; kept for counts, attributes and boxes.
 struct annotation : drawing_element {
@@ -164,9 +171,9 @@ struct entity_list : entity {
     // Each in the order of the file.
     std::vector<index> faces;
     std::vector<index> edges;
-    std::vector<index> groups;     // in model::placements
-    std::vector<index> instances;  // in model::placements
-    std::vector<index> images;     // in model::placements
+    std::vector<index> groups;    // in model::placements
+    std::vector<index> instances; // in model::placements
+    std::vector<index> images;    // in model::placements
     std::vector<index> section_planes;
     std::vector<index> annotations;
     index active_section_plane = no_index;
@@ -201,9 +208,9 @@ struct layer : entity {
     layer() : entity(entity_kind::layer) {}
     std::string name;
     bool hidden = false;
-    index material = no_index;    // gives the layer's colour
+    index material = no_index; // gives the layer's colour
     std::uint32_t page_behavior = 0;
-    index folder = no_index;      // in model::layer_folders
+    index folder = no_index; // in model::layer_folders
 };
 
 struct layer_folder {
@@ -214,8 +221,9 @@ struct layer_folder {
 
 // The bytes of a picture file (JPEG, PNG, BMP, TIFF …; its signature tells which).
 struct picture {
-    std::string name;      // entry or format, for messages
-    std::uint32_t format = 0; // as the classic container numbers it: 1 JPEG, 2 BMP, 3 TIFF, 4 PNG, 7 TGA, 8 PSD; 0 unknown
+    std::string name; // entry or format, for messages
+    std::uint32_t format =
+        0; // as the classic container numbers it: 1 JPEG, 2 BMP, 3 TIFF, 4 PNG, 7 TGA, 8 PSD; 0 unknown
     std::uint32_t quality = 0;
     // Gives the stored bytes, unpacking them if need be. Throws skp::format_error if they are damaged.
     std::function<std::vector<std::uint8_t>()> load;
@@ -241,7 +249,7 @@ struct material : entity {
     std::uint32_t colorize_type = 0; // 0 shift, 1 tint
     double transparency = 0;         // 0 opaque … 1 clear
     bool use_transparency = false;
-    bool is_private = false; // of a layer or an image; not in the host's list
+    bool is_private = false;  // of a layer or an image; not in the host's list
     index texture = no_index; // in model::textures
 };
 
@@ -315,12 +323,12 @@ struct model : entity {
     std::string description;
     index_range properties; // the file's own dictionaries, not those of the user
 
-    entity_list root; // its dictionaries are the user's dictionaries of the model
+    entity_list root;                              // its dictionaries are the user's dictionaries of the model
     std::vector<component_definition> definitions; // in the host's order, all kinds mixed
     std::vector<layer> layers;                     // in the host's order; the default layer first
     std::vector<layer_folder> layer_folders;
-    std::vector<material> materials;               // those of `listed_materials` and the private ones
-    std::vector<index> listed_materials;           // what the host lists, in its order
+    std::vector<material> materials;     // those of `listed_materials` and the private ones
+    std::vector<index> listed_materials; // what the host lists, in its order
     std::vector<scene> scenes;
     index active_scene = no_index;
     sketchup::camera camera;

@@ -39,12 +39,14 @@ struct rgba {
 
 using guid = std::array<std::uint8_t, 16>;
 
-// A placement as the interface gives it: column-major, translation in 12 to 14, the weight that divides everything in 15.
+// A placement as the interface gives it: column-major, translation in 12 to 14, the weight that divides everything
+// in 15.
 using transform = std::array<double, 16>;
 
 inline constexpr transform identity_transform = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 
-// The 13 numbers of a file (a 3 × 3 part row by row, the translation, the weight) in the form of the interface, and back.
+// The 13 numbers of a file (a 3 × 3 part row by row, the translation, the weight) in the form of the interface, and
+// back.
 constexpr transform transform_from_file(const std::array<double, 13>& m) {
     return {m[0], m[3], m[6], 0, m[1], m[4], m[7], 0, m[2], m[5], m[8], 0, m[9], m[10], m[11], m[12]};
 }
@@ -72,8 +74,8 @@ enum class value_code : std::uint8_t {
     time = 9, // seconds since 1970
     string = 10,
     array = 11,
-    length = 12,      // inches
-    measure_13 = 13,  // angle, area and others: doubles whose meaning no sample tells apart
+    length = 12,     // inches
+    measure_13 = 13, // angle, area and others: doubles whose meaning no sample tells apart
     measure_14 = 14,
     measure_15 = 15,
     measure_16 = 16,

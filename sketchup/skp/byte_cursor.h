@@ -72,7 +72,7 @@ private:
         if (size > left())
             fail("needs " + std::to_string(size) + " bytes, " + std::to_string(left()) + " left");
     }
-    template <class T>
+    template<class T>
     T value() {
         need(sizeof(T));
         T result;

@@ -15,8 +15,8 @@ enum class container { classic, modern };
 struct file_header {
     sketchup::version_number version;
     container kind = container::classic;
-    bool wide_strings = true;      // classic: how the strings of the file are stored
-    std::size_t body = 0;          // offset behind the version string (classic: the model id; modern: "VFF")
+    bool wide_strings = true; // classic: how the strings of the file are stored
+    std::size_t body = 0;     // offset behind the version string (classic: the model id; modern: "VFF")
 };
 
 // Reads the product and version strings and looks which container follows.

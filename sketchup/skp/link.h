@@ -1,6 +1,7 @@
 #pragma once
 
-// The last step of reading a model: what follows from the structure is filled in and what the walk relies on is checked.
+// The last step of reading a model: what follows from the structure is filled in and what the walk relies on is
+// checked.
 
 namespace sketchup {
 struct model;
