@@ -148,7 +148,7 @@ std::string_view ini_text::line_end() const {
 }
 
 // position: behind a line, the last of which may lack its end.
-void ini_text::insert_line(std::size_t position, std::string line) {
+void ini_text::insert_line(std::size_t position, const std::string& line) {
     const std::string end(line_end());
     const bool follows_open_line = position > 0 && text[position - 1] != '\n' && text != byte_order_mark;
     text.insert(position, (follows_open_line ? end : "") + line + end);

@@ -42,7 +42,7 @@ private:
     std::string_view at(span part) const;
     span trimmed(span part) const;
     std::string_view line_end() const;
-    void insert_line(std::size_t position, std::string line);
+    void insert_line(std::size_t position, const std::string& line);
 
     std::string text;
     bool is_foreign = false;                      // in an encoding of two bytes a letter

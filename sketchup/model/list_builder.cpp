@@ -46,7 +46,7 @@ index list_builder::vertex_at(const vec3& point) const {
     if (is_new) {
         vertex v;
         v.position = point;
-        found->second = builder_->add(builder_->model_->vertices, std::move(v));
+        found->second = builder_->add(builder_->model_->vertices, v);
     }
     return found->second;
 }
@@ -57,7 +57,7 @@ edge_use list_builder::use_between(index from, index to) const {
         sketchup::edge e;
         e.start = from;
         e.end = to;
-        found->second = builder_->add(builder_->model_->edges, std::move(e));
+        found->second = builder_->add(builder_->model_->edges, e);
         entities().edges.push_back(found->second);
     }
     edge_use use;
@@ -89,7 +89,7 @@ entity_place list_builder::face(std::span<const vec3> outline, std::span<const s
             std::reverse(hole.begin(), hole.end());
         add_loop(hole);
     }
-    const index at = builder_->add(builder_->model_->faces, std::move(f));
+    const index at = builder_->add(builder_->model_->faces, f);
     entities().faces.push_back(at);
     return {entity_kind::face, at};
 }
@@ -117,7 +117,7 @@ entity_place list_builder::edge(const vec3& from, const vec3& to) {
 }
 
 std::vector<entity_place> list_builder::edges_of_curve(curve made, std::span<const vec3> points) {
-    const index at = builder_->add(builder_->model_->curves, std::move(made));
+    const index at = builder_->add(builder_->model_->curves, made);
     std::vector<entity_place> edges;
     for (std::size_t i = 1; i < points.size(); ++i) {
         edges.push_back(edge(points[i - 1], points[i]));
@@ -145,7 +145,7 @@ std::vector<entity_place> list_builder::arc(const vec3& center, const vec3& x_ax
         const double angle = start_angle + (end_angle - start_angle) * i / chords;
         points.push_back(center + x_axis * std::cos(angle) + y_axis * std::sin(angle));
     }
-    return edges_of_curve(std::move(made), points);
+    return edges_of_curve(made, points);
 }
 
 entity_place list_builder::section_plane(const plane& where, bool active, std::string_view name) {
@@ -162,7 +162,7 @@ entity_place list_builder::section_plane(const plane& where, bool active, std::s
 entity_place list_builder::annotation(annotation_kind what) {
     sketchup::annotation a;
     a.what = what;
-    const index at = builder_->add(builder_->model_->annotations, std::move(a));
+    const index at = builder_->add(builder_->model_->annotations, a);
     entities().annotations.push_back(at);
     return {entity_kind::annotation, at};
 }

@@ -23,6 +23,12 @@ std::string archive::text() {
     return utf8_from(stored);
 }
 
+void archive::spend_array_elements(std::uint32_t count) {
+    if (count > array_elements_left_)
+        fail("arrays of more elements than a file of this size holds");
+    array_elements_left_ -= count;
+}
+
 void archive::read_version_map() {
     set_where("CVersionMap");
     if (next_tag().what != object_class::version_map)

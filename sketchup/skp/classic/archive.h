@@ -26,10 +26,15 @@ public:
     // bytes: what is to be read; base: the offset of the first of them in the file. wide: how all strings must be
     // stored.
     archive(std::span<const std::uint8_t> bytes, std::uint64_t base, bool wide)
-        : byte_cursor(bytes, base), wide_(wide) {}
+        : byte_cursor(bytes, base), wide_(wide), array_elements_left_(free_array_elements + bytes.size() / 4) {}
 
     // A string as UTF-8. Fails if it is stored in the other width: no writer mixes them.
     std::string text();
+
+    // Takes that many elements of attribute arrays from what the file may hold. In memory an element is some hundred
+    // times its smallest form in the file, a single byte; numbers take five bytes or more there. So a file may have one
+    // element for every four bytes, beside as many as never matter. Fails if it asks for more.
+    void spend_array_elements(std::uint32_t count);
 
     // Reads the version map with its tag; its class and itself take the slots 1 and 2.
     void read_version_map();
@@ -57,7 +62,10 @@ private:
     object_tag reference(std::uint32_t number);
     void require_slot(std::uint32_t number, bool is_class) const;
 
+    static constexpr std::uint64_t free_array_elements = 65536;
+
     bool wide_;
+    std::uint64_t array_elements_left_;
     layout_numbers layout_;
     std::vector<slot_entry> slots_{slot_entry{}}; // numbering begins at 1
 };

@@ -16,7 +16,8 @@ std::vector<typed_value> read_array(archive& in, int depth) {
     if (depth > deepest_array_nesting)
         in.fail("arrays nest deeper than " + std::to_string(deepest_array_nesting));
     const std::uint32_t count = in.count(1); // an element is at least its code
-    std::vector<typed_value> elements;       // not reserved: nested counts could each claim all the bytes that are left
+    in.spend_array_elements(count);
+    std::vector<typed_value> elements; // not reserved: nested counts could each claim all the bytes that are left
     for (std::uint32_t i = 0; i < count; ++i)
         elements.push_back(read_value(in, depth));
     return elements;

@@ -90,3 +90,13 @@ TEST(TypedValues, arrays_nest_as_deep_as_the_limit_and_no_deeper) {
     EXPECT_EQ(read(nested(skp::deepest_array_nesting)).code, value_code::array);
     EXPECT_THROW(read(nested(skp::deepest_array_nesting + 1)), skp::format_error);
 }
+
+// 65536 elements are free; beyond them a file may have one for every four bytes.
+TEST(TypedValues, an_array_of_a_hundred_thousand_nils_in_as_many_bytes_is_refused_while_numbers_are_read) {
+    EXPECT_THROW(read(assembler().u8(11).u32(100000).zeros(100000)), skp::format_error);
+    assembler numbers;
+    numbers.u8(11).u32(100000);
+    for (unsigned i = 0; i < 100000; ++i)
+        numbers.u8(4).u32(i);
+    EXPECT_EQ(std::get<std::vector<typed_value>>(read(numbers).data).size(), 100000U);
+}
