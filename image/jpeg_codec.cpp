@@ -113,7 +113,7 @@ struct jpeg_writer {
     jpeg_writer& operator=(const jpeg_writer&) = delete;
     ~jpeg_writer() {
         jpeg_destroy_compress(&info);
-        std::free(bytes);
+        std::free(bytes); // NOLINT(cppcoreguidelines-owning-memory): the library allocates it so
     }
 
     jpeg_compress_struct info{};

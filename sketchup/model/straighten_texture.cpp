@@ -134,15 +134,17 @@ image::picture straighten_texture(const image::picture& source, const model& m, 
         for (std::uint32_t x = 0; x < straight.width(); ++x) {
             std::array<double, 4> sum{};
             for (std::uint32_t i = 0; i < across * down; ++i) {
-                const double from_left = (x + (i % across + 0.5) / across) / width;
-                const double from_top = (y + (i / across + 0.5) / down) / height;
+                const std::uint32_t column = i % across;
+                const std::uint32_t row = i / across;
+                const double from_left = (x + (column + 0.5) / across) / width;
+                const double from_top = (y + (row + 0.5) / down) / height;
                 colours.add(
                     mapping.place_at(extent.u + from_left * extent.width, extent.v + (1 - from_top) * extent.height),
                     sum);
             }
             std::uint8_t* pixel = straight.row(y) + x * straight.bytes_per_pixel();
             for (std::size_t channel = 0; channel < straight.bytes_per_pixel(); ++channel)
-                pixel[channel] = static_cast<std::uint8_t>(sum[channel] / (across * down) + 0.5);
+                pixel[channel] = static_cast<std::uint8_t>(std::lround(sum[channel] / (across * down)));
         }
     return straight;
 }
