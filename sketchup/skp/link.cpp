@@ -177,8 +177,9 @@ private:
 
     flattened sum(const sketchup::entity_list& list) const {
         flattened result;
-        result.entities = static_cast<long long>(list.faces.size() + list.edges.size() + child_count(list) +
-                                                 list.section_planes.size() + list.annotations.size());
+        const std::size_t own = list.faces.size() + list.edges.size() + child_count(list) + list.section_planes.size() +
+                                list.annotations.size();
+        result.entities = static_cast<long long>(own);
         for (std::size_t i = 0; i < child_count(list); ++i) {
             const index below = child(list, i);
             if (below == no_index)
