@@ -45,7 +45,7 @@ struct rpc_record {
 
 class geometry_stream {
 public:
-    static constexpr std::size_t usual_block = 256 * 1024;
+    static constexpr std::size_t usual_block = std::size_t{256} * 1024;
 
     // block: bytes gathered before they go to the file, at least 1; a line may go over it. Tests make it tiny.
     explicit geometry_stream(std::size_t block = usual_block);

@@ -64,7 +64,7 @@ std::vector<std::uint8_t> zip_archive(const std::vector<archive_entry>& entries)
         add(archive.get(), entry);
     if (zip_close(archive.get()) != 0)
         fail(zip_strerror(archive.get()));
-    archive.release(); // it is gone now
+    static_cast<void>(archive.release()); // it is gone now
     return bytes_of(memory.get());
 }
 
