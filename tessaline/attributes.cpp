@@ -5,23 +5,12 @@
 #include "qlw/qlw_globals.h"
 #include "qlw/text_format.h"
 #include "qlw/text_numbers.h"
+#include "tessaline/dictionary_values.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
 
-#include <vector>
-
 namespace {
-
-class typed_value {
-public:
-    typed_value() { SUTypedValueCreate(&handle); }
-    ~typed_value() { SUTypedValueRelease(&handle); }
-    typed_value(const typed_value&) = delete;
-    typed_value& operator=(const typed_value&) = delete;
-
-    SUTypedValueRef handle = SU_INVALID;
-};
 
 // What one of the interface's getters gives; the zero of the type if it fails.
 template<class Value>
@@ -44,21 +33,6 @@ std::string string_text(SUTypedValueRef value) {
     model_text text;
     SUTypedValueGetString(value, text.out());
     return text.utf8();
-}
-
-std::vector<std::string> keys_of(SUAttributeDictionaryRef dictionary) {
-    std::size_t count = 0;
-    SUAttributeDictionaryGetNumKeys(dictionary, &count);
-    std::vector<model_text> texts(count);
-    std::vector<SUStringRef> handles;
-    for (model_text& text : texts)
-        handles.push_back(*text.out());
-    if (count != 0)
-        SUAttributeDictionaryGetKeys(dictionary, count, handles.data(), &count);
-    std::vector<std::string> keys;
-    for (const model_text& text : texts)
-        keys.push_back(text.utf8());
-    return keys;
 }
 
 } // namespace
@@ -97,8 +71,8 @@ void read_attributes(SUEntityRef entity) {
         const std::string name = name_by(SUAttributeDictionaryGetName, dictionary);
         for (const std::string& key : keys_of(dictionary)) {
             typed_value value;
-            SUAttributeDictionaryGetValue(dictionary, key.c_str(), &value.handle);
-            add_attribute(name, key, value.handle);
+            SUAttributeDictionaryGetValue(dictionary, key.c_str(), value.out());
+            add_attribute(name, key, value.get());
         }
     }
 }
