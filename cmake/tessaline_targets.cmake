@@ -62,10 +62,8 @@ function(tessaline_test name label)
   if(sources)
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE tessaline_flags ${test_LINK} GTest::gmock GTest::gtest_main)
-    if(TESSALINE_SANITIZE)
-      # The sanitizers watch the code under test; optimising the tests themselves would double the time of the build.
-      target_compile_options(${name} PRIVATE -O0)
-    endif()
+    # What is tested is optimised; optimising the tests themselves would only lengthen the build.
+    target_compile_options(${name} PRIVATE -O0)
     target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     # No test reads or writes the settings of whoever runs it.
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
