@@ -7,6 +7,7 @@
 #include "tessaline/face_mesh.h"
 #include "tessaline/face_sides.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/light_record.h"
 #include "tessaline/placements.h"
 #include "tessaline/plants.h"
 #include "tessaline/transforms.h"
@@ -14,6 +15,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // What a face passes to begin_mesh about its block.
 struct mesh_head {
@@ -134,6 +136,9 @@ public:
     bool beam_pass_wanted = false;  // the current lamp is of the type "spot_beams"
     bool beam_pass_running = false; // its entities are being walked a second time
     int ilights_saved = 0;          // number of the next lamp
+
+    // lamps.cpp: the lamps written so far, by number. The record of the run; nothing reads it back.
+    std::vector<cl_lp_light> lights;
 
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;

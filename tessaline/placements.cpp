@@ -7,6 +7,7 @@
 #include "tessaline/attributes.h"
 #include "tessaline/lamps.h"
 #include "tessaline/layer_inheritance.h"
+#include "tessaline/lower_case.h"
 #include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
 #include "tessaline/SketchUpReader.h"
@@ -16,14 +17,6 @@
 #include <string>
 
 namespace {
-
-std::string lower_case(std::string_view text) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
-    });
-    return lower;
-}
 
 // The local transform, normalised.
 template<class Handle>
