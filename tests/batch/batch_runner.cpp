@@ -113,6 +113,10 @@ run_outcome batch::run_with(const std::vector<std::string>& arguments, const std
     for (const std::string& argument : arguments)
         command += " " + shell_quoted(argument);
     const program_result result = run_program(command + " 2>" + shell_quoted(outside / "errors") + " </dev/null");
+    for (const auto& [name_inside, bytes] : files())
+        if (bytes.starts_with(first_line_of_stream)) {
+            EXPECT_EQ(first_grammar_fault(bytes), std::nullopt) << name_inside;
+        }
     return {result.status, result.output, outside.read("errors")};
 }
 
@@ -155,10 +159,6 @@ void expect_batch(const batch& found, const std::string& case_name, const std::s
     for (const std::string& one : wrong)
         ADD_FAILURE() << one;
     EXPECT_EQ(found.folders(), folders);
-    for (const auto& [name, bytes] : found.files())
-        if (bytes.starts_with(first_line_of_stream)) {
-            EXPECT_EQ(first_grammar_fault(bytes), std::nullopt) << name;
-        }
     if (testing::Test::HasFailure())
         GTEST_LOG_(INFO) << "what was found is in " << copy_of(found, case_name);
 }

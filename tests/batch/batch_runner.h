@@ -43,7 +43,8 @@ public:
     // Writes the model as "geometry.qlm", or under another name; takes all from the builder.
     void put_model(sketchup::model_builder& m, const std::string& inside = "geometry.qlm");
 
-    // Runs the program on "geometry.qlm", with these arguments behind its full name.
+    // Runs the program on "geometry.qlm", with these arguments behind its full name. Every stream that a run leaves in
+    // the batch folder must follow the grammar; otherwise the running test fails.
     run_outcome run(const std::vector<std::string>& more_arguments = {}) const;
     // Runs it with these arguments alone, from that folder.
     run_outcome run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
@@ -75,8 +76,8 @@ std::string with_batch_folder(std::string golden_text, const std::string& folder
 std::vector<std::string> differences(const files_by_name& expected, const files_by_name& found);
 
 // Fails the running test unless the batch folder holds, byte for byte, the golden files of `case_name`, the models that
-// were put there, and these folders, and unless the stream, if there is one, follows the grammar. In golden files
-// "@BATCH@" stands for the full name of the batch folder. What was found is copied for a look when it fails.
+// were put there, and these folders. In golden files "@BATCH@" stands for the full name of the batch folder. What was
+// found is copied for a look when it fails.
 void expect_batch(const batch& found, const std::string& case_name,
                   const std::set<std::string>& folders = folders_of_every_run());
 
