@@ -31,3 +31,10 @@ std::string joined(std::string_view folder, std::string_view name) {
     path += name;
     return path;
 }
+
+std::string joined_inside(std::string_view folder, std::string_view name) {
+    constexpr std::string_view not_in_a_name("/\\\0", 3);
+    if (name.empty() || name == "." || name == ".." || name.find_first_of(not_in_a_name) != std::string_view::npos)
+        return {};
+    return joined(folder, name);
+}

@@ -18,3 +18,7 @@ std::string without_extension(std::string_view path);
 
 // Folder, separator, name; a folder that ends in a separator gets no second one.
 std::string joined(std::string_view folder, std::string_view name);
+
+// Folder, separator, name, if the file then lies in that very folder. Empty if the name, which may come out of a model,
+// holds a separator of any platform or a zero byte, or stands for a folder ("", ".", "..").
+std::string joined_inside(std::string_view folder, std::string_view name);
