@@ -3,21 +3,13 @@
 #include "tessaline/ground_cover.h"
 
 #include "platform/platform.h"
+#include "tessaline/paths.h"
 
 #include <array>
 
 namespace {
 
 constexpr std::string_view plant_folder = "Plants";
-
-bool is_file(const std::string& name) {
-    return platform::file_size(name).has_value();
-}
-
-std::string_view bare_name(std::string_view path) {
-    const auto separator = path.find_last_of("/\\");
-    return separator == std::string_view::npos ? path : path.substr(separator + 1);
-}
 
 void copy_file(const std::string& from, const std::string& to) {
     platform::file source;
