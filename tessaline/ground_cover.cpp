@@ -30,7 +30,7 @@ std::string placed_ground_cover(std::string_view path, const std::string& batch_
     std::string placed = batch_folder;
     placed.append(1, platform::path_separator).append(plant_folder);
     platform::make_folder(placed); // no fault if it exists
-    placed.append(1, platform::path_separator).append(bare_name(path));
+    placed.append(1, platform::path_separator).append(bare_name_of(path));
     if (!is_file(placed))
         copy_file(original, placed);
     return placed;

@@ -16,13 +16,13 @@ std::string file_name_of(std::string_view path) {
     return std::string(at == std::string_view::npos ? path : path.substr(at + 1));
 }
 
-std::string_view bare_name(std::string_view path) {
-    const std::size_t separator = path.find_last_of("/\\");
-    return separator == std::string_view::npos ? path : path.substr(separator + 1);
+std::string_view bare_name_of(std::string_view path) {
+    const std::size_t at = path.find_last_of("/\\");
+    return at == std::string_view::npos ? path : path.substr(at + 1);
 }
 
 std::string_view extension_of(std::string_view path) {
-    const std::string_view name = bare_name(path);
+    const std::string_view name = bare_name_of(path);
     const std::size_t dot = name.rfind('.');
     return dot == std::string_view::npos ? std::string_view() : name.substr(dot);
 }

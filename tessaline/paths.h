@@ -13,10 +13,10 @@ std::string folder_of(std::string_view path);
 // The name of a file without its folders.
 std::string file_name_of(std::string_view path);
 
-// The last part of a name that may come from any platform: what stands behind the last slash or backslash.
-std::string_view bare_name(std::string_view path);
+// The same for a name that comes out of a model or from a parent, which may hold the separators of either platform.
+std::string_view bare_name_of(std::string_view path);
 
-// The last dot of a name's last part, and what stands behind it; empty if there is none. Cuts as bare_name does.
+// The last dot of a name's last part, and what stands behind it; empty if there is none. Cuts as bare_name_of does.
 std::string_view extension_of(std::string_view path);
 
 // The name of a file without the extension behind the last dot of its last part.
