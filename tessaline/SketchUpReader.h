@@ -46,6 +46,19 @@ struct face_in_walk {
     bool casts_shadows;
 };
 
+// A picture where the walk meets it. Points are world metres.
+struct image_quad {
+    std::string_view layer_name{};
+    int material = 0;
+    fpt origin;           // the corner of the picture's lower left
+    fpt corner_y;         // at its height
+    fpt corner_x;         // at its width
+    fpt corner_xy;        // at both
+    fpt normal;           // unit
+    bool in_lamp = false; // a lamp block is open, and takes the quad
+    bool casts_shadows = true;
+};
+
 class SketchUpReader {
 public:
     // model_reading.cpp: the order of one reading.
@@ -94,8 +107,17 @@ public:
     int ProcessEdge(SUEdgeRef edge, const transform16& matrix, const std::string& path); // 1 if it was kept, else 0
     void write_edge_lines();
 
-    // images.cpp: pictures placed in the model. Gives 1 if the picture was written, else 0.
+    // images.cpp: pictures placed in the model.
+    // Writes the picture as a quad of two triangles. matrix: from its list to the world, in inches. path: without
+    // effect. Gives 1 if it was written, 0 if it is hidden.
     int ProcessImage(SUImageRef image, const transform16& matrix, const std::string& path);
+    // The block of it, or its part of an open lamp block.
+    void write_image_quad(const image_quad& quad);
+
+    // image_materials.cpp: the number of the material that carries the picture. One that is new to the run gets its
+    // record, its files and its lines in the stream. Gives 0 for no pixels and for a picture that cannot be read, else
+    // 10 or above.
+    int get_image_material_number(SUImageRef image);
 
     // mesh_blocks.cpp: what opens and closes a block and what stands at its head.
     void begin_mesh(const mesh_head& head);

@@ -3,6 +3,7 @@
 
 #include "qlw/qlw_globals.h"
 #include "tessaline/attributes.h"
+#include "tessaline/drawing_elements.h"
 #include "tessaline/face_geometry.h"
 #include "tessaline/lamps.h"
 #include "tessaline/layer_inheritance.h"
@@ -16,18 +17,6 @@
 namespace {
 
 // ---- what is asked of a face
-
-bool is_hidden(SUDrawingElementRef element) {
-    bool hidden = false;
-    SUDrawingElementGetHidden(element, &hidden);
-    return hidden;
-}
-
-bool casts_shadows(SUDrawingElementRef element) {
-    bool casts = false;
-    SUDrawingElementGetCastsShadows(element, &casts);
-    return casts;
-}
 
 // The face's own materials; with colour by layer those of its layer, and the face loses its own in the open model, so
 // that the texture writer no longer sees them.
