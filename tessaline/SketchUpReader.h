@@ -7,6 +7,7 @@
 #include "tessaline/face_mesh.h"
 #include "tessaline/face_sides.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/known_materials.h"
 #include "tessaline/placements.h"
 #include "tessaline/plants.h"
 #include "tessaline/transforms.h"
@@ -137,9 +138,12 @@ public:
     // The part of it that follows when the sides are known.
     int write_face_sides(const face_in_walk& walked, const face_side& front, const face_side& back);
 
-    // material_numbers.cpp: the number of a face's side.
+    // material_numbers.cpp: the number of a face's side. A material that is new to the run gets its record, its files
+    // and its lines in the stream.
     // kind: what asks, "face". has_texture: set, unless there is no material. not_affine, has_glow: set to true if the
-    // side's texture is distorted, if the material glows; never cleared. Gives 0 for no material, else 10 or above.
+    // side's texture is distorted, if the material glows; never cleared, but for not_affine in scattered components.
+    // Gives 0 for no material, else 10 or above. The attribute list holds the material's attributes afterwards if the
+    // material is new, its file could not be made, or the texture is distorted.
     int get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front,
                             bool& has_texture, bool& not_affine, bool& has_glow);
 
@@ -159,6 +163,9 @@ public:
 
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
+
+    // Answers about materials, so that a face asks neither for names nor for files.
+    known_materials materials;
 
     // The camera that the parent has set.
     camera_view view;
