@@ -5,8 +5,10 @@
 
 #include "qlw/qlw_globals.h"
 #include "tessaline/attributes.h"
+#include "tessaline/drawing_elements.h"
 #include "tessaline/lamps.h"
 #include "tessaline/layer_inheritance.h"
+#include "tessaline/local_transform.h"
 #include "tessaline/lower_case.h"
 #include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
@@ -17,17 +19,6 @@
 #include <string>
 
 namespace {
-
-// The local transform, normalised.
-template<class Handle>
-transform16 placement_of(SUResult (*getter)(Handle, SUTransformation*), Handle handle) {
-    SUTransformation given{};
-    getter(handle, &given);
-    transform16 transform;
-    std::copy(std::begin(given.values), std::end(given.values), transform.begin());
-    normalise(transform);
-    return transform;
-}
 
 // The level's own material covers the one that it inherited.
 void take_material(SUDrawingElementRef element) {
@@ -63,9 +54,7 @@ std::string name_of_instance(SUComponentInstanceRef instance, SUComponentDefinit
 
 bool SketchUpReader::is_let_in(SUDrawingElementRef element, SULayerRef layer, bool& invisible) const {
     invisible = false;
-    bool hidden = false;
-    SUDrawingElementGetHidden(element, &hidden);
-    if (hidden)
+    if (is_hidden(element))
         return false;
     // Layers are switched at render time in an animation, so all of them are walked.
     if (theApp.is_doing_animation || is_visible(layer))
@@ -83,7 +72,7 @@ placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk&
     if (!is_let_in(element, layer.layer, invisible))
         return placement_decision::leave_out;
 
-    walk.transform = composed(walk.transform, placement_of(SUGroupGetTransform, group));
+    walk.transform = composed(walk.transform, local_transform(SUGroupGetTransform, group));
     SUGroupGetEntities(group, &walk.entities);
     const SUEntityRef entity = SUGroupToEntity(group);
     SUEntityGetID(entity, &walk.id);
@@ -114,7 +103,7 @@ placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instanc
     if (!is_let_in(element, layer.layer, invisible))
         return placement_decision::leave_out;
 
-    walk.transform = composed(walk.transform, placement_of(SUComponentInstanceGetTransform, instance));
+    walk.transform = composed(walk.transform, local_transform(SUComponentInstanceGetTransform, instance));
     if (always_faces_camera(definition))
         turn_to_camera(walk.transform);
     SUComponentDefinitionGetEntities(definition, &walk.entities);

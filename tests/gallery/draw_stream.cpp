@@ -3,9 +3,8 @@
 // Faces are shaded by their vertex normals; front sides are light, back sides bluish.
 
 #include "platform/platform.h"
-#include "sketchup/api/inspect.h"
-#include "sketchup/model/model.h"
 #include "sketchup/SketchUpAPI.h"
+#include "tests/gallery/model_camera.h"
 #include "tests/gallery/rasterizer.h"
 #include "tools/batch_reading/stream_reader.h"
 
@@ -18,22 +17,12 @@ constexpr double metres_in_an_inch = 0.0254;
 constexpr std::size_t picture_width = 480;
 constexpr std::size_t picture_height = 320;
 
-vec in_metres(const sketchup::vec3& p) {
-    return {p.x * metres_in_an_inch, p.y * metres_in_an_inch, p.z * metres_in_an_inch};
-}
-
-view camera_of(const std::string& model_file) {
+view camera_of_file(const std::string& model_file) {
     view result;
     SUModelRef model = SU_INVALID;
     if (SUModelCreateFromFile(&model, model_file.c_str()) != SU_ERROR_NONE)
         return result;
-    const sketchup::camera& camera = sketchup::model_behind(model)->camera;
-    result.eye = in_metres(camera.eye);
-    result.target = in_metres(camera.target);
-    result.up = {camera.up.x, camera.up.y, camera.up.z};
-    result.perspective = camera.perspective;
-    result.field_of_view = camera.field_of_view;
-    result.height = camera.height * metres_in_an_inch;
+    result = camera_of(model, metres_in_an_inch);
     SUModelRelease(&model);
     return result;
 }
@@ -73,7 +62,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     SUInitialize();
-    const view seen = camera_of(argv[1]);
+    const view seen = camera_of_file(argv[1]);
     SUTerminate();
     const auto bytes = platform::read_file(argv[2], std::uint64_t{1} << 36U);
     if (!bytes) {

@@ -24,8 +24,8 @@ protected:
         reset_settings();
         set_global_bool("bvl_show_bulbs", true);
         set_global_int("ivl_2_sided_faces", 0);
-        SUInitialize();
         theApp.batch_folder = batch.name();
+        SUInitialize();
         reader.stream.open(stream_name.c_str(), "Tessaline");
         current_oparms = oparms_array.push();
     }
@@ -71,7 +71,7 @@ protected:
     }
 
     const std::string stream_name = test_file_name();
-    const temporary_folder batch; // where lamps, materials and pictures go
+    temporary_folder batch; // where lamps, materials and pictures go
     SketchUpReader reader;
     sketchup::model_builder builder;
 };
