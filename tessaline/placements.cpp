@@ -15,7 +15,6 @@
 #include "tessaline/SketchUpReader.h"
 #include "tessaline/walk_log.h"
 
-#include <algorithm>
 #include <string>
 
 namespace {

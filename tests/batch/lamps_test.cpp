@@ -300,6 +300,61 @@ TEST(LampsBatch, what_lamps_mend_in_the_settings_goes_to_the_parent) {
     EXPECT_THAT(options, testing::HasSubstr("\r\nivl_lighting_channels; 8\r\n")); // channel 7 makes room for itself
 }
 
+// ---- what glows
+
+// A square of 10 inches that starts at that x.
+entity_place add_field(list_builder list, double x) {
+    return list.face({{x, 0, 0}, {x + 10, 0, 0}, {x + 10, 10, 0}, {x, 10, 0}});
+}
+
+// The list of the group ends inside its block; in the model's own list other faces end the blocks. The cold material is
+// declared inside the block that its face ends.
+TEST(LampsBatch, faces_in_a_row_with_one_glowing_material_share_a_block) {
+    batch b;
+    model_builder m;
+    const sketchup::index warm = m.material("Warm_glow80", {255, 214, 140, 255});
+    const sketchup::index cold = m.material("Cold_glow40", {170, 210, 255, 255});
+    list_builder group = m.root().group();
+    m.face(add_field(group, 0)).back_material = warm;
+    m.element(add_field(group, 20)).material = warm;
+    for (const double x : {0.0, 20.0, 40.0})
+        m.element(add_field(m.root(), x)).material = warm;
+    m.element(add_field(m.root(), 60)).material = cold;
+    add_field(m.root(), 80);
+    b.put_model(m);
+    expect_run(b, "glowing_faces");
+}
+
+TEST(LampsBatch, while_bulbs_are_not_shown_what_glows_is_invisible) {
+    batch b;
+    model_builder m;
+    m.element(m.root().square(10)).material = m.material("Warm_glow80", {255, 214, 140, 255});
+    set(m, {{"bvl_show_bulbs", truth(false)}});
+    b.put_model(m);
+    expect_run(b, "glow_not_shown");
+}
+
+// A picture of 2 by 2 pixels; a pixel is an inch. Rows from the lowest up, each padded to four bytes.
+const std::vector<std::uint8_t> dots = {'B', 'M', 70,  0,   0,   0,   0, 0, 0, 0, 54, 0, 0, 0,        // file
+                                        40,  0,   0,   0,   2,   0,   0, 0, 2, 0, 0,  0, 1, 0, 24, 0, // 2 by 2 by 24
+                                        0,   0,   0,   0,   16,  0,   0, 0, 0, 0, 0,  0, 0, 0, 0,  0,
+                                        0,   0,   0,   0,   0,   0,   0, 0,  //
+                                        255, 0,   0,   0,   255, 0,   0, 0,  // blue, green
+                                        0,   0,   255, 255, 255, 255, 0, 0}; // red, white
+
+// The picture takes four numbers of the lamp's block; the face behind it numbers on.
+TEST(LampsBatch, a_picture_inside_a_lamp_stands_in_its_block) {
+    batch b;
+    model_builder m;
+    list_builder outer = add_lamp(m, "rect");
+    list_builder inner = outer.group();
+    inner.square(10);
+    inner.image(m.image_definition(dots, "dots.bmp", 2, 2), moved({0, 0, 10}));
+    set(m, {{"rvl_image_offset", real_number(0)}});
+    b.put_model(m);
+    expect_run(b, "picture_in_a_lamp");
+}
+
 // ---- ground cover
 
 void put_covered_square(batch& b, const std::string& cover) {
