@@ -59,6 +59,8 @@ struct image_quad {
     bool casts_shadows = true;
 };
 
+struct material_file_names;
+
 class SketchUpReader {
 public:
     // model_reading.cpp: the order of one reading.
@@ -202,6 +204,12 @@ private:
     // placements.cpp
     bool writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
                          const transform16& transform);
+
+    // material_numbers.cpp
+    struct material_request;
+    int material_index(const material_request& asked);
+    int add_material(const material_request& asked, const std::string& name, const material_file_names& names,
+                     bool has_file);
 
     // face_meshing.cpp
     void leave_illum_mesh();

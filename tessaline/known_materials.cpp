@@ -38,9 +38,8 @@ std::size_t known_materials::question_hash::operator()(const material_question& 
     const std::size_t flags =
         (question.by_layer ? 1U : 0U) | (question.is_face ? 2U : 0U) | (question.is_scattered ? 4U : 0U);
     std::size_t mixed = std::hash<const void*>{}(question.material.ptr);
-    for (const std::size_t part :
-         {static_cast<std::size_t>(static_cast<std::uint32_t>(question.texture_id)),
-          std::hash<std::optional<std::int32_t>>{}(question.layer_reflection), flags})
+    for (const std::size_t part : {static_cast<std::size_t>(static_cast<std::uint32_t>(question.texture_id)),
+                                   std::hash<std::optional<std::int32_t>>{}(question.layer_reflection), flags})
         mixed = mixed * 31 + part;
     return mixed;
 }

@@ -13,11 +13,11 @@
 // All that the file name of a material depends on within one reading.
 struct material_question {
     SUMaterialRef material;
-    std::int32_t texture_id = -1; // -1: not asked for
+    std::int32_t texture_id = -1;                   // -1: not asked for
     std::optional<std::int32_t> layer_reflection{}; // of the object, per cent; none unless colours go by layer
-    bool by_layer = false;        // colours go by layer
-    bool is_face = true;          // a face asks
-    bool is_scattered = false;    // within scattered components
+    bool by_layer = false;                          // colours go by layer
+    bool is_face = true;                            // a face asks
+    bool is_scattered = false;                      // within scattered components
 
     friend bool operator==(const material_question& a, const material_question& b) {
         return a.material.ptr == b.material.ptr && a.texture_id == b.texture_id &&

@@ -19,8 +19,8 @@ struct unused {}; // the key is known and its value goes nowhere
 struct cut_real { // a real number, of which the integer part counts
     std::int32_t values::*field;
 };
-using destination = std::variant<unused, bool values::*, std::int32_t values::*, double values::*, std::string values::*,
-                                 cut_real>;
+using destination =
+    std::variant<unused, bool values::*, std::int32_t values::*, double values::*, std::string values::*, cut_real>;
 
 struct material_key_row {
     std::string_view key;
