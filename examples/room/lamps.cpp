@@ -149,12 +149,12 @@ void add_wall_lamp(model_builder& m, const room_materials& use) {
 
 // Three warm fields in a row share one block of the stream; the cold one behind them has its own.
 void add_glowing_panel(model_builder& m, const room_materials& use) {
-    add_box(m, m.root(), "Panel frame", {60, room_depth - 1, 50}, {104, room_depth, 80}, use.walnut);
+    add_box(m, m.root(), "Panel frame", {54, room_depth - 1, 50}, {94, room_depth, 80}, use.walnut);
     const double y = room_depth - 1.25;
     list_builder panel = m.root().group("Glowing panel");
     for (int field = 0; field < 4; ++field) {
-        const double x = 62 + field * 10.25;
-        const entity_place face = panel.face({{x, y, 52}, {x + 9.25, y, 52}, {x + 9.25, y, 78}, {x, y, 78}});
+        const double x = 56 + field * 9.25;
+        const entity_place face = panel.face({{x, y, 52}, {x + 8.25, y, 52}, {x + 8.25, y, 78}, {x, y, 78}});
         m.element(face).material = field < 3 ? use.glow_warm : use.glow_cold;
     }
 }

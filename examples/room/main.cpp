@@ -21,6 +21,12 @@ std::unique_ptr<model> furnished_room() {
     view.eye = {78, -118, 64};
     view.target = {92, 150, 44};
     view.field_of_view = 42;
+    shadow_info& sun = m.model().shadow_info;
+    sun.time = 1782054000; // 21 June 2026, three in the afternoon
+    sun.latitude = 48.14;
+    sun.longitude = 11.58;
+    sun.time_zone = 1;
+    sun.daylight_saving = true;
     return m.finish();
 }
 

@@ -32,7 +32,9 @@ files_by_name files_below(const std::string& folder) {
 
 // The golden files of a case, without marks.
 files_by_name golden_files(const std::string& case_name, const std::map<std::string, std::string>& marks) {
-    const std::string folder = std::string(TESSALINE_SOURCE_DIR) + "/tests/batch/" + case_name + "/expected";
+    const bool is_elsewhere = case_name.find('/') != std::string::npos;
+    const std::string folder =
+        std::string(TESSALINE_SOURCE_DIR) + (is_elsewhere ? "/" : "/tests/batch/") + case_name + "/expected";
     EXPECT_TRUE(std::filesystem::exists(folder)) << "no golden files: " << folder;
     files_by_name files;
     for (auto& [name, text] : files_below(folder))

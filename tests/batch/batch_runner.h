@@ -101,7 +101,8 @@ std::string difference_from(const encoded_picture& wanted, std::string_view byte
 
 // Fails the running test unless the batch folder holds, byte for byte, the golden files of `case_name`, the models that
 // were put there, what else is expected, and these folders. In golden files "@BATCH@" stands for the full name of the
-// batch folder. What was found is copied for a look when it fails.
+// batch folder. What was found is copied for a look when it fails. case_name: of a folder beside this file; with "/" in
+// it, from the folder of the project on.
 void expect_batch(const batch& found, const std::string& case_name,
                   const std::set<std::string>& folders = folders_of_every_run());
 
