@@ -49,6 +49,9 @@ public:
     run_outcome run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
     run_outcome run_with(const std::vector<std::string>& arguments) const { return run_with(arguments, full_name); }
 
+    // The command, for the shell, that such a run starts with; its standard streams are those of the shell.
+    std::string command_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
+
     // For the next runs: the text of SOURCE_DATE_EPOCH, empty to take it away; the time zone.
     void set_date(std::string seconds, std::string zone);
 
