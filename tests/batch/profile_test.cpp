@@ -27,11 +27,12 @@ void put_square(batch& b) {
     b.put_model(m);
 }
 
-// Counts how often the files of a folder are opened, by whatever process.
+// Counts how often the files of a folder are opened, by whatever process. Closing is watched too: the system reports
+// equal events in a row as one.
 class opens_in {
 public:
     explicit opens_in(const std::string& folder) : queue(inotify_init1(IN_NONBLOCK)) {
-        EXPECT_GE(inotify_add_watch(queue, folder.c_str(), IN_OPEN), 0) << std::strerror(errno);
+        EXPECT_GE(inotify_add_watch(queue, folder.c_str(), IN_OPEN | IN_CLOSE), 0) << std::strerror(errno);
     }
     opens_in(const opens_in&) = delete;
     opens_in& operator=(const opens_in&) = delete;
@@ -44,7 +45,7 @@ public:
         for (ssize_t size = read_into(events); size > 0; size = read_into(events))
             for (ssize_t at = 0; at < size;) {
                 const auto* const event = reinterpret_cast<const inotify_event*>(events.data() + at);
-                if (event->len > 0)
+                if (event->len > 0 && (event->mask & IN_OPEN) != 0)
                     opened.emplace_back(event->name);
                 at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
             }
