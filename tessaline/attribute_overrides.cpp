@@ -163,9 +163,11 @@ void override_intensity(storing& into, const std::string& value) {
     if (into.override_mode == "%") {
         light.intensity *= number * 0.01;
         light.intensity_lumens *= number * 0.01;
-    } else if (!(light.intensity < 0)) {
         return;
-    } else if (into.override_mode.starts_with('L')) {
+    }
+    if (!(light.intensity < 0))
+        return;
+    if (into.override_mode.starts_with('L')) {
         set_lumens(light, number);
         trace(__LINE__, "OVERRIDE LUMENS: %g", light.intensity_lumens);
     } else {

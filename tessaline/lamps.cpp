@@ -61,16 +61,11 @@ const lamp_kind& kind_of(std::string_view type) {
     return any_other_kind;
 }
 
+// light_type: above 0.
 std::string_view type_of_number(int light_type) {
-    switch (light_type) {
-    case 1:
+    if (light_type == 1)
         return "rect_glow";
-    case 3:
-    case 4:
-        return "spot_glow";
-    default:
-        return "bulb_glow";
-    }
+    return light_type == 3 || light_type == 4 ? "spot_glow" : "bulb_glow";
 }
 
 // ---- what a lamp leaves open
@@ -115,23 +110,13 @@ fpt location_of(const cl_slp_light& light, const transform16& transform) {
 }
 
 fpt direction_of(const cl_slp_light& light, const transform16& transform) {
-    const fpt ahead = unit(vector_image(transform, {0, 0, 1}));
-    switch (light.light_direction) {
-    case 0:
-        return -ahead;
-    case 1:
-        return ahead;
-    case 2:
-        return unit(-vector_image(transform, {1, 0, 0}));
-    case 3:
-        return unit(vector_image(transform, {1, 0, 0}));
-    case 4:
-        return unit(-vector_image(transform, {0, 1, 0}));
-    case 5:
-        return unit(vector_image(transform, {0, 1, 0}));
-    default:
-        return kind_of(light.lamp_type).shines_along_z ? ahead : fpt{0, 0, -1};
-    }
+    constexpr fpt axes[] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}}; // by the codes 0 and 1, 2 and 3, 4 and 5
+    constexpr int codes = 6;
+    const int code = light.light_direction;
+    if (code < 0 || code >= codes)
+        return kind_of(light.lamp_type).shines_along_z ? unit(vector_image(transform, axes[0])) : fpt{0, 0, -1};
+    const fpt along = unit(vector_image(transform, axes[code / 2]));
+    return code % 2 == 0 ? -along : along;
 }
 
 // ---- channels
