@@ -199,6 +199,40 @@ TEST(LampsBatch, while_bulbs_are_not_shown_every_lamp_is_hidden) {
     expect_run(b, "bulbs_not_shown");
 }
 
+// The glow of a beam stays visible where a lamp is hidden, whatever the case of its layer; what is invisible does not.
+TEST(LampsBatch, an_invisible_object_is_invisible_on_the_layer_of_beam_glow_too) {
+    batch b;
+    model_builder m;
+    const sketchup::index glow = m.layer("QLW_Lamp_Beam_Glow");
+    list_builder invisible = m.root().group();
+    m.element(invisible.square(10)).layer = glow;
+    say(m, invisible.placement(), properties, {{"invisible", truth(true)}});
+    list_builder hidden = m.root().group();
+    m.element(hidden.square(10)).layer = glow;
+    say(m, hidden.placement(), lamp, {{"bvl_lamp_hide", truth(true)}});
+    hidden.face({{20, 0, 0}, {30, 0, 0}, {30, 10, 0}, {20, 10, 0}});
+    b.put_model(m);
+    expect_run(b, "invisible_and_hidden");
+}
+
+// The instance speaks first, so what it sets stays; only what always counts is taken from the definition.
+TEST(LampsBatch, the_definition_wins_over_its_instance_where_a_key_always_counts) {
+    batch b;
+    model_builder m;
+    list_builder component = m.component("fitting");
+    component.square(10);
+    say(m, component.list(), lamp,
+        {{"sorndll_lamp_type", text("rect")},
+         {"ivl_lamp_channel", whole_number(7)},
+         {"rorndll_lamp_size", real_number(3)}});
+    say(m, component.list(), overrides, {{"lamp_hide_override_value", whole_number(0)}});
+    const entity_place instance = m.root().instance(component);
+    say(m, instance, lamp, {{"ivl_lamp_channel", whole_number(5)}});
+    say(m, instance, overrides, {{"lamp_hide_override_value", whole_number(1)}});
+    b.put_model(m);
+    expect_run(b, "definition_and_instance");
+}
+
 // The shade makes the block; the glow of the beam follows it as an ordinary mesh, seen though the lamp is hidden; the
 // helper shapes are never shown.
 TEST(LampsBatch, the_beams_of_a_spot_follow_its_block) {
