@@ -359,6 +359,20 @@ TEST(LampsBatch, faces_in_a_row_with_one_glowing_material_share_a_block) {
     expect_run(b, "glowing_faces");
 }
 
+// It shows its two sides, one after the other, without a word of their materials: the block has one for all.
+TEST(LampsBatch, a_face_that_glows_on_its_back_only_belongs_to_the_block) {
+    batch b;
+    model_builder m;
+    const sketchup::index warm = m.material("Warm_glow80", {255, 214, 140, 255});
+    const sketchup::index plain = m.material("Plain", {10, 20, 30, 255});
+    m.element(add_field(m.root(), 0)).material = warm;
+    const entity_place other = add_field(m.root(), 20);
+    m.element(other).material = plain;
+    m.face(other).back_material = warm;
+    b.put_model(m);
+    expect_run(b, "glowing_back");
+}
+
 TEST(LampsBatch, while_bulbs_are_not_shown_what_glows_is_invisible) {
     batch b;
     model_builder m;
