@@ -5,7 +5,6 @@
 #include "image/decode_picture.h"
 #include "image/encode_picture.h"
 #include "tests/image/pictures.h"
-#include "tests/support/temporary_folder.h"
 #include "tests/tessaline/reader_fixture.h"
 
 #include <cstdint>
@@ -73,6 +72,4 @@ protected:
                 names.insert(std::filesystem::relative(entry.path(), batch.name()).generic_string());
         return names;
     }
-
-    temporary_folder batch;
 };

@@ -20,10 +20,10 @@ TEST(GroundPlane, one_chunk_is_the_text) {
 }
 
 TEST(GroundPlane, a_missing_middle_chunk_ends_the_text_and_does_not_stop_the_restoration) {
-    EXPECT_EQ(assembled({{"hex_data", "800001;3;x;"},
-                         {"hex_data_chunk0", std::string(400000, 'a')},
-                         {"hex_data_chunk2", "c"}}),
-              std::string(400000, 'a'));
+    EXPECT_EQ(
+        assembled(
+            {{"hex_data", "800001;3;x;"}, {"hex_data_chunk0", std::string(400000, 'a')}, {"hex_data_chunk2", "c"}}),
+        std::string(400000, 'a'));
 }
 
 TEST(GroundPlane, an_incomplete_header_gives_nothing) {

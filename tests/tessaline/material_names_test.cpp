@@ -32,8 +32,9 @@ std::string file_of(const material_key& key) {
 }
 
 TEST(MaterialNames, an_ordinary_name_comes_back_as_it_is) {
-    for (const char* name : {"Brick", "Brick Wall (2) [old]", "R&D", "a/b\\c:d*e?f\"g<h>i|j", "Stra\xC3\x9F"
-                                                                                            "e"})
+    for (const char* name : {"Brick", "Brick Wall (2) [old]", "R&D", "a/b\\c:d*e?f\"g<h>i|j",
+                             "Stra\xC3\x9F"
+                             "e"})
         EXPECT_EQ(name_of(name), name);
     EXPECT_EQ(name_of(""), "");
 }
@@ -46,7 +47,7 @@ TEST(MaterialNames, an_escaped_name_comes_back_unescaped) {
 
 TEST(MaterialNames, a_name_counts_512_units_of_utf_16) {
     EXPECT_EQ(name_of(std::string(513, 'a')), std::string(512, 'a'));
-    std::string two_bytes; // one unit each
+    std::string two_bytes;  // one unit each
     std::string four_bytes; // two units each
     for (int i = 0; i != 512; ++i)
         two_bytes += "\xC3\xA4";
