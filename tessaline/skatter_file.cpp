@@ -3,9 +3,8 @@
 #include "tessaline/skatter_file.h"
 
 #include "qlw/qlw_text_files.h"
+#include "qlw/text_numbers.h"
 #include "tessaline/paths.h"
-
-#include <cstdlib>
 
 namespace {
 
@@ -27,7 +26,7 @@ skatter_placement placement_from(std::string& line) {
     skatter_placement placement;
     placement.definition_name = cl_input_file::read_field_csv(line);
     for (double& element : placement.transform)
-        element = std::strtod(cl_input_file::read_field_csv(line).c_str(), nullptr);
+        element = double_value(cl_input_file::read_field_csv(line));
     return placement;
 }
 
