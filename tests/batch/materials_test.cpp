@@ -2,7 +2,6 @@
 
 #include "tests/batch/batch_runner.h"
 
-#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -129,29 +128,6 @@ TEST(MaterialsBatch, a_texture_on_one_side_makes_a_second_material_for_the_other
     expect_run(b, "texture_on_the_back");
 }
 
-TEST(MaterialsBatch, a_distorted_texture_makes_a_material_with_a_straightened_picture) {
-    batch b;
-    model_builder m;
-    const index bricks = brick(m);
-    painted_row row(m);
-    row.square(bricks, bricks);
-    const entity_place distorted = row.square(bricks, bricks);
-    side_mapping& mapping = m.mapping(distorted).front;
-    mapping.positioned = true;
-    mapping.matrix = {1, 0, 0.001, 0, 1, 0, 0, 0, 1};
-    b.put_model(m);
-    const run_outcome outcome = b.run();
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.errors, quiet_errors);
-    const std::string stream = b.read("batch_file.txt");
-    EXPECT_THAT(stream, testing::HasSubstr("MATF;TEX%3a0001_Brick.OrnMaterial\r\nMTX2;1\r\nMATI;10\r\n"));
-    EXPECT_THAT(stream, testing::HasSubstr("MATF;TEX%3a0002_Brick.OrnMaterial\r\nMTX2;1\r\nMATI;11\r\n"));
-    EXPECT_TRUE(b.has("Batch_SketchUp_Textures/TX0001_Brick.BMP"));
-    EXPECT_TRUE(b.has("Batch_SketchUp_Textures/TX0002_Brick.BMP"));
-    EXPECT_THAT(b.read("ZynBatch_Materials/TEX%3a0002_Brick.qlobj"),
-                testing::HasSubstr("\r\nImage_Path: " + b / "Batch_SketchUp_Textures/TX0002_Brick.BMP\r\n"));
-}
-
 TEST(MaterialsBatch, colours_of_layers_are_named_by_the_layers_materials_alone) {
     batch b;
     model_builder m;
@@ -180,37 +156,9 @@ TEST(MaterialsBatch, names_of_all_sorts_go_into_files_escaped) {
     expect_run(b, "names_of_materials");
 }
 
-TEST(MaterialsBatch, a_name_that_no_file_can_have_costs_the_files_alone) {
-    batch b;
-    model_builder m;
-    painted_row row(m);
-    const std::string long_name(500, 'x');
-    for (const std::string& name : {long_name, std::string("../../up%255"), std::string("..\\up%255")}) {
-        const index made = brick(m, name);
-        row.square(made, made);
-    }
-    b.put_model(m);
-    const run_outcome outcome = b.run();
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.errors, quiet_errors);
-    const std::string stream = b.read("batch_file.txt");
-    EXPECT_THAT(stream,
-                testing::HasSubstr("\r\nMATF;TEX%3a0001_" + long_name + ".OrnMaterial\r\nMTX2;1\r\nMATI;10\r\n"));
-    EXPECT_THAT(stream, testing::HasSubstr("\r\nMATF;TEX%3a0002_../../up%5.OrnMaterial\r\nMTX2;1\r\nMATI;11\r\n"));
-    EXPECT_THAT(stream, testing::HasSubstr("\r\nMATF;TEX%3a0003_..\\up%5.OrnMaterial\r\nMTX2;1\r\nMATI;12\r\n"));
-    EXPECT_THAT(stream, testing::EndsWith("\r\nEND;\r\n"));
-    EXPECT_EQ(b.folders(), folders_of_every_run());
-    for (const auto& [name, bytes] : b.files())
-        EXPECT_TRUE(name == "geometry.qlm" || name == "batch_file.txt" ||
-                    name.starts_with("Batch_SketchUp_Textures/TX"))
-            << name;
-    std::set<std::string> around;
-    for (const auto& entry : std::filesystem::directory_iterator(b.surrounding().name()))
-        around.insert(entry.path().filename().string());
-    EXPECT_EQ(around, (std::set<std::string>{"batch", "errors", "home", "tmp"}));
-}
-
 // ---- files that travel in attributes
+
+constexpr std::string_view framed_hi = "[ORNZyn Material Settings][00000004]-4869";
 
 TEST(MaterialsBatch, an_edited_material_without_its_last_chunk_ends_the_run_where_it_stands) {
     batch b;
@@ -219,25 +167,18 @@ TEST(MaterialsBatch, an_edited_material_without_its_last_chunk_ends_the_run_wher
     const index red = m.material("Red", {200, 100, 50, 255});
     const index edited = m.material("Edited", {200, 100, 50, 255});
     say(m, edited, "ORNZyn Material Settings", "41;2;x;");
-    say(m, edited, "ORNZyn Material Settings_chunk0", "[ORNZyn Material Settings][00000004]-4869");
+    say(m, edited, "ORNZyn Material Settings_chunk0", framed_hi);
     row.square(red, red);
     row.square(edited, edited);
     b.put_model(m);
     b.put("option_globals.txt", "ivl_2_sided_faces; 1");
+    b.expect_file("option_globals.txt", "ivl_2_sided_faces; 1"); // not written anew
     b.expect_break();
     const run_outcome outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_THAT(outcome.errors, testing::HasSubstr("an edited material lacks a chunk of its file"));
-    EXPECT_EQ(b.read("option_globals.txt"), "ivl_2_sided_faces; 1") << "not written anew";
-    const std::string stream = b.read("batch_file.txt");
-    EXPECT_THAT(stream, testing::EndsWith("FACE;0,1,2\r\nFACE;1,0,3\r\nEMSH;\r\n")) << "the first square is whole";
-    EXPECT_THAT(stream, testing::Not(testing::HasSubstr("END;")));
-    EXPECT_THAT(stream, testing::Not(testing::HasSubstr("MATI;11")));
-    std::set<std::string> materials;
-    for (const auto& [name, bytes] : b.files())
-        if (name.starts_with("ZynBatch_Materials/"))
-            materials.insert(name.substr(name.rfind('_') + 1));
-    EXPECT_EQ(materials, std::set<std::string>{"Red.qlobj"});
+    EXPECT_THAT(outcome.errors,
+                testing::StartsWith("Tessaline - Error: an edited material lacks a chunk of its file\n"));
+    expect_batch(b, "edited_material_lacks_a_chunk");
 }
 
 TEST(MaterialsBatch, a_chunk_numbered_below_0_ends_the_run) {
@@ -251,8 +192,45 @@ TEST(MaterialsBatch, a_chunk_numbered_below_0_ends_the_run) {
     b.expect_break();
     const run_outcome outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_THAT(outcome.errors, testing::HasSubstr("a chunk of an edited material has a number below 0"));
-    EXPECT_THAT(b.read("batch_file.txt"), testing::EndsWith("#;\r\nPASS;0\r\n#;\r\n"));
+    EXPECT_THAT(outcome.errors,
+                testing::StartsWith("Tessaline - Error: a chunk of an edited material has a number below 0\n"));
+    expect_batch(b, "edited_material_has_a_chunk_below_0");
+}
+
+// The picture is exported before the attributes are looked at, and is whole.
+TEST(MaterialsBatch, a_textured_material_that_ends_the_run_leaves_its_picture_whole) {
+    batch b;
+    model_builder m;
+    painted_row row(m);
+    const index bricks = brick(m);
+    say(m, bricks, "ORNZyn Material Settings_chunk-1", "[ORNZyn");
+    row.square(bricks, bricks);
+    b.put_model(m);
+    const std::vector<std::uint8_t> picture = small_bmp();
+    b.expect_file("Batch_SketchUp_Textures/TX0001_Brick.BMP", std::string(picture.begin(), picture.end()));
+    b.expect_break();
+    EXPECT_EQ(b.run().status, 0);
+    expect_batch(b, "edited_material_has_a_chunk_below_0");
+}
+
+TEST(MaterialsBatch, an_edited_material_that_cannot_be_saved_is_reported_and_the_material_goes_on) {
+    batch b;
+    model_builder m;
+    painted_row row(m);
+    const index edited = m.material("Edited", {200, 100, 50, 255});
+    say(m, edited, "ORNZyn Material Settings", "41;1;x;");
+    say(m, edited, "ORNZyn Material Settings_chunk0", framed_hi);
+    row.square(edited, edited);
+    b.put_model(m);
+    const std::string in_the_way = "ZynBatch_Materials/COL%3a0005_Edited.OrnMaterial";
+    b.surrounding().make_folder("batch/" + in_the_way);
+    const run_outcome outcome = b.run();
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.errors,
+                testing::HasSubstr("Tessaline - Error: Cannot save edited Ornmaterial: " + b / in_the_way + "\n"));
+    std::set<std::string> folders = folders_of_every_run();
+    folders.insert(in_the_way);
+    expect_batch(b, "edited_material_cannot_be_saved", folders);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "tests/batch/batch_runner.h"
 #include "tests/image/pictures.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -94,6 +95,46 @@ TEST(TexturesBatch, a_distorted_side_has_a_material_and_a_picture_of_its_own) {
     b.expect_picture(folder + "TX0003_One.PNG",
                      {picture_format::png, straighten_texture(wall, *read, f, face_side::back)});
     expect_run(b, "distorted_texture");
+}
+
+// The back is as straight as the first square, and shares its material.
+TEST(TexturesBatch, a_face_that_is_distorted_on_one_side_shows_two_materials) {
+    batch b;
+    model_builder m;
+    const entity_place straight = add_square(m, 0, "One", png, "wall.png");
+    const entity_place distorted = m.root().face({{0, 0, 10}, {10, 0, 10}, {10, 10, 10}, {0, 10, 10}});
+    m.face(distorted).material = m.face(distorted).back_material = m.face(straight).material;
+    side_mapping& front = m.mapping(distorted).front;
+    front.positioned = true;
+    front.matrix = {1, 0, 0.01, 0, 1, 0.02, 0, 0, 1};
+    b.put_model(m);
+    const std::unique_ptr<model> read = as_read(b);
+    const std::string folder(pictures);
+    b.expect_file(folder + "TX0001_One.PNG", text_of(png));
+    b.expect_picture(
+        folder + "TX0002_One.PNG",
+        {picture_format::png, straighten_texture(wall, *read, read->faces[read->root.faces[1]], face_side::front)});
+    expect_run(b, "one_side_distorted");
+}
+
+// Two of the names are read as escaped once and then count as escaped already; the first is too long.
+TEST(TexturesBatch, a_name_that_no_file_can_have_costs_the_files_alone) {
+    batch b;
+    model_builder m;
+    const std::string long_name(500, 'x');
+    add_square(m, 0, long_name, png, "wall.png");
+    add_square(m, 10, "../../up%255", png, "wall.png");
+    add_square(m, 20, "..\\up%255", png, "wall.png");
+    b.put_model(m);
+    b.put_mark("@LONG@", long_name);
+    for (const std::string& name : {long_name, std::string("../../up%255"), std::string("..\\up%255")})
+        b.expect_picture(std::string(pictures) + "TX" + id_of_material(b, name) + ".jpg",
+                         {picture_format::jpeg, wall, lost_in_jpeg});
+    expect_run(b, "names_that_make_no_file");
+    std::set<std::string> around;
+    for (const auto& entry : std::filesystem::directory_iterator(b.surrounding().name()))
+        around.insert(entry.path().filename().string());
+    EXPECT_EQ(around, (std::set<std::string>{"batch", "errors", "home", "tmp"}));
 }
 
 // The names are read as escaped once and then count as escaped already, so they still hold separators: the stream names
