@@ -12,13 +12,16 @@
 class cl_hex_encode {
 public:
     // name: what must stand in the frame. framed_text: the frame and the digits, two for each byte, high digit first,
-    // either case. Gives the number of bytes in `data`: half the number in the frame, whose digits are read as far as
-    // they are digits. A frame that does not fit is reported and gives 0, with no data. A fault among the digits leaves
-    // the bytes from there on zero.
+    // either case. Gives the number of bytes: half the number in the frame, which is read as far as it is made of
+    // digits. Of an odd number the last digit is paired with the character behind it, which is one byte more. A frame
+    // that does not fit is reported and gives 0. A fault among the digits leaves the bytes from there on zero, and
+    // their number as announced.
     std::int32_t decode_hex_string(std::string_view name, std::string_view framed_text);
 
     std::string hex_name;
-    std::vector<std::uint8_t> data; // as many bytes as data_size says
+    // The bytes for which the text has digits. Those that data_size counts beyond them are zero and not kept here: a
+    // short text may announce 50 MB.
+    std::vector<std::uint8_t> data;
     std::int32_t data_size = 0;
     std::int32_t hex_length = 0; // digits, as the frame says; 0 for a number below
     std::int32_t text_length = 0;

@@ -2,11 +2,10 @@
 
 #include "tessaline/edited_material.h"
 
-#include "platform/platform.h"
-#include "qlw/qlw_text_files.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/text_numbers.h"
 #include "skp_ruby/skp_ruby.h"
+#include "tessaline/decoded_file.h"
 #include "tessaline/paths.h"
 
 #include <stdexcept>
@@ -47,14 +46,10 @@ std::string restore_edited_material(const edited_material& edited, const std::st
     decoder.decode_hex_string(header_key, assembled_hex_text(edited.header, edited.chunks));
 
     const std::string path = joined_inside(folder, file_name);
-    cl_output_file file;
-    if (!path.empty())
-        platform::delete_file(path);
-    if (path.empty() || !file.open_binary(path, quiet_open)) {
+    if (path.empty() || !write_decoded_file(decoder, path)) {
         cl_trace("SketchUpReader", __LINE__, "SketchUpReader::get_material_number", 2, 0)
             .report("Cannot save edited Ornmaterial: %s", joined(folder, file_name));
         return {};
     }
-    file.write_data(decoder.data.data(), decoder.data.size());
     return path;
 }

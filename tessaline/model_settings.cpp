@@ -4,10 +4,10 @@
 #include "tessaline/model_settings.h"
 
 #include "platform/platform.h"
-#include "qlw/qlw_text_files.h"
 #include "qlw/qlw_trace.h"
 #include "skp_ruby/skp_ruby.h"
 #include "tessaline/attributes.h"
+#include "tessaline/decoded_file.h"
 #include "tessaline/dictionary_values.h"
 #include "tessaline/ground_plane.h"
 #include "tessaline/handle_lists.h"
@@ -30,14 +30,9 @@ void apply_settings(SUAttributeDictionaryRef dictionary) {
 void write_ground_plane(const std::string& path, const std::string& framed_text) {
     cl_hex_encode decoder;
     decoder.decode_hex_string("hex_data", framed_text);
-    platform::delete_file(path);
-    cl_output_file file;
-    if (!file.open_binary(path, 1)) {
+    if (!write_decoded_file(decoder, path))
         cl_trace("SketchUpReader", __LINE__, "SketchUpReader::ReadSkpFile", 2, 0)
             .report("Cannot save Gound Plane Ornmaterial: %s", path);
-        return;
-    }
-    file.write_data(decoder.data.data(), decoder.data.size());
 }
 
 } // namespace

@@ -38,7 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::string_view framed : {std::string_view(assembled), text}) {
         cl_hex_encode decoder;
         const std::int32_t count = decoder.decode_hex_string("ORNZyn Material Settings", framed);
-        if (count < 0 || static_cast<std::size_t>(count) != decoder.data.size() || count > 49999999)
+        const bool fills_more = decoder.data.size() > framed.size() || decoder.data.size() > std::size_t{50000000};
+        if (count < 0 || count > 50000000 || static_cast<std::size_t>(count) < decoder.data.size() || fills_more)
             std::abort();
     }
     return 0;

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <sys/stat.h>
 
 namespace {
 
@@ -108,6 +109,16 @@ TEST_F(EditedMaterial, a_missing_middle_chunk_is_zeros_to_the_decoder) {
 TEST_F(EditedMaterial, a_far_chunk_costs_no_room) {
     EXPECT_NE(restore(carried("2147483647;2147483647;x;", {{0, framed_hi}, {2147483646, "66"}})), "");
     EXPECT_EQ(folder.read("Brick.OrnMaterial"), "Hi");
+}
+
+// A disk that knows no gaps would hold 97,656 blocks of 512 bytes.
+TEST_F(EditedMaterial, a_frame_that_announces_50_megabytes_and_holds_none_makes_a_file_of_zeros_that_takes_no_room) {
+    restore(carried("99999999;1;x;", {{0, "[ORNZyn Material Settings][99999999]-4869"}}));
+    const std::string written = folder.read("Brick.OrnMaterial");
+    EXPECT_TRUE(written == "Hi" + std::string(49999997, '\0')) << written.size();
+    struct stat of_file {};
+    ASSERT_EQ(stat((folder / "Brick.OrnMaterial").c_str(), &of_file), 0);
+    EXPECT_LT(of_file.st_blocks, 1000);
 }
 
 TEST_F(EditedMaterial, no_chunks_at_all_leave_an_empty_file) {
