@@ -54,12 +54,6 @@ image_material described(SUImageRef image) {
     return made;
 }
 
-int record_with_picture(const std::string& path) {
-    const auto found = std::find_if(material_records.begin(), material_records.end(),
-                                    [&path](const cl_tsl_material& material) { return material.image_path == path; });
-    return found == material_records.end() ? -1 : static_cast<int>(found - material_records.begin());
-}
-
 // ---- the picture from the image's own pixels
 
 struct raw_pixels {
@@ -205,7 +199,7 @@ int SketchUpReader::get_image_material_number(SUImageRef image) {
         (made.test_word != ".PNG" || bits_per_pixel == bits_without_alpha) && is_file(made.folder_copy);
     if (takes_copy)
         made.texture_path = made.folder_copy;
-    const int known = record_with_picture(made.texture_path);
+    const int known = materials.record_with_picture(made.texture_path, material_records);
     if (known >= 0)
         return known + first_material_number;
     if (!takes_copy && !export_picture(made, image, data_size, bits_per_pixel))

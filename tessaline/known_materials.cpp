@@ -28,10 +28,19 @@ bool known_materials::is_named(SUMaterialRef material) {
     return answer;
 }
 
+int known_materials::record_with_picture(const std::string& path, const std::vector<cl_tsl_material>& records) {
+    for (; pictures_of < records.size(); ++pictures_of)
+        pictures.try_emplace(records[pictures_of].image_path, static_cast<int>(pictures_of));
+    const auto found = pictures.find(path);
+    return found == pictures.end() ? -1 : found->second;
+}
+
 void known_materials::forget() {
     answers.clear();
     named.clear();
     records_then = 0;
+    pictures.clear();
+    pictures_of = 0;
 }
 
 std::size_t known_materials::question_hash::operator()(const material_question& question) const {

@@ -4,11 +4,14 @@
 // and neither builds a name nor asks for a file.
 
 #include "sketchup/SketchUpAPI.h"
+#include "tessaline/material_record.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 // All that the file name of a material depends on within one reading.
 struct material_question {
@@ -43,6 +46,10 @@ public:
     // Whether the material has a name that is not empty; no for an invalid handle.
     bool is_named(SUMaterialRef material);
 
+    // The index of the first record with that picture; -1 if there is none. records: those of the run, which only grow
+    // between two calls of forget().
+    int record_with_picture(const std::string& path, const std::vector<cl_tsl_material>& records);
+
     // As if nothing had been asked; needed when another model is opened.
     void forget();
 
@@ -52,6 +59,8 @@ private:
     };
 
     std::unordered_map<material_question, material_answer, question_hash> answers;
-    std::unordered_map<const void*, bool> named; // by the material's handle
-    std::size_t records_then = 0;                // how many records there were when the answers were found
+    std::unordered_map<const void*, bool> named;   // by the material's handle
+    std::size_t records_then = 0;                  // how many records there were when the answers were found
+    std::unordered_map<std::string, int> pictures; // full name to index of the first record with it
+    std::size_t pictures_of = 0;                   // how many records the pictures are of
 };

@@ -48,6 +48,31 @@ TEST(KnownMaterials, a_new_record_makes_all_answers_void) {
     EXPECT_EQ(known.find(question_about(some_material), 1), nullptr) << "and they do not come back";
 }
 
+cl_tsl_material with_picture(const std::string& path) {
+    cl_tsl_material record;
+    record.image_path = path;
+    return record;
+}
+
+TEST(KnownMaterials, a_picture_leads_to_the_first_record_that_has_it) {
+    known_materials known;
+    std::vector<cl_tsl_material> records = {with_picture(""), with_picture("/a.png"), with_picture("/a.png")};
+    EXPECT_EQ(known.record_with_picture("/a.png", records), 1);
+    EXPECT_EQ(known.record_with_picture("/b.png", records), -1);
+    records.push_back(with_picture("/b.png"));
+    records.push_back(with_picture("/a.png"));
+    EXPECT_EQ(known.record_with_picture("/b.png", records), 3);
+    EXPECT_EQ(known.record_with_picture("/a.png", records), 1);
+}
+
+TEST(KnownMaterials, pictures_of_another_reading_are_forgotten) {
+    known_materials known;
+    known.record_with_picture("", {with_picture("/a.png"), with_picture("/b.png")});
+    known.forget();
+    EXPECT_EQ(known.record_with_picture("/a.png", {}), -1);
+    EXPECT_EQ(known.record_with_picture("/b.png", {with_picture("/b.png")}), 0);
+}
+
 using KnownNames = reader_test;
 
 TEST_F(KnownNames, a_material_is_named_unless_its_name_is_empty) {
