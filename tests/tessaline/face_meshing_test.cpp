@@ -1,4 +1,4 @@
-#include "tests/tessaline/reader_fixture.h"
+#include "tests/tessaline/painted_model.h"
 
 #include <gtest/gtest.h>
 
@@ -390,4 +390,24 @@ TEST_F(FaceMeshing, colour_by_layer_takes_the_paint_off_the_face) {
     SUMaterialRef front = SU_INVALID;
     SUFaceGetFrontMaterial(faces().front(), &front);
     EXPECT_TRUE(SUIsInvalid(front));
+}
+
+using PaintedFaceMeshing = painted_model_test;
+
+// The face has lost its own paint, so that its coordinates are inches, and the layer's tile is 10 by 20 inches.
+TEST_F(PaintedFaceMeshing, colour_by_layer_stretches_the_coordinates_by_the_picture_of_the_layer) {
+    theApp.color_by_layer = true;
+    set_global_int("ivl_2_sided_faces", 2);
+    square(plain(12, "Red"));
+    builder.model().layers[0].material = textured(13, "Brick");
+    open_painted();
+    process_faces();
+    const std::string vertices =
+        lines({"MATL;10", "MPUV;1", "NORM;(0,0,1)", "UVQ;(10,0,1)", "VERT;(2.54,0,0)", "ADDV;0", "NORM;(0,0,1)",
+               "UVQ;(0,5,1)", "VERT;(0,2.54,0)", "ADDV;1", "NORM;(0,0,1)", "UVQ;(0,0,1)", "VERT;(0,0,0)", "ADDV;2",
+               "NORM;(0,0,1)", "UVQ;(10,5,1)", "VERT;(2.54,2.54,0)", "ADDV;3"});
+    const std::string head = lines({"#; ProcessFace MESH", "MESH;", "TLAY;Layer0", "CULL;1"});
+    EXPECT_EQ(stream_text(), lines({"MATF;Brick.OrnMaterial", "MTX2;1", "MATI;10"}) + head + vertices +
+                                 lines({"FACE;0,1,2", "FACE;1,0,3", "EMSH;", "EMSH; Face"}) + head + vertices +
+                                 lines({"FACE;2,1,0", "FACE;3,0,1", "EMSH;"}));
 }

@@ -398,6 +398,26 @@ TEST_F(MaterialAttributeList, is_replaced_each_time_by_a_material_whose_file_cou
     EXPECT_EQ(material_records.size(), 1U);
 }
 
+// A file that went away unnoticed would make the next call read the attributes again, and a folder that went away would
+// be made again.
+TEST_F(MaterialAttributeList, is_left_alone_by_a_known_material_whose_file_went_away_since_no_disk_is_asked) {
+    const auto red = plain(12, "Red");
+    const auto brick = textured(13, "Brick");
+    say_something(red);
+    say_something(brick);
+    square(red);
+    square(brick);
+    open_painted();
+    for (int round = 0; round != 2; ++round) // the first makes them, the second finds them
+        for (const SUFaceRef face : faces())
+            number_of(face);
+    std::filesystem::remove_all(batch / "ZynBatch_Materials");
+    std::filesystem::remove_all(batch / "Batch_SketchUp_Textures");
+    for (const SUFaceRef face : faces())
+        EXPECT_FALSE(replaces_list(face));
+    EXPECT_TRUE(std::filesystem::is_empty(batch.name()));
+}
+
 // ---- what a name can do
 
 TEST_F(MaterialNumbers, a_name_too_long_for_a_file_leaves_the_stream_s_lines_and_no_file) {
