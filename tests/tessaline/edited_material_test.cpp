@@ -45,6 +45,14 @@ TEST_F(EditedMaterial, is_written_as_it_came) {
     EXPECT_EQ(folder.read("Brick.OrnMaterial"), "Hi");
 }
 
+TEST_F(EditedMaterial, takes_the_place_of_a_link_and_leaves_alone_what_that_leads_to) {
+    const std::string precious = folder.write("precious", "not ours");
+    std::filesystem::create_symlink(precious, folder / "Brick.OrnMaterial");
+    EXPECT_NE(restore(carried("41;1;x;", {{0, framed_hi}})), "");
+    EXPECT_EQ(folder.read("Brick.OrnMaterial"), "Hi");
+    EXPECT_EQ(folder.read("precious"), "not ours");
+}
+
 TEST_F(EditedMaterial, of_several_chunks_is_put_together) {
     std::string digits;
     for (int i = 0; i != 200000; ++i)

@@ -411,3 +411,14 @@ TEST_F(PaintedFaceMeshing, colour_by_layer_stretches_the_coordinates_by_the_pict
                                  lines({"FACE;0,1,2", "FACE;1,0,3", "EMSH;", "EMSH; Face"}) + head + vertices +
                                  lines({"FACE;2,1,0", "FACE;3,0,1", "EMSH;"}));
 }
+
+// Without a texture writer nothing straightens the picture, and the helper gives q = 1 - x / 1000.
+TEST_F(PaintedFaceMeshing, the_third_coordinate_is_1_and_is_not_divided_into_the_others) {
+    const auto brick = textured(12, "Brick");
+    distort_front(square(brick, brick));
+    open();
+    process_faces();
+    const std::string text = stream_text();
+    EXPECT_NE(text.find("UVQ;(10,0,1)\r\nVERT;(2.54,0,0)"), std::string::npos) << text;
+    EXPECT_NE(text.find("UVQ;(10,5,1)\r\nVERT;(2.54,2.54,0)"), std::string::npos) << text;
+}

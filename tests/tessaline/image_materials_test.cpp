@@ -274,13 +274,14 @@ TEST_F(ImageMaterials, a_name_that_the_system_refuses_is_written_filtered) {
 }
 
 TEST_F(ImageMaterials, a_filtered_picture_that_lies_there_is_taken_as_it_is) {
-    batch.write("batch/Textures/TX_Tree_88.psd", "put there");
-    EXPECT_EQ(number_of(alpha_png, "Tr\xC3\xA9"
-                                   "ee.psd"),
-              10);
-    EXPECT_EQ(picture_of(0), picture("TX_Tree_88.psd"));
-    EXPECT_EQ(text_of_file(picture("TX_Tree_88.psd")), "put there");
-    EXPECT_EQ(material_records[0].name, "TX_Tree_88.psd");
+    batch.write("batch/Textures/TX_Tree_88.png", "put there");
+    std::string letters;
+    for (int i = 0; i < 150; ++i)
+        letters += "\xC3\xA9";
+    EXPECT_EQ(number_of(alpha_png, letters + "Tree.png"), 10);
+    EXPECT_EQ(picture_of(0), picture("TX_Tree_88.png"));
+    EXPECT_EQ(text_of_file(picture("TX_Tree_88.png")), "put there");
+    EXPECT_EQ(material_records[0].name, "TX_Tree_88.png");
 }
 
 TEST_F(ImageMaterials, a_name_of_which_nothing_helps_leaves_the_last_path) {

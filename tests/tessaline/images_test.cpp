@@ -182,6 +182,27 @@ TEST_F(Images, the_offset_may_go_below_the_plane) {
     EXPECT_EQ(corners().at(0), "VERT;(0,0,-0.0254)");
 }
 
+// The list stands upright: the second axis runs along z, the third, which is the picture's normal, against y.
+TEST_F(Images, the_offset_goes_along_the_normal_of_the_picture_in_the_world) {
+    set_global_double("rvl_image_offset", 0.5);
+    place(10, 5);
+    process({1, 0, 0, 0, 0, 0, 1, 0, 0, -1, 0, 0, 0, 0, 0, 1});
+    EXPECT_EQ(block(), lines({"#;",           "#;NEW MESH for Image",
+                              "MESH",         "TLAY;Layer0",
+                              "CULL;0",       "MPUV;1",
+                              "MATL;10",      "MPU2;1",
+                              "MAT2;10",      "NORM;(0,-1,0)",
+                              "UVQ;(0,0,0)",  "VERT;(0,-0.0127,0)",
+                              "ADDV;0",       "NORM;(0,-1,0)",
+                              "UVQ;(1,0,0)",  "VERT;(0.254,-0.0127,0)",
+                              "ADDV;1",       "NORM;(0,-1,0)",
+                              "UVQ;(1,1,0)",  "VERT;(0.254,-0.0127,0.127)",
+                              "ADDV;2",       "NORM;(0,-1,0)",
+                              "UVQ;(0,1,0)",  "VERT;(0,-0.0127,0.127)",
+                              "ADDV;3",       "FACE;0, 1, 2",
+                              "FACE;2, 3, 0", "EMSH;"}));
+}
+
 // Moved by (100, 0, 0) in the list, which is itself turned by 90 degrees about z and moved by (0, 0, 10): the first
 // axis runs along y, the second against x.
 TEST_F(Images, the_placement_is_taken_within_that_of_the_list) {
