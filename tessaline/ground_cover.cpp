@@ -3,20 +3,14 @@
 #include "tessaline/ground_cover.h"
 
 #include "platform/platform.h"
+#include "tessaline/paths.h"
 
 #include <array>
 
 namespace {
 
-constexpr std::string_view plant_folder = "Plants";
-
 bool is_file(const std::string& name) {
     return platform::file_size(name).has_value();
-}
-
-std::string_view bare_name(std::string_view path) {
-    const auto separator = path.find_last_of("/\\");
-    return separator == std::string_view::npos ? path : path.substr(separator + 1);
 }
 
 void copy_file(const std::string& from, const std::string& to) {
@@ -35,10 +29,9 @@ std::string placed_ground_cover(std::string_view path, const std::string& batch_
     std::string original(path);
     if (!is_file(original))
         return original;
-    std::string placed = batch_folder;
-    placed.append(1, platform::path_separator).append(plant_folder);
-    platform::make_folder(placed); // no fault if it exists
-    placed.append(1, platform::path_separator).append(bare_name(path));
+    const std::string folder = joined(batch_folder, plant_folder_name);
+    platform::make_folder(folder); // no fault if it exists
+    std::string placed = joined(folder, bare_name_of(path));
     if (!is_file(placed))
         copy_file(original, placed);
     return placed;

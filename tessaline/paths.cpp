@@ -16,6 +16,11 @@ std::string file_name_of(std::string_view path) {
     return std::string(at == std::string_view::npos ? path : path.substr(at + 1));
 }
 
+std::string_view bare_name_of(std::string_view path) {
+    const std::size_t at = path.find_last_of("/\\");
+    return at == std::string_view::npos ? path : path.substr(at + 1);
+}
+
 std::string without_extension(std::string_view path) {
     const std::size_t dot = path.rfind('.');
     const std::size_t separator = path.rfind(platform::path_separator);

@@ -167,7 +167,7 @@ bool SketchUpReader::writes_stand_in(SUComponentInstanceRef instance, SUEntityRe
     }
     if (!is_plant || plant.render_as_2d_image || shows_plants_as_images())
         return false;
-    Write_Zyn_plant(instance, plant, transform, {});
+    Write_Zyn_plant(instance, plant, transform, {}, {});
     return true;
 }
 

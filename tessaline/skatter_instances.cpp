@@ -86,7 +86,7 @@ void SketchUpReader::process_skatter_instances() {
             return;
         plant_description plant;
         if (is_written_as_plant(definition, plant)) {
-            Write_Zyn_plant(SU_INVALID, plant, placement.transform, "Skatter");
+            Write_Zyn_plant(SU_INVALID, plant, placement.transform, "Skatter", "Skatter");
             return;
         }
         SUEntitiesRef entities = SU_INVALID;
