@@ -6,10 +6,11 @@
 #include "tessaline/paths.h"
 
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
-// Runs over the lines that are no comments.
+// Runs over the lines that are no comments; each is the user's to take.
 void for_each_line(const std::string& path, const std::function<void(std::string&)>& use) {
     cl_input_file file;
     if (!file.open(path, 1, "skatter_file", __LINE__))
@@ -20,7 +21,13 @@ void for_each_line(const std::string& path, const std::function<void(std::string
             use(line);
 }
 
-skatter_placement placement_from(std::string& line) {
+} // namespace
+
+std::string skatter_file_path(const std::string& batch_folder) {
+    return joined(batch_folder, "skatter_insts.txt");
+}
+
+skatter_placement skatter_placement_from(std::string line) {
     constexpr int unused_fields = 3;
     for (int field = 0; field < unused_fields; ++field)
         cl_input_file::read_field_csv(line);
@@ -31,14 +38,8 @@ skatter_placement placement_from(std::string& line) {
     return placement;
 }
 
-} // namespace
-
-std::string skatter_file_path(const std::string& batch_folder) {
-    return joined(batch_folder, "skatter_insts.txt");
-}
-
 void for_each_skatter_placement(const std::string& path, const std::function<void(const skatter_placement&)>& use) {
-    for_each_line(path, [&use](std::string& line) { use(placement_from(line)); });
+    for_each_line(path, [&use](std::string& line) { use(skatter_placement_from(std::move(line))); });
 }
 
 int skatter_line_count(const std::string& path) {

@@ -76,10 +76,10 @@ void SketchUpReader::process_skatter_instances() {
     const std::string file = skatter_file_path(theApp.batch_folder);
     if (!platform::exists(file))
         return;
+    in_skatter_instances = true;
     const std::vector<named_definition> definitions = definitions_of_model();
     if (definitions.empty())
-        return;
-    in_skatter_instances = true;
+        return; // the file is not read, and the flag stays: materials go by their other names
     for_each_skatter_placement(file, [&](const skatter_placement& placement) {
         const SUComponentDefinitionRef definition = find_definition(definitions, placement.definition_name);
         if (SUIsInvalid(definition))

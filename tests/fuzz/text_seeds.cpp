@@ -19,6 +19,15 @@ constexpr seed seeds[] = {
     {"fuzz_ini", "plain_line_ends", "\xEF\xBB\xBF[a]\nkey=1\nKEY=2\n[b]\n[A]\nkey='3'\nno end"},
     {"fuzz_ini", "rubbish", "=x\n[open\n]\r\r\n[]\n=\n;[a]\n[a] ; behind\nkey=[\"]=;"},
     {"fuzz_ini", "two_bytes_a_letter", "\xFF\xFE[a]\nkey=1\n"},
+    {"fuzz_base64", "empty", ""},
+    {"fuzz_base64", "whole_groups", "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/"},
+    {"fuzz_base64", "padded", "T2FrIQ=="},
+    {"fuzz_base64", "left_over", "T2FrIQT"},
+    {"fuzz_base64", "broken_lines", "T2Fr\r\nIQ==\r\n"},
+    {"fuzz_skatter_line", "empty", ""},
+    {"fuzz_skatter_line", "plain", "a;b;c;oak;1;0;0;0;0;1;0;0;0;0;1;0;100;0;0;1"},
+    {"fuzz_skatter_line", "quoted", "a;b;c;\"oak; \"\"old\"\" \"r\"n\"x\";1e5;-2;.5"},
+    {"fuzz_skatter_line", "short", "a;\"b"},
 };
 
 bool write(const std::filesystem::path& file, std::string_view bytes) {
