@@ -88,8 +88,8 @@ void batch::put(const std::string& inside, std::string_view bytes) {
     outside.write(name + "/" + inside, bytes);
 }
 
-void batch::put_model(sketchup::model_builder& m, const std::string& inside) {
-    const std::vector<std::uint8_t> bytes = skp::write_classic(*m.finish(), skp::classic_version::v17);
+void batch::put_model(sketchup::model_builder& m, const std::string& inside, skp::classic_version version) {
+    const std::vector<std::uint8_t> bytes = skp::write_classic(*m.finish(), version);
     written_models[inside] = std::string(bytes.begin(), bytes.end());
     put(inside, written_models[inside]);
 }

@@ -3,6 +3,7 @@
 // Runs the built program in a fresh batch folder and compares all that it leaves with golden files.
 
 #include "sketchup/model/model_builder.h"
+#include "sketchup/skp/writer/classic_version_map.h"
 #include "tests/support/temporary_folder.h"
 
 #include <map>
@@ -41,7 +42,8 @@ public:
     // Makes a file of the batch folder.
     void put(const std::string& inside, std::string_view bytes);
     // Writes the model as "geometry.qlm", or under another name; takes all from the builder.
-    void put_model(sketchup::model_builder& m, const std::string& inside = "geometry.qlm");
+    void put_model(sketchup::model_builder& m, const std::string& inside = "geometry.qlm",
+                   skp::classic_version version = skp::classic_version::v17);
 
     // Runs the program on "geometry.qlm", with these arguments behind its full name.
     run_outcome run(const std::vector<std::string>& more_arguments = {}) const;
