@@ -1,6 +1,6 @@
 // Draws a geometry stream as the camera of its model sees it:
 //     draw_stream MODEL STREAM PICTURE.png
-// Faces are shaded by their vertex normals; front sides are light, back sides bluish.
+// Faces are shaded by their vertex normals; front sides are light, back sides bluish. Edge lines are dark.
 
 #include "platform/platform.h"
 #include "sketchup/api/inspect.h"
@@ -49,6 +49,11 @@ public:
             corners[i] = found.corners[i]->position;
             for (std::size_t k = 0; k < 3; ++k)
                 normal[k] += found.corners[i]->normal[k] / 3;
+        }
+        constexpr int edge_material = 1;
+        if (found.material == edge_material) {
+            picture.draw(corners, {0.1, 0.1, 0.12});
+            return;
         }
         const double towards = normal[0] * (eye[0] - corners[0][0]) + normal[1] * (eye[1] - corners[0][1]) +
                                normal[2] * (eye[2] - corners[0][2]);
