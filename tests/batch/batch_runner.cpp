@@ -18,15 +18,6 @@ std::string bytes_of(const std::filesystem::path& file) {
     return bytes.str();
 }
 
-files_by_name files_below(const std::string& folder) {
-    files_by_name files;
-    if (std::filesystem::exists(folder))
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-            if (!entry.is_directory())
-                files[std::filesystem::relative(entry.path(), folder).generic_string()] = bytes_of(entry.path());
-    return files;
-}
-
 // The golden files of a case, with the folder's name in them.
 files_by_name golden_files(const std::string& case_name, const std::string& batch_folder) {
     const std::string folder = std::string(TESSALINE_SOURCE_DIR) + "/tests/batch/" + case_name + "/expected";
@@ -73,6 +64,15 @@ std::string copy_of(const batch& found, const std::string& case_name) {
 }
 
 } // namespace
+
+files_by_name files_below(const std::string& folder) {
+    files_by_name files;
+    if (std::filesystem::exists(folder))
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+            if (!entry.is_directory())
+                files[std::filesystem::relative(entry.path(), folder).generic_string()] = bytes_of(entry.path());
+    return files;
+}
 
 std::set<std::string> folders_of_every_run() {
     return {"Batch_OrnTexture_Files", "Batch_SketchUp_Textures", "Plants",
