@@ -64,7 +64,8 @@ std::string default_file_name(std::string_view file) {
 
 std::string get_string_from_ini_file(std::string_view section, std::string_view key, std::string_view default_value,
                                      std::string_view file_base) {
-    return find_traced(section, key, file_base, default_value).value_or(std::string(default_value));
+    const std::string_view fallback = default_value.substr(0, longest_value);
+    return find_traced(section, key, file_base, fallback).value_or(std::string(fallback));
 }
 
 std::optional<std::string> find_in_ini_file(std::string_view section, std::string_view key,

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-// What stands under a section and a key of the profile's file "<file_base>.ini", at most 4,095 bytes; `default_value`
-// if there is nothing. file_base: empty means the program's own file. The case of names does not count. The company's
+// What stands under a section and a key of the profile's file "<file_base>.ini", else `default_value`, in either case
+// at most 4,095 bytes. file_base: empty means the program's own file. The case of names does not count. The company's
 // folder is made if it is missing; a place where that fails holds nothing. The answer is traced.
 std::string get_string_from_ini_file(std::string_view section, std::string_view key, std::string_view default_value,
                                      std::string_view file_base);

@@ -3,17 +3,9 @@
 #include "qlw/qlw_std.h"
 #include "qlw/qlw_text_files.h"
 #include "qlw/qlw_trace.h"
+#include "qlw/trimmed.h"
 
 namespace {
-
-constexpr std::string_view white_space = " \t\n\v\f\r";
-
-std::string trimmed(const std::string& text) {
-    const std::size_t start = text.find_first_not_of(white_space);
-    if (start == std::string::npos)
-        return {};
-    return text.substr(start, text.find_last_not_of(white_space) - start + 1);
-}
 
 // What stands for a quote and the letter behind it.
 char escaped_letter(char letter, const std::string& line) {
@@ -75,5 +67,5 @@ std::string cl_input_file::read_field_csv(std::string& line) {
         escape = false;
     }
     line = i + 1 < line.size() ? line.substr(i + 1) : std::string();
-    return trimmed(field);
+    return std::string(trimmed(field));
 }

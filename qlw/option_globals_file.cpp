@@ -6,21 +6,14 @@
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/text_numbers.h"
+#include "qlw/trimmed.h"
 
 #include <cstddef>
 #include <string_view>
 
 namespace {
 
-constexpr std::string_view white_space = " \t\r\n\v\f";
 constexpr double same_point = 1e-7; // points nearer than this are one
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t from = text.find_first_not_of(white_space);
-    if (from == std::string_view::npos)
-        return {};
-    return text.substr(from, text.find_last_not_of(white_space) - from + 1);
-}
 
 std::string unescaped(std::string_view text) {
     std::string plain;

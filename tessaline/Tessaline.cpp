@@ -7,6 +7,7 @@
 #include "qlw/qlw_std.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/trace_state.h"
+#include "qlw/trimmed.h"
 #include "tessaline/asked_paths.h"
 #include "tessaline/command_line.h"
 #include "tessaline/paths.h"

@@ -2,22 +2,15 @@
 
 #include "tessaline/command_line.h"
 
+#include "qlw/trimmed.h"
+
 #include <cstddef>
 #include <optional>
 
 namespace {
 
-constexpr std::string_view white_space = " \t\r\n\v\f";
 constexpr std::string_view model_name = "geometry.qlm";
 constexpr std::string_view stream_name = "batch_file.txt";
-
-void trim_left(std::string& text) {
-    text.erase(0, text.find_first_not_of(white_space));
-}
-
-void trim_right(std::string& text) {
-    text.erase(text.find_last_not_of(white_space) + 1);
-}
 
 // Removes the first occurrence of a switch with as many characters as stated. A line never begins with a switch, as the
 // program's own path comes first; one that does keeps it.
@@ -49,9 +42,8 @@ std::string cut_progress_argument(std::string& text) {
     const std::size_t at = text.find(name);
     if (at == std::string::npos || at == 0)
         return {};
-    std::string argument = trimmed(std::string_view(text).substr(at + name.size()));
+    std::string argument(trimmed(std::string_view(text).substr(at + name.size())));
     text.erase(at);
-    trim_right(text);
     return argument;
 }
 
@@ -89,31 +81,24 @@ void replace_all(std::string& text, std::string_view from, std::string_view to) 
 
 } // namespace
 
-std::string trimmed(std::string_view text) {
-    const std::size_t from = text.find_first_not_of(white_space);
-    if (from == std::string_view::npos)
-        return {};
-    return std::string(text.substr(from, text.find_last_not_of(white_space) - from + 1));
-}
-
 command_line parse_command_line(std::string_view text) {
     command_line line;
-    std::string left = trimmed(text);
+    std::string left(trimmed(text));
     remove_switches(left, line);
     line.progress_argument = cut_progress_argument(left);
 
-    left = trimmed(left);
+    left = std::string(trimmed(left));
     cut_field(left); // the program's own path
-    trim_left(left);
+    left = std::string(trimmed(left));
     line.input_path = cut_field(left).value_or(std::string());
-    trim_left(left);
+    left = std::string(trimmed(left));
     line.output_path = cut_last_field(left);
     line.rest = left;
     return line;
 }
 
 bool has_arguments(std::string_view text) {
-    std::string left = trimmed(text);
+    std::string left(trimmed(text));
     return cut_field(left) && !trimmed(left).empty();
 }
 

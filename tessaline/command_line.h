@@ -28,6 +28,3 @@ bool has_arguments(std::string_view text);
 // One unquoted argument leaves no input path and stays in `rest`. If that ends in ".qlm", it becomes the input path,
 // and the output path becomes the same with every "geometry.qlm" replaced by "batch_file.txt". Whether it did.
 bool take_model_word(command_line& line);
-
-// The text without white space at its ends.
-std::string trimmed(std::string_view text);

@@ -3,14 +3,12 @@
 #include "tessaline/skatter_file.h"
 
 #include "qlw/qlw_text_files.h"
+#include "qlw/text_numbers.h"
 #include "tessaline/paths.h"
-
-#include <cstdlib>
-#include <utility>
 
 namespace {
 
-// Runs over the lines that are no comments; each is the user's to take.
+// Runs over the lines that are no comments.
 void for_each_line(const std::string& path, const std::function<void(std::string&)>& use) {
     cl_input_file file;
     if (!file.open(path, 1, "skatter_file", __LINE__))
@@ -21,25 +19,25 @@ void for_each_line(const std::string& path, const std::function<void(std::string
             use(line);
 }
 
-} // namespace
-
-std::string skatter_file_path(const std::string& batch_folder) {
-    return joined(batch_folder, "skatter_insts.txt");
-}
-
-skatter_placement skatter_placement_from(std::string line) {
+skatter_placement placement_from(std::string& line) {
     constexpr int unused_fields = 3;
     for (int field = 0; field < unused_fields; ++field)
         cl_input_file::read_field_csv(line);
     skatter_placement placement;
     placement.definition_name = cl_input_file::read_field_csv(line);
     for (double& element : placement.transform)
-        element = std::strtod(cl_input_file::read_field_csv(line).c_str(), nullptr);
+        element = double_value(cl_input_file::read_field_csv(line));
     return placement;
 }
 
+} // namespace
+
+std::string skatter_file_path(const std::string& batch_folder) {
+    return joined(batch_folder, "skatter_insts.txt");
+}
+
 void for_each_skatter_placement(const std::string& path, const std::function<void(const skatter_placement&)>& use) {
-    for_each_line(path, [&use](std::string& line) { use(skatter_placement_from(std::move(line))); });
+    for_each_line(path, [&use](std::string& line) { use(placement_from(line)); });
 }
 
 int skatter_line_count(const std::string& path) {

@@ -16,11 +16,8 @@ struct skatter_placement {
 // Where the file lies, if there is one: "skatter_insts.txt" in the batch folder.
 std::string skatter_file_path(const std::string& batch_folder);
 
-// What one line says. A field that is missing is empty, and a number that cannot be read is 0.
-skatter_placement skatter_placement_from(std::string line);
-
-// Calls `use` for each placement, in the order of the file; lines that begin with "#" are comments. A file that
-// cannot be opened has no placements.
+// Calls `use` for each placement, in the order of the file; lines that begin with "#" are comments. A number that
+// cannot be read is 0. A file that cannot be opened has no placements.
 void for_each_skatter_placement(const std::string& path, const std::function<void(const skatter_placement&)>& use);
 
 // The number of lines that are no comments.

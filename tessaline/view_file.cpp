@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "qlw/qlw_text_files.h"
 #include "qlw/text_numbers.h"
+#include "qlw/trimmed.h"
 #include "tessaline/paths.h"
 
 #include <algorithm>
@@ -13,15 +14,7 @@
 
 namespace {
 
-constexpr std::string_view white_space = " \t\r\n\v\f";
 constexpr std::string_view end_of_view = "END_CURRENT";
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t from = text.find_first_not_of(white_space);
-    if (from == std::string_view::npos)
-        return {};
-    return text.substr(from, text.find_last_not_of(white_space) - from + 1);
-}
 
 // Letters beyond ASCII stay: no key has any.
 std::string upper_case(std::string_view text) {

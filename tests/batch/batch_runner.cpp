@@ -1,6 +1,5 @@
 #include "tests/batch/batch_runner.h"
 
-#include "sketchup/skp/writer/classic_writer.h"
 #include "tests/batch/stream_grammar.h"
 #include "tests/run_program.h"
 
@@ -105,14 +104,19 @@ run_outcome batch::run(const std::vector<std::string>& more_arguments) const {
     return run_with(arguments);
 }
 
-run_outcome batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
+std::string batch::command_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
     std::string command = "cd " + shell_quoted(current_folder) + " && env -u TESSALINE_TRACE -u XDG_CONFIG_HOME";
     command += date.empty() ? " -u SOURCE_DATE_EPOCH" : " SOURCE_DATE_EPOCH=" + shell_quoted(date);
     command += " HOME=" + shell_quoted(outside / "home") + " TMPDIR=" + shell_quoted(outside / "tmp") +
                " TZ=" + shell_quoted(zone) + " " + shell_quoted(TESSALINE_PROGRAM);
     for (const std::string& argument : arguments)
         command += " " + shell_quoted(argument);
-    const program_result result = run_program(command + " 2>" + shell_quoted(outside / "errors") + " </dev/null");
+    return command;
+}
+
+run_outcome batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
+    const program_result result =
+        run_program(command_with(arguments, current_folder) + " 2>" + shell_quoted(outside / "errors") + " </dev/null");
     return {result.status, result.output, outside.read("errors")};
 }
 

@@ -3,7 +3,7 @@
 // Runs the built program in a fresh batch folder and compares all that it leaves with golden files.
 
 #include "sketchup/model/model_builder.h"
-#include "sketchup/skp/writer/classic_version_map.h"
+#include "sketchup/skp/writer/classic_writer.h"
 #include "tests/support/temporary_folder.h"
 
 #include <map>
@@ -53,6 +53,9 @@ public:
     // Runs it with these arguments alone, from that folder.
     run_outcome run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
     run_outcome run_with(const std::vector<std::string>& arguments) const { return run_with(arguments, full_name); }
+
+    // The command, for the shell, that such a run starts with; its standard streams are those of the shell.
+    std::string command_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
 
     // For the next runs: the text of SOURCE_DATE_EPOCH, empty to take it away; the time zone.
     void set_date(std::string seconds, std::string zone);

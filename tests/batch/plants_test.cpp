@@ -95,7 +95,7 @@ TEST(PlantsBatch, a_plant_with_data_of_the_old_form_is_shown_and_placed_without_
     expect_batch(b, "plant_of_the_old_form");
 }
 
-TEST(ScatteredBatch, components_and_plants_are_placed_line_by_line_ahead_of_the_faces) {
+TEST(PlantsBatch, scattered_ones_are_placed_line_by_line_among_plain_components) {
     batch b;
     model_builder m;
     m.component("pebble").square(10);
@@ -113,7 +113,7 @@ TEST(ScatteredBatch, components_and_plants_are_placed_line_by_line_ahead_of_the_
                                "6;\"x;y\";b;elm;1;0;0;0;0;1;0;0;0;0;1;0;10;20;30;1\r\n"
                                "\r\n"
                                "7;\"x;y\";b; pebble ;1;0;0;0;0;1;0;0;0;0;1;0;200;0;0;1\r\n");
-    expect_run(b, "scattered_components");
+    expect_run(b, "scattered_plants");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Which section planes clip, by the settings and by the age of the model.
+// Which section planes reach the stream of a whole run.
 
 #include "tests/batch/batch_runner.h"
 
@@ -7,77 +7,81 @@
 namespace {
 
 using namespace sketchup;
-using settings = std::vector<std::pair<std::string, typed_value>>;
+using skp::classic_version;
 
-// Three planes through the middle of a diagonal of 100 by 100 by 100 inches: one that is shown but not active, one
-// hidden, one active.
-void expect_planes(const std::string& case_name, const settings& wanted, skp::classic_version version) {
-    SCOPED_TRACE(case_name);
-    batch b;
+// A square of 10 inches and three planes across it: the active one at x = 5, a hidden one at y = 2.5, and one in the
+// plane of the square that looks down. The points of their records: 5 x 0.0254, 2.5 x 0.0254 and the origin.
+void put_three_planes(batch& b, const std::vector<std::pair<std::string, typed_value>>& settings,
+                      classic_version version = classic_version::v17) {
     model_builder m;
-    m.root().edge({0, 0, 0}, {100, 100, 100});
-    m.root().section_plane({1, 0, 0, -50});
-    m.element(m.root().section_plane({0, 1, 0, -50})).hidden = true;
-    m.root().section_plane({0, 0, 1, -50}, true);
-    m.root().group("walls").section_plane({1, 0, 0, -1}, true); // planes in groups are not seen
-    for (const auto& [name, value] : wanted)
+    m.root().square(10);
+    m.root().section_plane({1, 0, 0, -5}, true);
+    m.element(m.root().section_plane({0, 1, 0, -2.5})).hidden = true;
+    m.root().section_plane({0, 0, -1, 0});
+    for (const auto& [name, value] : settings)
         m.attribute(m.root().list(), "qlw_globals", name, value);
     b.put_model(m, "geometry.qlm", version);
+}
+
+void expect_planes(const std::string& case_name, const std::vector<std::pair<std::string, typed_value>>& settings,
+                   classic_version version = classic_version::v17) {
+    batch b;
+    put_three_planes(b, settings, version);
     expect_run(b, case_name);
 }
 
-void expect_planes_of_mode(int mode, const std::string& case_name, skp::classic_version version) {
+const std::pair<std::string, typed_value> low_end = {"bvl_lowend_render_mode", text("1")};
+
+constexpr classic_version later_versions[] = {classic_version::v8, classic_version::v17, classic_version::v20};
+constexpr classic_version all_versions[] = {classic_version::v6, classic_version::v8, classic_version::v17,
+                                            classic_version::v20};
+
+void expect_planes_of_mode(int mode, const std::string& case_name, classic_version version) {
+    SCOPED_TRACE(mode);
     expect_planes(case_name, {{"ivl_section_planes", whole_number(mode)}}, version);
 }
 
-constexpr auto v6 = skp::classic_version::v6;
-constexpr auto v8 = skp::classic_version::v8;
-constexpr auto v20 = skp::classic_version::v20;
-
-TEST(SectionPlanesBatch, by_the_host_an_old_model_clips_by_what_is_shown_and_a_later_one_by_what_is_active) {
-    expect_planes_of_mode(0, "section_planes_shown", v6);
-    expect_planes_of_mode(0, "section_planes_active", v8);
-    expect_planes_of_mode(0, "section_planes_active", v20);
+TEST(SectionPlanesBatch, by_the_host_the_active_plane_stands_behind_the_faces) {
+    expect_planes("section_plane_that_is_active", {});
+    for (const classic_version version : later_versions)
+        expect_planes_of_mode(0, "section_plane_that_is_active", version);
 }
 
-TEST(SectionPlanesBatch, mode_1_takes_those_that_are_shown) {
-    for (const auto version : {v6, v8, v20})
-        expect_planes_of_mode(1, "section_planes_shown", version);
+TEST(SectionPlanesBatch, by_the_host_a_model_of_version_6_has_the_planes_that_are_not_hidden) {
+    expect_planes_of_mode(0, "section_planes_that_are_shown", classic_version::v6);
 }
 
-TEST(SectionPlanesBatch, mode_2_and_any_number_above_3_take_all) {
-    for (const auto version : {v6, v8, v20})
-        for (const int mode : {2, 4})
-            expect_planes_of_mode(mode, "section_planes_all", version);
-}
-
-TEST(SectionPlanesBatch, mode_3_takes_none) {
-    for (const auto version : {v6, v8, v20})
-        expect_planes_of_mode(3, "section_planes_none", version);
-}
-
-TEST(SectionPlanesBatch, the_low_end_mode_takes_none_unless_it_is_told_to) {
-    const settings none = {{"bvl_lowend_render_mode", truth(true)},
-                           {"bvl_lowend_section_planes", truth(false)},
-                           {"ivl_section_planes", whole_number(2)}};
-    const settings some = {{"bvl_lowend_render_mode", truth(true)},
-                           {"bvl_lowend_section_planes", truth(true)},
-                           {"ivl_section_planes", whole_number(3)}};
-    for (const auto version : {v6, v8, v20}) {
-        expect_planes("section_planes_none", none, version);
-        expect_planes(version == v6 ? "section_planes_shown" : "section_planes_active", some, version);
+TEST(SectionPlanesBatch, the_modes_1_2_and_3_write_those_that_are_shown_all_and_none_whatever_the_version) {
+    for (const classic_version version : all_versions) {
+        expect_planes_of_mode(1, "section_planes_that_are_shown", version);
+        expect_planes_of_mode(2, "section_planes_all", version);
+        expect_planes_of_mode(3, "one_square", version);
+        expect_planes_of_mode(4, "section_planes_all", version);
     }
 }
 
-TEST(SectionPlanesBatch, a_document_has_a_setting_of_its_own_in_which_1_means_none) {
-    const settings none = {{"sqlw_extract_mode", text("3dpdf")},
-                           {"iql3d_pdf_section_planes", whole_number(1)},
-                           {"ivl_section_planes", whole_number(2)}};
-    const settings some = {{"sqlw_extract_mode", text("3dpdf")},
-                           {"iql3d_pdf_section_planes", whole_number(0)},
-                           {"ivl_section_planes", whole_number(2)}};
-    expect_planes("section_planes_none", none, v8);
-    expect_planes("section_planes_active", some, v8);
+TEST(SectionPlanesBatch, the_low_end_mode_asks_its_own_setting_and_not_the_mode) {
+    expect_planes("section_plane_that_is_active", {low_end, {"ivl_section_planes", whole_number(2)}});
+    expect_planes("one_square", {low_end, {"bvl_lowend_section_planes", text("0")}});
+    expect_planes("section_planes_that_are_shown", {low_end}, classic_version::v6);
+    expect_planes("one_square", {low_end, {"bvl_lowend_section_planes", text("0")}}, classic_version::v6);
+}
+
+TEST(SectionPlanesBatch, planes_in_groups_are_not_seen) {
+    batch b;
+    model_builder m;
+    m.root().square(10);
+    m.root().group("walls").section_plane({1, 0, 0, -5}, true);
+    m.attribute(m.root().list(), "qlw_globals", "ivl_section_planes", whole_number(2));
+    b.put_model(m);
+    expect_run(b, "one_square");
+}
+
+TEST(SectionPlanesBatch, a_document_has_the_active_plane_or_none) {
+    const std::pair<std::string, typed_value> document = {"sqlw_extract_mode", text("3dpdf")};
+    const std::pair<std::string, typed_value> all = {"ivl_section_planes", whole_number(2)};
+    expect_planes("section_plane_that_is_active", {document, all});
+    expect_planes("one_square", {document, all, {"iql3d_pdf_section_planes", whole_number(1)}});
 }
 
 } // namespace

@@ -58,6 +58,52 @@ TEST(SettingsBatch, an_option_file_is_obeyed_and_written_anew) {
     expect_run_without_sun(b, "option_file");
 }
 
+TEST(SettingsBatch, every_kind_of_line_is_read_and_what_goes_through_the_file_comes_back_in_its_form) {
+    batch b;
+    model_builder m;
+    put_square(b, m);
+    b.put("option_globals.txt", "# bvl_ground_plane; 1\r\n" // skipped: no name, or a name of no type
+                                "  #bvl_ground_plane; 1\r\n"
+                                "\r\n"
+                                " \t \n"
+                                ";bvl_ground_plane; 1\r\n"
+                                "  ; value\r\n"
+                                "bvl_ground_plane 1\r\n"
+                                "xvl_no_type; 1\r\n"
+                                "Bvl_ground_plane; 1\r\n"
+                                "bvl_kept_flag;7\r\n" // flags: any number but 0
+                                "bvl_sun_on; -1\n"
+                                "bvl_sky_visible; yes\r\n"
+                                "bvl_remember_filters; 1\r\n" // so both filters are written
+                                "ivl_image_filters; 3\r\n"
+                                "svl_image_filters; blur, sharp\r\n"
+                                "ivl_kept_number;\r\n" // numbers: what stands at the start of the value
+                                "  ivl_kept_other  ;  -12 and more  \r\n"
+                                "ivl_resx;+800\r\n"
+                                "ivl_ResX; 7\r\n"
+                                "rvl_kept_size; 0.12345678912\r\n"
+                                "rvl_kept_tiny;1e-9\r\n"
+                                "rvl_gamma_factor; 25e-1x\r\n"
+                                "pvl_kept_point; V(1,2.5,-3)\r\n"
+                                "pzyn_sun_time; 1\r\n"
+                                "cvl_kept_color; 16777215\n"
+                                "cvl_fog_color; 255\r\n"
+                                "svl_kept_path; c:\\\\temp\\\\x;y\r\n" // texts: pairs of backslashes become one
+                                "svl_kept_break; one\\ntwo\r\n"
+                                "svl_kept_lone; a\\b\\\r\n"
+                                "svl_kept_cr; a\rb\r\n"
+                                "svl_kept_number; # 5\r\n"
+                                "svl_kept_empty;\r\n"
+                                "svl_kept_blank;   \r\n"
+                                "svl_sky_hdr;\r\n"
+                                "bvl_use_watts; 1\r\n" // kept elsewhere, or nowhere
+                                "svl_auto_image_folder; pictures\r\n"
+                                "rvl_average_luminance; 2\r\n"
+                                "bzyn_is_from_batch; 1\r\n"
+                                "ivl_kept_other; 13"); // the last of two lines, without an end
+    expect_run_without_sun(b, "every_kind_of_option_line");
+}
+
 TEST(SettingsBatch, an_option_file_is_written_anew_when_nothing_changed) {
     batch b;
     model_builder m;

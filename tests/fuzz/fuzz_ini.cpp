@@ -1,7 +1,9 @@
-// Reads any bytes as an ini file and edits it: what is set is read back, and every other line stays.
+// Reads any bytes as an ini file and edits it, under names that are known and under names and values out of the bytes:
+// what is set is read back up to its first line end, and every other line stays.
 
 #include "qlw/ini_text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -45,17 +47,26 @@ bool is_one_edit(std::string_view before, std::string_view after) {
 }
 
 void check_setting(const std::string& bytes, std::string_view section, std::string_view key, std::string_view value) {
+    const std::string stored(value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3))));
     ini_text text(bytes);
     const auto before = text.value(section, key);
     const bool is_set = text.set_value(section, key, value);
     if (!is_set && (text.bytes() != bytes || text.value(section, key) != before))
         std::abort();
-    if (is_set && (text.value(section, key) != std::string(value) || !is_one_edit(bytes, text.bytes())))
+    if (is_set && (text.value(section, key) != stored || !is_one_edit(bytes, text.bytes())))
         std::abort();
     if (text.set_value(section, key, value))
         std::abort();
     if (ini_text(text.bytes()).value(section, key) != text.value(section, key))
         std::abort();
+}
+
+// Cuts what stands in front of the first "|" off the text, and the mark; all of a text without one.
+std::string_view cut_piece(std::string_view& text) {
+    const std::size_t end = std::min(text.find('|'), text.size());
+    const std::string_view piece = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return piece;
 }
 
 } // namespace
@@ -65,5 +76,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     check_setting(bytes, "a", "key", "new");
     check_setting(bytes, "Globals", "svl_name", " in blanks ");
     check_setting(bytes, "Common", "phone", "'\"'");
+    std::string_view left = bytes;
+    const std::string_view section = cut_piece(left);
+    const std::string_view key = cut_piece(left);
+    const std::string_view value = cut_piece(left);
+    check_setting(std::string(left), section, key, value);
     return 0;
 }

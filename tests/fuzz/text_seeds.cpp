@@ -24,10 +24,23 @@ constexpr seed seeds[] = {
     {"fuzz_base64", "padded", "T2FrIQ=="},
     {"fuzz_base64", "left_over", "T2FrIQT"},
     {"fuzz_base64", "broken_lines", "T2Fr\r\nIQ==\r\n"},
-    {"fuzz_skatter_line", "empty", ""},
-    {"fuzz_skatter_line", "plain", "a;b;c;oak;1;0;0;0;0;1;0;0;0;0;1;0;100;0;0;1"},
-    {"fuzz_skatter_line", "quoted", "a;b;c;\"oak; \"\"old\"\" \"r\"n\"x\";1e5;-2;.5"},
-    {"fuzz_skatter_line", "short", "a;\"b"},
+    {"fuzz_ini", "names", "a]|[key=;|'x'\r\n\"|[a]\nkey=1\n"},
+    {"fuzz_ini", "names_of_the_file", " A | Key |two words|[a]\r\nkey = 1 \r\n"},
+    {"fuzz_setting_text", "number", " -2147483649.5e3 and more"},
+    {"fuzz_setting_text", "above_32_bits", "4294967296"},
+    {"fuzz_setting_text", "no_number", "nan"},
+    {"fuzz_setting_text", "hexadecimal_color", "#ff0010"},
+    {"fuzz_setting_text", "listed_color", "rgb(255,0,16)"},
+    {"fuzz_setting_text", "short_color", "rgb(7,8"},
+    {"fuzz_setting_text", "point", "V(1, 2.5, -1e-8)"},
+    {"fuzz_setting_text", "binary_point", "B32AAAAAAAA8D8AAAAAAAAAQAAAAAAAAAhA"},
+    {"fuzz_setting_text", "registry_path", "HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner"},
+    {"fuzz_setting_text", "other_hive", "HKEY_CURRENT_USER\\Software\\Quillon Systems\\Profile\\Globals\\Azure\\x"},
+    {"fuzz_setting_text", "part_of_a_path", "Maker\\\\Part\\"},
+    {"fuzz_skatter_file", "all",
+     "# comment\r\na;b;c;pebble;1;0;0;0;0;1;0;0;0;0;1;0;100;0;0;1\r\n"
+     "a;\"b;b\";c;\"Stone; \"\"grey\"\"\"n\"r\"x\";1e2;x;;\n\na;b"},
+    {"fuzz_view_file", "pages", "EYE;(1,2,3)\r\nTARGETX;4\r\nEND_CURRENT;\r\nEYE;(5,6,7)\r\nEND_CURRENT;\r\nFOV;9"},
 };
 
 bool write(const std::filesystem::path& file, std::string_view bytes) {

@@ -41,6 +41,13 @@ TEST_F(IniFile, a_value_is_cut_to_4095_bytes) {
     EXPECT_EQ(get_string_from_ini_file("a", "key", "-", "Lamps"), std::string(4095, 'x'));
 }
 
+TEST_F(IniFile, a_default_is_cut_to_4095_bytes_too) {
+    const std::string longer(4096, 'x');
+    const std::string cut(4095, 'x');
+    EXPECT_EQ(get_string_from_ini_file("a", "key", longer, "Lamps"), cut);
+    EXPECT_EQ(get_string_from_default_ini("a", "key", longer, folder / "missing"), cut);
+}
+
 TEST_F(IniFile, a_write_makes_folder_section_and_key) {
     write_string_to_ini_file("Globals", "svl_name", "a b", "Lamps");
     write_string_to_ini_file("Globals", "svl_other", "c", "Lamps");

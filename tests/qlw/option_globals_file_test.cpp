@@ -105,7 +105,7 @@ TEST_F(OptionGlobalsFile, names_are_compared_with_their_case) {
 TEST_F(OptionGlobalsFile, a_name_that_no_table_holds_is_reported_as_not_preset) {
     reported();
     changes("itest_unknown; 5\n");
-    EXPECT_THAT(reported(), testing::Contains(HasSubstr("itest_unknown")));
+    EXPECT_THAT(reported(), ElementsAre("REPORT: Global not preset properly: itest_unknown"));
 }
 
 TEST_F(OptionGlobalsFile, a_name_of_no_type_in_the_table_keeps_its_value) {
@@ -167,8 +167,16 @@ TEST_F(OptionGlobalsFile, a_double_near_zero_is_written_as_it_is) {
 
 TEST_F(OptionGlobalsFile, a_point_that_is_nearly_the_same_is_left_alone) {
     set_global_fpt("ptest_point", {1, 2, 3});
-    EXPECT_FALSE(changes("ptest_point; (1.00000000001, 2, 3)\n"));
+    EXPECT_FALSE(changes("ptest_point; (1.00000009, 1.99999991, 3.00000009)\n"));
     EXPECT_EQ(get_global_fpt("ptest_point"), (fpt{1, 2, 3}));
+    EXPECT_TRUE(changes("ptest_point; (1, 2, 3.0000002)\n"));
+    EXPECT_EQ(get_global_fpt("ptest_point"), (fpt{1, 2, 3.0000002}));
+}
+
+TEST_F(OptionGlobalsFile, a_colour_written_as_a_number_reads_back_as_white) {
+    EXPECT_TRUE(changes("cvl_layer_color; 16777215\n")); // its default is 0xe4e4e4
+    EXPECT_EQ(get_global_COLORREF("cvl_layer_color"), 0xffffffu);
+    EXPECT_FALSE(changes(written()));
 }
 
 TEST_F(OptionGlobalsFile, a_colour_is_written_as_a_plain_number) {
@@ -223,9 +231,10 @@ TEST_F(OptionGlobalsFile, lines_come_out_sorted) {
 
 TEST_F(OptionGlobalsFile, a_name_of_no_type_is_reported_when_writing) {
     global_variables.create_variable("xtest_other", OPTION_GLOBAL);
-    reported();
+    trace.take();
     EXPECT_THAT(written(), Not(HasSubstr("xtest_other")));
-    EXPECT_THAT(reported(), testing::Contains(HasSubstr("Unknown option_global: xtest_other")));
+    EXPECT_THAT(trace.take(), ElementsAre(traced_line{"qlw_globals", "write_option_globals_to_open_file",
+                                                      "*** ERROR: Unknown option_global: xtest_other"}));
 }
 
 TEST_F(OptionGlobalsFile, a_missing_file_changes_nothing) {
@@ -242,15 +251,22 @@ TEST_F(OptionGlobalsFile, a_file_is_read_by_its_name) {
 
 TEST_F(OptionGlobalsFile, a_file_that_cannot_be_opened_is_reported_and_not_shown) {
     reported();
-    read_option_globals(folder.make_folder("in.txt"));
-    EXPECT_THAT(reported(), ElementsAre(testing::StartsWith("REPORT: ")));
+    const std::string name = folder.make_folder("in.txt");
+    testing::internal::CaptureStderr();
+    read_option_globals(name);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_THAT(reported(), ElementsAre(testing::StartsWith("REPORT: File not opened: " + name + ": ")));
 }
 
 TEST_F(OptionGlobalsFile, a_file_that_is_not_open_is_reported) {
-    reported();
+    trace.take();
     cl_output_file closed;
+    testing::internal::CaptureStderr();
     write_option_globals_to_open_file(closed);
-    EXPECT_THAT(reported(), testing::Contains(HasSubstr("Options Global FIle not found")));
+    EXPECT_THAT(testing::internal::GetCapturedStderr(),
+                testing::StartsWith("Tessaline - Error: Options Global FIle not found\n\n    (VER: "));
+    EXPECT_THAT(trace.take(), ElementsAre(traced_line{"qlw_globals", "write_option_globals_to_open_file",
+                                                      "*** ERROR: Options Global FIle not found"}));
 }
 
 } // namespace

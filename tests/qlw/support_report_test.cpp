@@ -2,6 +2,7 @@
 
 #include "qlw/support_report.h"
 
+#include "memory_registry.h"
 #include "platform/platform.h"
 #include "qlw/letter_case.h"
 #include "qlw/profile_state.h"
@@ -121,6 +122,27 @@ TEST_F(SupportReport, takes_what_is_known_of_the_user_from_the_profile) {
                                                          "     #Phone: '555 0100'\r\n"
                                                          "     #User: 'Ada Larch'\r\n"
                                                          "     #Email: 'ada@larch.example'\r\n"));
+}
+
+TEST_F(SupportReport, takes_what_the_machine_knows_from_the_registry) {
+    const temporary_folder home;
+    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    auto registry = std::make_unique<memory_registry>();
+    registry->put_text("HKLM\\SYSTEM\\CurrentControlSet\\Control\\ComputerName\\ActiveComputerName\\ComputerName",
+                       "drawing-board");
+    registry->put_text("HKLM\\SOFTWARE\\WOW6432Node\\Microsoft\\Windows NT\\CurrentVersion\\RegisteredOwner", "Larch");
+    registry->put_text("HKCU\\SOFTWARE\\Microsoft\\MS Setup (ACME)\\User Info\\DefCompany", "Larch & Partners");
+    registry->put_text("HKLM\\SOFTWARE\\Quillon Systems\\Phone", "555 0100");
+    registry->put_text("HKCU\\SOFTWARE\\Quillon Systems\\Email", "Ada@Larch.Example");
+    profile_state().registry = std::move(registry);
+    const std::string report = get_support_report();
+    EXPECT_THAT(report, testing::HasSubstr("     #Computer: 'DRAWING-BOARD'\r\n"));
+    EXPECT_THAT(report, testing::HasSubstr("     #Company: 'Larch & Partners'\r\n"
+                                           "     #Phone: '555 0100'\r\n"
+                                           "     #User: 'Larch'\r\n"
+                                           "     #Email: 'ada@larch.example'\r\n"
+                                           "     #Owner: 'Larch'\r\n"));
+    EXPECT_EQ(capture.text().find("REPORT: Cannot locate"), std::string::npos); // what is missing is expected to be
 }
 
 TEST_F(SupportReport, ends_in_the_two_notes_that_a_caller_left) {

@@ -85,6 +85,66 @@ TEST_F(Counting, a_scattered_plant_counts_once_beside_its_line) {
     EXPECT_EQ(reader.total_items, 2);
 }
 
+TEST_F(Counting, a_scattered_plant_counts_as_geometry_where_plants_are_shown_as_what_they_hold) {
+    const auto total = [this] {
+        model_builder m;
+        list_builder oak = m.component("oak");
+        oak.square(10);
+        oak.square(20);
+        m.attribute(oak.list(), "qlw_plant", "ornplant_name", sketchup::text("oak.plant"));
+        batch.write("skatter_insts.txt", "a;b;c;oak;1\n");
+        skatter_counted = false;
+        SketchUpReader one;
+        one.ReadSkpFile(save(m), batch / "batch_file.txt");
+        return one.total_items;
+    };
+    set_global_bool("bvl_display_all_plants_as_2d_images", true);
+    EXPECT_EQ(total(), 3); // two faces and the line
+    set_global_bool("bvl_display_all_plants_as_2d_images", false);
+    EXPECT_EQ(total(), 2); // the plant and the line
+    theApp.extract_mode = "QLW 3D PDF";
+    EXPECT_EQ(total(), 3);
+}
+
+TEST_F(Counting, a_file_of_scattered_components_that_cannot_be_opened_is_passed_over) {
+    batch.make_folder("skatter_insts.txt");
+    model_builder m;
+    m.component("pebble").square(10);
+    m.root().square(10);
+    testing::internal::CaptureStderr();
+    body_of(m);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(reader.total_items, 1);
+}
+
+TEST_F(Counting, a_file_of_scattered_components_is_traced_with_every_name_that_is_compared) {
+    trace_capture trace;
+    batch.write("skatter_insts.txt", "a;b;c;stone;1\n");
+    model_builder m;
+    m.component("pebble").square(10);
+    m.component("stone").square(10);
+    m.component("sand").square(10);
+    body_of(m);
+    const std::string text = trace.text_without_line_numbers();
+    const std::string found = "Skatter_insts.txt file was found\n";
+    const std::string compared = "stone <> pebble\nskatter_instances(#):: stone <> stone\n";
+    const std::size_t counted = text.find(found + "skatter_instances(#):: " + compared);
+    ASSERT_NE(counted, std::string::npos) << text;
+    EXPECT_NE(text.find(compared, counted + found.size() + compared.size()), std::string::npos); // the walk's turn
+    EXPECT_EQ(text.find("stone <> sand"), std::string::npos);
+}
+
+TEST_F(Counting, an_image_counts_once_for_each_placement) {
+    model_builder m;
+    list_builder frame = m.component("frame");
+    frame.image(m.image_definition({'B', 'M', 0, 0}, "picture.bmp", 16, 16));
+    m.root().instance(frame);
+    m.root().instance(frame);
+    body_of(m);
+    EXPECT_EQ(reader.total_items, 2);
+}
+
 TEST_F(Counting, lines_of_a_model_without_components_do_not_count) {
     model_builder m;
     batch.write("skatter_insts.txt", "a;b;c;oak;1\n");

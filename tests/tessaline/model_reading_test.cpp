@@ -58,6 +58,41 @@ TEST_F(ModelReading, settings_of_the_model_override_the_option_file_and_reach_it
     EXPECT_THAT(batch.read("option_globals.txt"), testing::HasSubstr("ivl_resx; 640\r\n"));
 }
 
+TEST_F(ModelReading, settings_come_from_the_dictionary_of_that_name_alone_and_by_the_type_of_their_names) {
+    model_builder m;
+    const sketchup::entity_place list = m.root().list();
+    m.attribute(list, "qlw_globals", "svl_sky_hdr", sketchup::text("noon.hdr"));
+    m.attribute(list, "qlw_globals", "bvl_sun_on", sketchup::text("2"));
+    m.attribute(list, "qlw_globals", "bvl_ground_plane_opaque", sketchup::text("true")); // a text whose number is 0
+    m.attribute(list, "qlw_globals", "rvl_gamma_factor", sketchup::real_number(2.123456789));
+    m.attribute(list, "qlw_globals", "ivl_kept_number", sketchup::text("12 and more"));
+    m.attribute(list, "qlw_globals", "cvl_fog_color", sketchup::whole_number(255));
+    m.attribute(list, "QLW_globals", "ivl_resx", sketchup::whole_number(640));
+    body_of(m);
+    EXPECT_EQ(get_global_string("svl_sky_hdr"), "noon.hdr");
+    EXPECT_TRUE(get_global_bool("bvl_sun_on"));
+    EXPECT_FALSE(get_global_bool("bvl_ground_plane_opaque"));
+    EXPECT_EQ(get_global_double("rvl_gamma_factor"), 2.123457); // six decimals
+    EXPECT_EQ(get_global_int("ivl_kept_number"), 12);
+    EXPECT_EQ(get_global_COLORREF("cvl_fog_color"), 0xffffffu); // colours cannot be set so
+    EXPECT_EQ(get_global_int("ivl_resx"), 600);
+}
+
+TEST_F(ModelReading, colour_by_layer_is_what_the_model_says_and_off_if_it_says_no_boolean) {
+    const auto color_by_layer_for = [this](sketchup::typed_value answer) {
+        theApp.color_by_layer = true;
+        model_builder m;
+        m.model().rendering_options.values = {{"DisplayColorByLayer", std::move(answer)}};
+        SketchUpReader one;
+        one.ReadSkpFile(save(m), batch / "batch_file.txt");
+        return theApp.color_by_layer;
+    };
+    EXPECT_TRUE(color_by_layer_for(sketchup::truth(true)));
+    EXPECT_FALSE(color_by_layer_for(sketchup::truth(false)));
+    EXPECT_FALSE(color_by_layer_for(sketchup::whole_number(1)));
+    EXPECT_FALSE(color_by_layer_for(sketchup::text("true")));
+}
+
 TEST_F(ModelReading, old_results_are_gone_and_kept_files_stay) {
     for (const char* name :
          {"ZynBatch_Lights/light_0.txt", "ZynBatch_Materials/old.qlobj", "ZynBatch_Materials/old.OrnMaterial",
