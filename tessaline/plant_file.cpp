@@ -7,20 +7,17 @@
 #include "skp_ruby/base64.h"
 #include "tessaline/paths.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace {
 
-std::string bytes_of_plant(std::string text) {
-    std::erase(text, '\n');
-    return decode_base64(text);
-}
-
-void write_plant_file(const std::string& path, const std::string& bytes) {
+void write_plant_file(const std::string& path, std::string text) {
     cl_output_file file;
-    if (file.open_binary(path, quiet_open))
-        file.write_data(bytes.data(), bytes.size());
+    if (!file.open_binary(path, quiet_open))
+        return;
+    std::erase(text, '\n');
+    const std::string bytes = decode_base64(text);
+    file.write_data(bytes.data(), bytes.size());
 }
 
 void report_old_data(std::string_view name) {
@@ -39,7 +36,7 @@ std::string placed_plant_file(std::string_view file_name, const plant_descriptio
     if (platform::exists(path))
         return path;
     if (!plant.plant_data64.empty())
-        write_plant_file(path, bytes_of_plant(plant.plant_data64));
+        write_plant_file(path, plant.plant_data64);
     else if (!plant.plant_data.empty())
         report_old_data(name);
     return path;

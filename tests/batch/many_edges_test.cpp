@@ -15,7 +15,7 @@ namespace {
 using namespace sketchup;
 
 constexpr int alone = 2300;   // edges along x at y = 0, 1, 2 ... inches, of which every third is painted
-constexpr int of_faces = 200; // edges of 50 hidden squares of 10 inches in a row at y = 5000
+constexpr int of_faces = 200; // edges of 50 squares of 10 inches in a row at y = 5000
 constexpr double inch = 0.0254;
 
 struct segment {
@@ -39,7 +39,9 @@ vec3 point(const std::array<double, 3>& p) {
     return {p[0], p[1], p[2]};
 }
 
-void put_edges(batch& b, int choice) {
+enum class squares { hidden, shown };
+
+void put_edges(batch& b, int choice, squares faces) {
     model_builder m;
     const sketchup::index red = m.material("Red", {255, 0, 0, 255});
     for (int i = 0; i < alone; ++i) {
@@ -50,7 +52,7 @@ void put_edges(batch& b, int choice) {
     }
     for (int i = 0; i < of_faces / 4; ++i) {
         const auto corner = [i](int s) { return point(side_of_square(i, s).start); };
-        m.element(m.root().face({corner(0), corner(1), corner(2), corner(3)})).hidden = true;
+        m.element(m.root().face({corner(0), corner(1), corner(2), corner(3)})).hidden = faces == squares::hidden;
     }
     m.attribute(m.root().list(), "qlw_globals", "ivl_edge_lines", whole_number(choice));
     b.put_model(m);
@@ -194,8 +196,8 @@ constexpr view_case views[] = {
     {"perspective", "EYE;(0,0,10)\r\nFOV;40\r\nPIXELHEIGHT;420\r\nORTHOHEIGHT;4.2\r\n", width_in_perspective},
 };
 
-void run_with_view(batch& b, const view_case& view, int choice) {
-    put_edges(b, choice);
+void run_with_view(batch& b, const view_case& view, int choice, squares faces = squares::hidden) {
+    put_edges(b, choice, faces);
     if (view.file)
         b.put("zyn_view.txt", view.file);
     EXPECT_EQ(b.run().status, 0);
@@ -219,8 +221,12 @@ TEST(ManyEdgesBatch, true_lines_in_every_mode_and_view) {
             SCOPED_TRACE(std::string(view.name) + ", choice " + std::to_string(choice));
             batch b("3dpdf_batch");
             run_with_view(b, view, choice);
-            const std::vector<segment> edges = choice == 0 ? std::vector<segment>() : chosen(choice);
-            expect_stream(b, view.file || choice == 0 ? stream_of_lines(edges) : head + edges_begin + end_of_stream);
+            if (choice == 0)
+                expect_stream(b, stream_of_lines({}));
+            else if (view.file)
+                expect_stream(b, stream_of_lines(chosen(choice)));
+            else
+                expect_stream(b, head + edges_begin + end_of_stream);
         }
 }
 
@@ -269,6 +275,16 @@ TEST(ManyEdgesBatch, blocks_end_behind_edges_999_and_1999_and_at_the_end) {
     EXPECT_TRUE(text.ends_with("NORM;(0,0,-1)\r\nVERT;(24.897,127,0.005)\r\nADDV;8015\r\n"
                                "FACE;8012,8013,8014\r\nFACE;8014,8015,8012\r\n"
                                "EMSH; Edges\r\n#;\r\nEND;\r\n"));
+}
+
+TEST(ManyEdgesBatch, behind_faces_one_close_more_stands_ahead_of_the_first_block) {
+    batch b;
+    run_with_view(b, views[1], 1, squares::shown);
+    const std::string text = b.read("batch_file.txt");
+    EXPECT_EQ(first_grammar_fault(text), std::nullopt);
+    EXPECT_EQ(count_of("EMSH; Edges\r\n", text), 4u);
+    EXPECT_NE(text.find("EMSH;\r\n#;\r\n#;EDGES\r\nEMSH; Edges\r\n#;MESH for Edges\r\nMESH;\r\n"), std::string::npos);
+    EXPECT_TRUE(text.ends_with("EMSH; Edges\r\n#;\r\nEND;\r\n"));
 }
 
 TEST(ManyEdgesBatch, a_true_line_is_written_out_as_two_ends_and_a_normal) {

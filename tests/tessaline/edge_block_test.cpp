@@ -234,6 +234,13 @@ TEST_F(EdgeBlock, for_a_document_the_width_comes_from_a_setting_that_only_an_opt
     EXPECT_EQ(written(), beginning + head + level_beam() + close);
 }
 
+TEST_F(EdgeBlock, for_a_document_without_that_setting_lines_have_no_thickness) {
+    look_in_parallel();
+    set_global_string("sqlw_extract_mode", "3dpdf");
+    keep_level_edge();
+    EXPECT_THAT(written(), testing::StartsWith(beginning + head + corner("(0,0,0)", "(0,0,0)", 0)));
+}
+
 TEST_F(EdgeBlock, in_an_animation_the_head_lists_the_layer) {
     theApp.is_doing_animation = true;
     open();

@@ -251,6 +251,31 @@ TEST_F(Traversal, an_object_with_a_name_of_the_outside_library_is_not_walked) {
     EXPECT_THAT(tagged(body_of(m), "MESH"), IsEmpty());
 }
 
+TEST_F(Traversal, an_object_without_a_name_is_geometry) {
+    model_builder m;
+    list_builder object = m.component("car");
+    object.square(10);
+    m.attribute(object.list(), "ArchVision RPC", "RPCTypeId", sketchup::text("AV-17"));
+    m.root().instance(object);
+    EXPECT_THAT(tagged(body_of(m), "MESH"), ElementsAre("MESH;"));
+}
+
+TEST_F(Traversal, a_plant_on_a_hidden_layer_is_dropped_even_when_lamps_are_let_through) {
+    for (const bool lets_lamps_through : {false, true}) {
+        reset_process();
+        set_global_bool("bvl_process_invisible_lights", lets_lamps_through);
+        model_builder m;
+        list_builder plant = m.component("oak");
+        plant.square(10);
+        m.attribute(plant.list(), "qlw_plant", "library", sketchup::text("Trees"));
+        m.element(m.root().instance(plant)).layer = m.layer("off", false);
+        SketchUpReader one;
+        one.ReadSkpFile(save(m), batch / "batch_file.txt");
+        EXPECT_THAT(body(), IsEmpty()) << lets_lamps_through;
+        EXPECT_EQ(plant_chance.next(), 41) << lets_lamps_through; // none was taken
+    }
+}
+
 TEST_F(Traversal, a_mirrored_group_turns_its_triangles_and_a_second_mirror_inside_turns_them_back) {
     model_builder m;
     list_builder mirrored = m.root().group("mirrored", sketchup::scaled(-1, 1, 1));
@@ -274,6 +299,14 @@ TEST_F(Traversal, a_scattered_component_is_walked_at_the_place_that_its_line_nam
     EXPECT_THAT(vertices, testing::UnorderedElementsAre("VERT;(2.54,0,0)", "VERT;(2.794,0,0)", "VERT;(2.794,0.254,0)",
                                                         "VERT;(2.54,0.254,0)"));
     EXPECT_FALSE(in_skatter_instances);
+}
+
+TEST_F(Traversal, a_list_of_scattered_components_beside_a_model_without_any_leaves_their_flag_set) {
+    model_builder m;
+    m.root().square(10);
+    batch.write("skatter_insts.txt", "a;b;c;pebble;1;0;0;0;0;1;0;0;0;0;1;0;100;0;0;1\n");
+    body_of(m);
+    EXPECT_TRUE(in_skatter_instances);
 }
 
 TEST_F(Traversal, a_hundred_nested_groups_of_a_file_add_up_their_transforms) {
