@@ -9,10 +9,6 @@
 
 namespace {
 
-bool is_file(const std::string& name) {
-    return platform::file_size(name).has_value();
-}
-
 void copy_file(const std::string& from, const std::string& to) {
     platform::file source;
     platform::file copy;

@@ -1,8 +1,11 @@
 // Writes the seeds of every fuzz target: FOLDER/<target>/<seed>.
 
 #include "sketchup/model/model_builder.h"
+#include "sketchup/skp/modern/formats.h"
 #include "sketchup/skp/writer/classic_writer.h"
+#include "sketchup/skp/writer/material_document_writer.h"
 #include "sketchup/skp/writer/modern_writer.h"
+#include "tests/fuzz/archive_file.h"
 #include "tests/fuzz/modern_seeds.h"
 #include "tests/fuzz/option_seeds.h"
 #include "tests/fuzz/picture_seeds.h"
@@ -26,6 +29,7 @@ void add_faces(model_builder& m) {
     m.face(face).material = m.material("Paint", {200, 30, 30, 255}, 0.5);
     m.face(face).back_material = m.textured_material("Tiles", {'B', 'M', 0, 0}, "tiles.bmp", 10, 20);
     m.mapping(face).back.positioned = true;
+    m.attribute({entity_kind::material, m.face(face).back_material}, "kept", "text", text("a"));
     m.attribute(face, "numbers", "byte", {value_code::byte, std::int64_t{7}});
     m.attribute(face, "numbers", "array", {value_code::array, std::vector<typed_value>{text("a"), real_number(2)}});
     m.attribute(face, "numbers", "color", {value_code::color, rgba{1, 2, 3, 4}});
@@ -85,6 +89,10 @@ bool write(const std::filesystem::path& file, const std::vector<std::uint8_t>& b
     return out.good();
 }
 
+bool write_text(const std::filesystem::path& file, std::string_view text) {
+    return write(file, {text.begin(), text.end()});
+}
+
 bool write_classic_seeds(const std::filesystem::path& folder) {
     using enum skp::classic_version;
     bool written = true;
@@ -97,15 +105,28 @@ bool write_classic_seeds(const std::filesystem::path& folder) {
     return written;
 }
 
-// Whole files, for the target that opens either container.
+// Whole files for the target that opens either container, and the archives in them.
 bool write_archive_seeds(const std::filesystem::path& folder) {
     using enum skp::modern_version;
     bool written = true;
-    for (const auto& [name, version] : {std::pair("21", v21), std::pair("25", v25)}) {
-        written = write(folder / (std::string("empty_") + name), skp::write_modern(*empty(), version)) && written;
-        written =
-            write(folder / (std::string("all_") + name), skp::write_modern(*one_of_everything(), version)) && written;
-    }
+    for (const auto& [name, version] : {std::pair("21", v21), std::pair("25", v25)})
+        for (const auto& [content, model] : {std::pair("empty_", empty()), std::pair("all_", one_of_everything())}) {
+            const std::vector<std::uint8_t> file = skp::write_modern(*model, version);
+            written = write(folder / "fuzz_classic" / (std::string(content) + name), file) &&
+                      write(folder / "fuzz_archive" / (std::string(content) + name), archive_of_file(file)) && written;
+        }
+    return written;
+}
+
+// The documents of all materials, in the words of either layout.
+bool write_document_seeds(const std::filesystem::path& folder) {
+    const auto m = one_of_everything();
+    bool written = true;
+    for (const std::uint16_t format : {skp::modern::format_2021, skp::modern::format_2025})
+        for (std::size_t i = 0; i < m->materials.size(); ++i)
+            written = write_text(folder / ("material_" + std::to_string(i) + "_" + std::to_string(format)),
+                                 skp::material_document_text(*m, m->materials[i], "./picture.png", format)) &&
+                      written;
     return written;
 }
 
@@ -126,10 +147,6 @@ bool write_picture_seeds(const std::filesystem::path& folder) {
     return written;
 }
 
-bool write_text(const std::filesystem::path& file, std::string_view text) {
-    return write(file, {text.begin(), text.end()});
-}
-
 bool write_option_seeds(const std::filesystem::path& folder) {
     return write_text(folder / "fuzz_option_file" / "all", option_seeds::option_file) &&
            write_text(folder / "fuzz_view_file" / "all", option_seeds::view_file);
@@ -143,9 +160,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder / "fuzz_classic") &&
-        write_modern_seeds(folder / "fuzz_modern") && write_picture_seeds(folder / "fuzz_picture") &&
-        write_option_seeds(folder) && write_text_seeds(argv[1]))
+    if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder) &&
+        write_document_seeds(folder / "fuzz_document") && write_modern_seeds(folder / "fuzz_modern") &&
+        write_picture_seeds(folder / "fuzz_picture") && write_option_seeds(folder) && write_text_seeds(argv[1]))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;

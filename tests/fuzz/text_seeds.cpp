@@ -13,6 +13,13 @@ struct seed {
 };
 
 constexpr seed seeds[] = {
+    {"fuzz_object_attributes", "lamp",
+     "qlw_lamp;sorndll_lamp_type;spot\nqlw_lamp;rorndll_lamp_size;12\nqlw_lamp;cqlw_lamp_color;#ff8040\n\n"
+     "qlw_overrides;intensity_override_mode;%\nqlw_overrides;intensity_override_value;50\n"},
+    {"fuzz_object_attributes", "numbers",
+     "Vellane_object_properties;light_type;-1\nVellane_object_properties;light_direction;5\n"
+     "qlw_lamp;ivl_lamp_channel;2147483647\nqlw_lamp;rorndll_lamp_intensity_lumens;1e308\n"
+     "qlw_placement_settings;light_color_override_value;rgb(1,2,3)\n"},
     {"fuzz_ini", "empty", ""},
     {"fuzz_ini", "profile",
      "; mine\r\n[Globals]\r\nsvl_name=a b\r\nivl_number = -5 \r\n\r\n[Common]\r\nPhone=\"1\"\r\n"},

@@ -8,8 +8,9 @@
 
 namespace {
 
-constexpr double nearest = 1e-3; // depth at which triangles are cut off
-constexpr std::uint8_t background = 235;
+constexpr double nearest = 1e-3;        // depth at which triangles are cut off
+constexpr double same_depth = 1e-6;     // relative: of surfaces that lie upon each other the first drawn shows
+constexpr double line_in_front = 0.003; // relative: so much nearer than what it lies on is a line
 
 vec minus(const vec& a, const vec& b) {
     return {a[0] - b[0], a[1] - b[1], a[2] - b[2]};
@@ -25,35 +26,55 @@ vec unit(const vec& a) {
     return length > 0 ? vec{a[0] / length, a[1] / length, a[2] / length} : vec{0, 0, 1};
 }
 
-vec between(const vec& a, const vec& b, double share) {
-    return {a[0] + share * (b[0] - a[0]), a[1] + share * (b[1] - a[1]), a[2] + share * (b[2] - a[2])};
+double between(double a, double b, double share) {
+    return a + share * (b - a);
 }
 
-// The part of a triangle in front of the nearest depth, as a polygon of up to four corners.
-std::vector<vec> cut_off_behind(const std::array<vec, 3>& corners) {
-    std::vector<vec> kept;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const vec& a = corners[i];
-        const vec& b = corners[(i + 1) % 3];
-        if (a[2] >= nearest)
-            kept.push_back(a);
-        if ((a[2] >= nearest) != (b[2] >= nearest))
-            kept.push_back(between(a, b, (nearest - a[2]) / (b[2] - a[2])));
-    }
-    return kept;
+std::uint8_t byte_of(double channel) {
+    return static_cast<std::uint8_t>(std::lround(255 * std::clamp(channel, 0.0, 1.0)));
+}
+
+// The pixel, 0 to size - 1, at a coordinate that repeats with 1.
+std::uint32_t tiled(double coordinate, std::uint32_t size) {
+    const double share = coordinate - std::floor(coordinate);
+    return std::min(static_cast<std::uint32_t>(share * size), size - 1);
+}
+
+struct texel {
+    color paint;
+    double opacity = 1;
+};
+
+texel sample(const image::picture& picture, double u, double v) {
+    if (!std::isfinite(u) || !std::isfinite(v))
+        return {};
+    const std::uint32_t x = tiled(u, picture.width());
+    const std::uint32_t y = picture.height() - 1 - tiled(v, picture.height());
+    const std::uint8_t* pixel = picture.row(y) + x * picture.bytes_per_pixel();
+    return {{pixel[2] / 255.0, pixel[1] / 255.0, pixel[0] / 255.0}, picture.has_alpha() ? pixel[3] / 255.0 : 1};
+}
+
+std::size_t inside(double value, std::size_t size) {
+    return static_cast<std::size_t>(std::clamp(value, 0.0, static_cast<double>(size)));
 }
 
 } // namespace
 
-rasterizer::rasterizer(const view& from, std::size_t width, std::size_t height)
-    : camera(from), width_(width), height_(height), depths(width * height, std::numeric_limits<double>::infinity()),
-      pixels(3 * width * height, background) {
+rasterizer::rasterizer(const view& from, std::size_t width, std::size_t height, std::size_t samples,
+                       const color& background)
+    : camera(from), samples_(samples), width_(width * samples), height_(height * samples),
+      depths(width_ * height_, std::numeric_limits<double>::infinity()), points(3 * width_ * height_) {
+    for (std::size_t i = 0; i < points.size(); i += 3) {
+        points[i] = byte_of(background.red);
+        points[i + 1] = byte_of(background.green);
+        points[i + 2] = byte_of(background.blue);
+    }
     forward = unit(minus(camera.target, camera.eye));
     right = unit(cross(forward, camera.up));
     upward = cross(right, forward);
-    const double half_height = static_cast<double>(height) / 2;
-    scale = camera.perspective ? half_height / std::tan(camera.field_of_view * std::numbers::pi / 360)
-                               : static_cast<double>(height) / camera.height;
+    const double across = static_cast<double>(camera.fov_is_vertical ? height_ : width_);
+    scale = camera.perspective ? across / 2 / std::tan(camera.field_of_view * std::numbers::pi / 360)
+                               : static_cast<double>(height_) / camera.height;
 }
 
 vec rasterizer::in_camera(const vec& world) const {
@@ -61,59 +82,142 @@ vec rasterizer::in_camera(const vec& world) const {
     return {dot(offset, right), dot(offset, upward), dot(offset, forward)};
 }
 
-rasterizer::screen_point rasterizer::on_screen(const vec& p) const {
-    const double shrink = camera.perspective ? 1 / p[2] : 1;
-    return {static_cast<double>(width_) / 2 + scale * p[0] * shrink,
-            static_cast<double>(height_) / 2 - scale * p[1] * shrink, p[2]};
+rasterizer::screen_point rasterizer::on_screen(const corner& c) const {
+    const double shrink = camera.perspective ? 1 / c.position[2] : 1;
+    return {static_cast<double>(width_) / 2 + scale * c.position[0] * shrink,
+            static_cast<double>(height_) / 2 - scale * c.position[1] * shrink, c.position[2], c.point};
 }
 
-void rasterizer::draw(const std::array<vec, 3>& corners, const color& paint) {
-    const std::array<vec, 3> seen = {in_camera(corners[0]), in_camera(corners[1]), in_camera(corners[2])};
-    std::vector<vec> polygon(seen.begin(), seen.end());
-    if (camera.perspective)
-        polygon = cut_off_behind(seen);
+// The part of a polygon, or of a line given as two corners, in front of the nearest depth; all of it in a parallel
+// view.
+std::vector<rasterizer::corner> rasterizer::cut_off_behind(const std::vector<corner>& polygon) const {
+    if (!camera.perspective)
+        return polygon;
+    std::vector<corner> kept;
+    for (std::size_t i = 0; i < polygon.size(); ++i) {
+        const corner& a = polygon[i];
+        const corner& b = polygon[(i + 1) % polygon.size()];
+        if (a.position[2] >= nearest)
+            kept.push_back(a);
+        if ((a.position[2] >= nearest) == (b.position[2] >= nearest))
+            continue;
+        const double share = (nearest - a.position[2]) / (b.position[2] - a.position[2]);
+        corner crossing;
+        for (std::size_t k = 0; k < 3; ++k)
+            crossing.position[k] = between(a.position[k], b.position[k], share);
+        crossing.point = {between(a.point.u, b.point.u, share), between(a.point.v, b.point.v, share),
+                          between(a.point.q, b.point.q, share)};
+        kept.push_back(crossing);
+    }
+    return kept;
+}
+
+void rasterizer::draw(const std::array<vec, 3>& corners, const color& paint, double opacity) {
+    draw({{in_camera(corners[0]), {}}, {in_camera(corners[1]), {}}, {in_camera(corners[2]), {}}},
+         {paint, nullptr, opacity});
+}
+
+void rasterizer::draw(const std::array<vec, 3>& corners, const std::array<picture_point, 3>& at,
+                      const image::picture& picture, double opacity) {
+    draw({{in_camera(corners[0]), at[0]}, {in_camera(corners[1]), at[1]}, {in_camera(corners[2]), at[2]}},
+         {{}, &picture, opacity});
+}
+
+void rasterizer::draw(const std::vector<corner>& whole, const surface& with) {
+    const std::vector<corner> polygon = cut_off_behind(whole);
     for (std::size_t i = 2; i < polygon.size(); ++i)
-        fill({on_screen(polygon[0]), on_screen(polygon[i - 1]), on_screen(polygon[i])}, paint);
+        fill({on_screen(polygon[0]), on_screen(polygon[i - 1]), on_screen(polygon[i])}, with);
 }
 
-void rasterizer::fill(const std::array<screen_point, 3>& p, const color& paint) {
+// Depth is linear over the screen in a parallel view, its reciprocal in perspective; so are u, v, q and u, v, q over
+// depth.
+void rasterizer::fill(const std::array<screen_point, 3>& p, const surface& with) {
     const auto edge = [](const screen_point& a, const screen_point& b, double x, double y) {
         return (b.x - a.x) * (y - a.y) - (b.y - a.y) * (x - a.x);
     };
     const double area = edge(p[0], p[1], p[2].x, p[2].y);
     if (area == 0 || !std::isfinite(area))
         return;
-    const auto clamp = [](double value, std::size_t size) {
-        return static_cast<std::size_t>(std::clamp(value, 0.0, static_cast<double>(size)));
-    };
     const auto [left, rightmost] = std::minmax({p[0].x, p[1].x, p[2].x});
     const auto [top, bottom] = std::minmax({p[0].y, p[1].y, p[2].y});
-    for (std::size_t y = clamp(std::floor(top), height_); y < clamp(std::ceil(bottom) + 1, height_); ++y)
-        for (std::size_t x = clamp(std::floor(left), width_); x < clamp(std::ceil(rightmost) + 1, width_); ++x) {
+    for (std::size_t y = inside(std::floor(top), height_); y < inside(std::ceil(bottom) + 1, height_); ++y)
+        for (std::size_t x = inside(std::floor(left), width_); x < inside(std::ceil(rightmost) + 1, width_); ++x) {
             const double cx = static_cast<double>(x) + 0.5;
             const double cy = static_cast<double>(y) + 0.5;
-            const double a = edge(p[1], p[2], cx, cy) / area;
-            const double b = edge(p[2], p[0], cx, cy) / area;
-            const double c = 1 - a - b;
-            if (a < 0 || b < 0 || c < 0)
+            std::array<double, 3> share = {edge(p[1], p[2], cx, cy) / area, edge(p[2], p[0], cx, cy) / area, 0};
+            share[2] = 1 - share[0] - share[1];
+            if (share[0] < 0 || share[1] < 0 || share[2] < 0)
                 continue;
-            const double depth = camera.perspective ? 1 / (a / p[0].depth + b / p[1].depth + c / p[2].depth)
-                                                    : a * p[0].depth + b * p[1].depth + c * p[2].depth;
-            double& standing = depths[y * width_ + x];
-            if (depth >= standing)
-                continue;
-            standing = depth;
-            std::uint8_t* pixel = &pixels[3 * (y * width_ + x)];
-            for (const double channel : {paint.red, paint.green, paint.blue})
-                *pixel++ = static_cast<std::uint8_t>(std::lround(255 * std::clamp(channel, 0.0, 1.0)));
+            double depth = 0;
+            picture_point at{0, 0, 0};
+            for (std::size_t i = 0; i < 3; ++i) {
+                const double weight = camera.perspective ? share[i] / p[i].depth : share[i];
+                depth += camera.perspective ? weight : weight * p[i].depth;
+                at.u += weight * p[i].point.u;
+                at.v += weight * p[i].point.v;
+                at.q += weight * p[i].point.q;
+            }
+            const texel seen = with.picture ? sample(*with.picture, at.u / at.q, at.v / at.q) : texel{with.paint};
+            put(x, y, camera.perspective ? 1 / depth : depth, seen.paint, seen.opacity * with.opacity);
         }
 }
 
+void rasterizer::draw_line(const vec& from, const vec& to, const color& paint) {
+    const std::vector<corner> line = cut_off_behind({{in_camera(from), {}}, {in_camera(to), {}}});
+    if (line.size() < 2)
+        return;
+    const screen_point a = on_screen(line[0]);
+    const screen_point b = on_screen(line[1]);
+    constexpr double most_steps = 1e5; // a line that runs far beyond the picture is drawn coarsely
+    const double steps = std::clamp(std::ceil(std::hypot(b.x - a.x, b.y - a.y)), 1.0, most_steps);
+    for (double i = 0; i <= steps; ++i) {
+        const double x = between(a.x, b.x, i / steps);
+        const double y = between(a.y, b.y, i / steps);
+        const double depth = camera.perspective ? 1 / between(1 / a.depth, 1 / b.depth, i / steps)
+                                                : between(a.depth, b.depth, i / steps);
+        if (x >= 0 && y >= 0 && x < static_cast<double>(width_) && y < static_cast<double>(height_))
+            put(static_cast<std::size_t>(x), static_cast<std::size_t>(y), depth - line_in_front * std::abs(depth),
+                paint, 1);
+    }
+}
+
+void rasterizer::put(std::size_t x, std::size_t y, double depth, const color& paint, double opacity) {
+    constexpr double least_opacity = 1.0 / 255;
+    double& standing = depths[y * width_ + x];
+    if (opacity < least_opacity || depth >= standing - same_depth * std::abs(depth))
+        return;
+    if (opacity > 1 - least_opacity)
+        standing = depth;
+    std::uint8_t* point = &points[3 * (y * width_ + x)];
+    for (const double channel : {paint.red, paint.green, paint.blue}) {
+        *point = byte_of(between(*point / 255.0, channel, opacity));
+        ++point;
+    }
+}
+
+bool rasterizer::sees_front(const std::array<vec, 3>& corners) const {
+    const vec normal = cross(minus(corners[1], corners[0]), minus(corners[2], corners[0]));
+    return dot(normal, camera.perspective ? minus(corners[0], camera.eye) : forward) <= 0;
+}
+
 bool rasterizer::write_png(const std::string& file_name) const {
+    const std::size_t width = width_ / samples_;
+    const std::size_t height = height_ / samples_;
+    std::vector<std::uint8_t> pixels(3 * width * height);
+    for (std::size_t y = 0; y < height; ++y)
+        for (std::size_t i = 0; i < 3 * width; ++i) {
+            std::size_t sum = 0;
+            for (std::size_t point = 0; point < samples_ * samples_; ++point) {
+                const std::size_t row = y * samples_ + point / samples_;
+                const std::size_t column = i / 3 * samples_ + point % samples_;
+                sum += points[3 * (row * width_ + column) + i % 3];
+            }
+            pixels[y * 3 * width + i] = static_cast<std::uint8_t>(sum / (samples_ * samples_));
+        }
     png_image image = {};
     image.version = PNG_IMAGE_VERSION;
-    image.width = static_cast<png_uint_32>(width_);
-    image.height = static_cast<png_uint_32>(height_);
+    image.width = static_cast<png_uint_32>(width);
+    image.height = static_cast<png_uint_32>(height);
     image.format = PNG_FORMAT_RGB;
     return png_image_write_to_file(&image, file_name.c_str(), 0, pixels.data(), 0, nullptr) != 0;
 }

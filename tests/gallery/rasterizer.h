@@ -1,6 +1,8 @@
 #pragma once
 
-// Draws triangles into a picture with a depth buffer; for looking at results, not for tests.
+// Draws triangles and lines into a picture with a depth buffer; for looking at results, not for tests.
+
+#include "image/picture.h"
 
 #include <array>
 #include <cstddef>
@@ -15,8 +17,9 @@ struct view {
     vec target{};
     vec up{0, 0, 1};
     bool perspective = true;
-    double field_of_view = 35; // degrees, vertical
-    double height = 0;         // of a parallel view, in the units of the points
+    double field_of_view = 35; // degrees
+    bool fov_is_vertical = true;
+    double height = 0; // of a parallel view, in the units of the points
 };
 
 struct color {
@@ -25,28 +28,63 @@ struct color {
     double blue = 0;
 };
 
+// Where a corner lies in a picture: at u / q and v / q, whole numbers a tile apart, v upwards from the lowest row.
+struct picture_point {
+    double u = 0;
+    double v = 0;
+    double q = 1;
+};
+
 class rasterizer {
 public:
-    rasterizer(const view& from, std::size_t width, std::size_t height);
+    // samples: how many points a side are drawn for each pixel and averaged when the picture is written.
+    rasterizer(const view& from, std::size_t width, std::size_t height, std::size_t samples = 1,
+               const color& background = {0.92, 0.92, 0.92});
 
     // Draws one triangle in one colour; both of its sides show. What lies behind the eye is cut off.
-    void draw(const std::array<vec, 3>& corners, const color& paint);
+    // opacity: 0 clear to 1. What is not opaque hides nothing that is drawn later, so draw it last.
+    void draw(const std::array<vec, 3>& corners, const color& paint, double opacity = 1);
+
+    // The same with a picture, tiled and seen in perspective; its alpha counts as opacity.
+    // picture: not empty.
+    void draw(const std::array<vec, 3>& corners, const std::array<picture_point, 3>& points,
+              const image::picture& picture, double opacity = 1);
+
+    // Draws a line as thin as a point, a little in front of the surfaces that it lies on.
+    void draw_line(const vec& from, const vec& to, const color& paint);
+
+    // Whether the eye sees the corners run counter-clockwise.
+    bool sees_front(const std::array<vec, 3>& corners) const;
 
     // Writes the picture as a PNG file. False if that fails.
     bool write_png(const std::string& file_name) const;
 
 private:
+    struct corner {
+        vec position; // right, up, depth
+        picture_point point;
+    };
     struct screen_point {
         double x, y, depth;
+        picture_point point;
+    };
+    struct surface {
+        color paint;
+        const image::picture* picture;
+        double opacity;
     };
     vec in_camera(const vec& world) const;
-    screen_point on_screen(const vec& in_camera) const;
-    void fill(const std::array<screen_point, 3>& p, const color& paint);
+    screen_point on_screen(const corner& c) const;
+    std::vector<corner> cut_off_behind(const std::vector<corner>& polygon) const;
+    void draw(const std::vector<corner>& polygon, const surface& with);
+    void fill(const std::array<screen_point, 3>& p, const surface& with);
+    void put(std::size_t x, std::size_t y, double depth, const color& paint, double opacity);
 
     view camera;
     vec right{}, upward{}, forward{};
-    std::size_t width_, height_;
-    double scale; // pixels for one unit at distance 1 (perspective) or anywhere (parallel)
+    std::size_t samples_;
+    std::size_t width_, height_; // in points
+    double scale;                // points for one unit at distance 1 (perspective) or anywhere (parallel)
     std::vector<double> depths;
-    std::vector<std::uint8_t> pixels; // red, green, blue; rows from the top
+    std::vector<std::uint8_t> points; // red, green, blue; rows from the top
 };

@@ -1,6 +1,7 @@
 #include "sketchup/skp/modern/material_document.h"
 
 #include "sketchup/skp/format_error.h"
+#include "sketchup/skp/modern/xml_names.h"
 
 #include <charconv>
 #include <pugixml.hpp>
@@ -13,33 +14,11 @@ namespace {
 using sketchup::value_code;
 
 constexpr std::string_view material_namespace = "http://sketchup.google.com/schemas/sketchup/1.0/material";
+// An element of four bytes takes 64 in memory. What users store in the attributes of a material, files as text among
+// it, stays far below.
+constexpr std::size_t most_document_bytes = 64U << 20;
+
 constexpr std::string_view types_namespace = "http://sketchup.google.com/schemas/1.0/types";
-
-// "n0:Attribute" apart: prefix and local name.
-std::pair<std::string_view, std::string_view> split_name(std::string_view name) {
-    const std::size_t colon = name.find(':');
-    if (colon == std::string_view::npos)
-        return {{}, name};
-    return {name.substr(0, colon), name.substr(colon + 1)};
-}
-
-// What the prefix stands for at the element: the nearest declaration above it counts.
-std::string_view namespace_of(pugi::xml_node element, std::string_view prefix) {
-    const std::string declaration = prefix.empty() ? "xmlns" : "xmlns:" + std::string(prefix);
-    for (; element; element = element.parent())
-        if (const pugi::xml_attribute a = element.attribute(declaration.c_str()))
-            return a.value();
-    return {};
-}
-
-bool is_element(pugi::xml_node node, std::string_view name_space, std::string_view name) {
-    const auto [prefix, local] = split_name(node.name());
-    return local == name && namespace_of(node, prefix) == name_space;
-}
-
-pugi::xml_node child(pugi::xml_node parent, std::string_view name_space, std::string_view name) {
-    return parent.find_child([&](pugi::xml_node node) { return is_element(node, name_space, name); });
-}
 
 // Not the parser's own conversions, which follow the locale. The default for a text that is no number.
 template<class T>
@@ -104,31 +83,31 @@ std::optional<sketchup::typed_value> value_of(pugi::xml_node element) {
     }
 }
 
-sketchup::attribute_dictionary read_dictionary(pugi::xml_node element) {
+sketchup::attribute_dictionary read_dictionary(pugi::xml_node element, xml_names& names) {
     sketchup::attribute_dictionary d;
     d.name = element.attribute("name").value();
     for (const pugi::xml_node entry : element.children())
-        if (is_element(entry, types_namespace, "Attribute"))
+        if (names.matches(entry, types_namespace, "Attribute"))
             if (auto value = value_of(entry))
                 d.entries.push_back({entry.attribute("key").value(), std::move(*value)});
     return d;
 }
 
-texture_fields read_texture(pugi::xml_node element) {
+texture_fields read_texture(pugi::xml_node element, xml_names& names) {
     texture_fields t;
     t.file_name = element.attribute("textureFilename").value();
     t.width = number<double>(element, "xScale");
     t.height = number<double>(element, "yScale");
     t.average_color = color_from(number<std::uint32_t>(element, "avgColor"));
-    const pugi::xml_node images = child(element, material_namespace, "images");
-    const pugi::xml_node image = child(images, material_namespace, "image");
+    const pugi::xml_node images = names.child(element, material_namespace, "images");
+    const pugi::xml_node image = names.child(images, material_namespace, "image");
     t.picture_path = image.attribute("path").value();
     if (t.file_name.empty())
         t.file_name = image.attribute("file_name").value();
     return t;
 }
 
-material_document read_material(pugi::xml_node element) {
+material_document read_material(pugi::xml_node element, xml_names& names) {
     material_document m;
     m.name = element.attribute("name").value();
     m.color = {channel(element, "colorRed"), channel(element, "colorGreen"), channel(element, "colorBlue"), 255};
@@ -138,11 +117,11 @@ material_document read_material(pugi::xml_node element) {
     m.colorize_type = number<std::uint32_t>(element, "colorizeType");
     m.transparency = number<double>(element, "trans");
     m.use_transparency = number<int>(element, "useTrans") == 1;
-    if (const pugi::xml_node texture = child(element, material_namespace, "texture"))
-        m.texture = read_texture(texture);
-    for (const pugi::xml_node d : child(element, types_namespace, "AttributeDictionaries").children())
-        if (is_element(d, types_namespace, "AttributeDictionary"))
-            m.dictionaries.push_back(read_dictionary(d));
+    if (const pugi::xml_node texture = names.child(element, material_namespace, "texture"))
+        m.texture = read_texture(texture, names);
+    for (const pugi::xml_node d : names.child(element, types_namespace, "AttributeDictionaries").children())
+        if (names.matches(d, types_namespace, "AttributeDictionary"))
+            m.dictionaries.push_back(read_dictionary(d, names));
     return m;
 }
 
@@ -153,6 +132,8 @@ bool declares_document_type(const pugi::xml_document& document) {
 } // namespace
 
 material_document read_material_document(std::span<const std::uint8_t> xml, const std::string& where) {
+    if (xml.size() > most_document_bytes)
+        throw format_error(failure::damaged, 0, where, "is longer than any description of a material");
     pugi::xml_document document;
     const pugi::xml_parse_result result =
         document.load_buffer(xml.data(), xml.size(), pugi::parse_default | pugi::parse_doctype);
@@ -160,11 +141,12 @@ material_document read_material_document(std::span<const std::uint8_t> xml, cons
         throw format_error(failure::damaged, static_cast<std::uint64_t>(result.offset), where, result.description());
     if (declares_document_type(document))
         throw format_error(failure::damaged, 0, where, "declares a document type");
-    const pugi::xml_node root = child(document, material_namespace, "materialDocument");
-    const pugi::xml_node material = child(root, material_namespace, "material");
+    xml_names names;
+    const pugi::xml_node root = names.child(document, material_namespace, "materialDocument");
+    const pugi::xml_node material = names.child(root, material_namespace, "material");
     if (!material)
         throw format_error(failure::damaged, 0, where, "describes no material");
-    return read_material(material);
+    return read_material(material, names);
 }
 
 } // namespace skp::modern

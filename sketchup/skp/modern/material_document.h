@@ -33,8 +33,8 @@ struct material_document {
 
 // Elements are known by namespace and local name, whatever their prefix; attributes that are missing or no numbers
 // take their defaults, and attribute values of types without a known text form are left out.
-// where: stands in messages. Throws format_error if this is not well-formed, declares a document type, or is no
-// material.
+// where: stands in messages. Throws format_error if this is not well-formed, declares a document type, is no
+// material, or has more than 64 MiB.
 material_document read_material_document(std::span<const std::uint8_t> xml, const std::string& where);
 
 } // namespace skp::modern

@@ -82,7 +82,7 @@ zip_entries::~zip_entries() {
 
 void zip_entries::list_entries() {
     const auto count = static_cast<zip_uint64_t>(zip_get_num_entries(archive_, 0));
-    const std::uint64_t most = most_unpacked_per_packed * (file_->size() - start_);
+    const std::uint64_t most = most_unpacked(file_->size() - start_);
     std::uint64_t total = 0;
     places_.reserve(count);
     for (zip_uint64_t i = 0; i < count; ++i) {

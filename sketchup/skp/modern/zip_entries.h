@@ -4,6 +4,7 @@
 
 #include "sketchup/skp/modern/entry_source.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -17,6 +18,14 @@ namespace skp::modern {
 
 // Deflate packs at most 258 bytes into 2 bits, so 1032 : 1. An entry that announces more lies about its size.
 inline constexpr std::uint64_t most_unpacked_per_packed = 1100;
+
+// The most bytes that all entries together may unpack to: real models reach 10 : 1, but a small one may hold a blank
+// picture. Without it a file of 20 MB could ask for 22 GB.
+constexpr std::uint64_t most_unpacked(std::uint64_t archive_bytes) {
+    constexpr std::uint64_t of_any_archive = std::uint64_t{256} << 20;
+    constexpr std::uint64_t per_byte = 64;
+    return std::min(most_unpacked_per_packed * archive_bytes, of_any_archive + per_byte * archive_bytes);
+}
 
 class zip_entries : public entry_source {
 public:

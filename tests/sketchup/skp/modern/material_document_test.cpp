@@ -128,3 +128,29 @@ TEST(MaterialDocument, what_is_not_well_formed_or_no_material_is_refused) {
     EXPECT_THROW(read_xml(head + "<mat:material"), format_error);
     EXPECT_THROW(read_xml(head + tail), format_error);
 }
+
+TEST(MaterialDocument, with_as_many_prefixes_as_elements_is_read_in_one_go) {
+    // Looked up one after the other, these would take ten thousand million comparisons.
+    constexpr int count = 100000;
+    std::string declarations;
+    std::string attributes;
+    for (int i = 0; i < count; ++i) {
+        const std::string prefix = "p" + std::to_string(i);
+        declarations += " xmlns:" + prefix + "=\"http://sketchup.google.com/schemas/1.0/types\"";
+        attributes +=
+            "<" + prefix + ":Attribute key=\"k\" type=\"3\">" + std::to_string(i) + "</" + prefix + ":Attribute>";
+    }
+    const material_document m = read(
+        "<mat:material" + declarations + " name=\"a\"><n0:AttributeDictionaries><n0:AttributeDictionary name=\"d\">" +
+        attributes + "</n0:AttributeDictionary></n0:AttributeDictionaries></mat:material>");
+    ASSERT_EQ(m.dictionaries.size(), 1u);
+    EXPECT_EQ(m.dictionaries[0].entries.size(), 100000u);
+}
+
+TEST(MaterialDocument, of_more_than_64_mib_is_refused) {
+    const std::string material = R"(<mat:material name="a"/>)";
+    const std::size_t limit = 67108864; // 64 x 1024 x 1024
+    const std::string blanks(limit - head.size() - material.size() - tail.size(), ' ');
+    EXPECT_EQ(read(material + blanks).name, "a");
+    EXPECT_THROW(read(material + blanks + ' '), format_error);
+}

@@ -128,6 +128,13 @@ TEST(ZipEntries, an_archive_whose_entries_announce_more_than_it_can_hold_is_refu
     EXPECT_THROW(open(announcing(archive_of({{"a", letters(300)}}), 0xFFFFFFF0)), format_error);
 }
 
+TEST(ZipEntries, all_together_unpack_to_1100_bytes_a_byte_while_small_and_to_64_when_large) {
+    using skp::modern::most_unpacked;
+    EXPECT_EQ(most_unpacked(1000), 1100000u);                        // 1000 x 1100
+    EXPECT_EQ(most_unpacked(20000000), 1548435456u);                 // 268435456 + 20000000 x 64
+    EXPECT_EQ(most_unpacked(std::uint64_t{1} << 32), 275146342400u); // 268435456 + 4294967296 x 64
+}
+
 TEST(ZipEntries, an_entry_that_claims_more_packed_bytes_than_there_are_is_refused) {
     bytes archive = archive_of({{"a", letters(300)}});
     put(archive, directory_record(archive) + packed_size_field, std::uint32_t{100000});

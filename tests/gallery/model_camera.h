@@ -1,0 +1,9 @@
+#pragma once
+
+// How the user of a model looked at it when it was saved.
+
+#include "sketchup/SketchUpAPI.h"
+#include "tests/gallery/rasterizer.h"
+
+// The model's own camera; lengths are inches times `unit`.
+view camera_of(SUModelRef model, double unit);
