@@ -25,6 +25,18 @@ constexpr seed seeds[] = {
      "; mine\r\n[Globals]\r\nsvl_name=a b\r\nivl_number = -5 \r\n\r\n[Common]\r\nPhone=\"1\"\r\n"},
     {"fuzz_ini", "plain_line_ends", "\xEF\xBB\xBF[a]\nkey=1\nKEY=2\n[b]\n[A]\nkey='3'\nno end"},
     {"fuzz_ini", "rubbish", "=x\n[open\n]\r\r\n[]\n=\n;[a]\n[a] ; behind\nkey=[\"]=;"},
+    {"fuzz_hex_chunks", "nothing", ""},
+    {"fuzz_hex_chunks", "one_chunk",
+     "ORNZyn Material Settings=41;1;x;\n"
+     "ORNZyn Material Settings_chunk0=[ORNZyn Material Settings][00000004]-4869"},
+    {"fuzz_hex_chunks", "missing_chunks",
+     "ORNZyn Material Settings=2147483647;3;x;\n"
+     "ORNZyn Material Settings_chunk2=4869\nORNZyn Material Settings_chunk=[ORNZyn"},
+    {"fuzz_hex_chunks", "far_chunk",
+     "ORNZyn Material Settings=9000000000;2147483647;x;\nORNZyn Material Settings_chunk2147483646=48"},
+    {"fuzz_hex_chunks", "chunk_below_0", "ORNZyn Material Settings_chunk-1=48"},
+    {"fuzz_hex_chunks", "bare_frame", "[ORNZyn Material Settings][00000007]-4869zz48"},
+    {"fuzz_hex_chunks", "length_that_lies", "[ORNZyn Material Settings][99999999]-48"},
     {"fuzz_ini", "two_bytes_a_letter", "\xFF\xFE[a]\nkey=1\n"},
     {"fuzz_base64", "empty", ""},
     {"fuzz_base64", "whole_groups", "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/"},

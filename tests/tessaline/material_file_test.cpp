@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace {
 
@@ -140,6 +141,26 @@ TEST(MaterialFile, of_a_record_that_nobody_filled_has_the_defaults) {
                                    "TopiaryOrientation: 0",
                                    "#",
                                }));
+}
+
+// The indented lines of the page.
+std::string example_in(const std::string& page) {
+    std::istringstream text(page);
+    std::string example;
+    for (std::string line; std::getline(text, line);)
+        if (line.starts_with("    "))
+            example += line.substr(4) + "\r\n";
+    return example;
+}
+
+TEST(MaterialFile, of_a_plain_material_is_the_example_of_the_documentation) {
+    cl_material_params params;
+    params.display_name = params.orig_name = "R&D";
+    params.color = 200U | 100U << 8U | 50U << 16U;
+    params.refraction = 1;
+    params.color_strength = params.bump_strength = 0;
+    EXPECT_EQ(file_of(params, "COL%3a0012_R%26D.OrnMaterial"),
+              example_in(text_of_file(std::string(TESSALINE_SOURCE_DIR) + "/docs/material-file.md")));
 }
 
 TEST(MaterialFile, a_glow_of_a_quarter_has_425_lumens_whatever_else_was_said) {
