@@ -135,10 +135,7 @@ std::string batch::command_with(const std::vector<std::string>& arguments, const
 run_outcome batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
     const program_result result =
         run_program(command_with(arguments, current_folder) + " 2>" + shell_quoted(outside / "errors") + " </dev/null");
-    for (const auto& [name_inside, bytes] : files())
-        if (bytes.starts_with(first_line_of_stream)) {
-            EXPECT_EQ(first_grammar_fault(bytes), std::nullopt) << name_inside;
-        }
+    expect_streams(*this);
     return {result.status, result.output, outside.read("errors")};
 }
 
@@ -197,6 +194,19 @@ std::string difference_from(const encoded_picture& wanted, std::string_view text
     return {};
 }
 
+void expect_streams(const batch& found) {
+    for (const auto& [name, bytes] : found.files()) {
+        if (!bytes.starts_with(first_line_of_stream))
+            continue;
+        const std::optional<grammar_fault> fault = first_grammar_fault(bytes);
+        const auto line_count = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+        if (!found.breaks_off())
+            EXPECT_EQ(fault, std::nullopt) << name;
+        else
+            EXPECT_TRUE(fault && fault->line == line_count + 1) << name << " does not just break off";
+    }
+}
+
 void expect_batch(const batch& found, const std::string& case_name, const std::set<std::string>& folders) {
     files_by_name expected = golden_files(case_name, found.marks());
     expected.insert(found.models().begin(), found.models().end());
@@ -210,6 +220,7 @@ void expect_batch(const batch& found, const std::string& case_name, const std::s
     for (const std::string& one : differences(expected, files))
         ADD_FAILURE() << one;
     EXPECT_EQ(found.folders(), folders);
+    expect_streams(found);
     if (testing::Test::HasFailure())
         GTEST_LOG_(INFO) << "what was found is in " << copy_of(found, case_name);
 }

@@ -63,6 +63,9 @@ public:
     void expect_file(const std::string& inside, std::string_view bytes);
     void expect_picture(const std::string& inside, encoded_picture wanted);
 
+    // The next runs end before their stream does: it must be right as far as it goes.
+    void expect_break() { may_break_off = true; }
+
     // Runs the program on "geometry.qlm", with these arguments behind its full name. Every stream that a run leaves in
     // the batch folder must follow the grammar; otherwise the running test fails.
     run_outcome run(const std::vector<std::string>& more_arguments = {}) const;
@@ -82,7 +85,8 @@ public:
     std::set<std::string> folders() const;
     // What put_model wrote last: a run must leave it as it is.
     const files_by_name& models() const { return written_models; }
-    // What was told with put_mark, expect_file and expect_picture.
+    // What was told with expect_break, put_mark, expect_file and expect_picture.
+    bool breaks_off() const { return may_break_off; }
     const std::map<std::string, std::string>& marks() const { return golden_marks; }
     const files_by_name& expected_files() const { return files_to_find; }
     const std::map<std::string, encoded_picture>& expected_pictures() const { return pictures_to_find; }
@@ -95,6 +99,7 @@ private:
     std::map<std::string, std::string> golden_marks; // "@BATCH@" among them
     files_by_name files_to_find;
     std::map<std::string, encoded_picture> pictures_to_find;
+    bool may_break_off = false;
     std::string date = "1000000000"; // 9 September 2001, 01:46:40
     std::string zone = "UTC";
 };
@@ -106,6 +111,10 @@ std::string without_marks(std::string golden_text, const std::map<std::string, s
 std::vector<std::string> differences(const files_by_name& expected, const files_by_name& found);
 // What is wrong with the bytes of a picture; empty if nothing is.
 std::string difference_from(const encoded_picture& wanted, std::string_view bytes);
+
+// Fails the running test unless each stream in the batch folder is a whole and right one, or, if runs may break off,
+// right as far as it goes.
+void expect_streams(const batch& found);
 
 // Fails the running test unless the batch folder holds, byte for byte, the golden files of `case_name`, the models that
 // were put there, what else is expected, and these folders. In golden files "@BATCH@" stands for the full name of the

@@ -224,6 +224,7 @@ TEST(MaterialsBatch, an_edited_material_without_its_last_chunk_ends_the_run_wher
     row.square(edited, edited);
     b.put_model(m);
     b.put("option_globals.txt", "ivl_2_sided_faces; 1");
+    b.expect_break();
     const run_outcome outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors, testing::HasSubstr("an edited material lacks a chunk of its file"));
@@ -247,6 +248,7 @@ TEST(MaterialsBatch, a_chunk_numbered_below_0_ends_the_run) {
     say(m, edited, "ORNZyn Material Settings_chunk-1", "[ORNZyn");
     row.square(edited, edited);
     b.put_model(m);
+    b.expect_break();
     const run_outcome outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors, testing::HasSubstr("a chunk of an edited material has a number below 0"));

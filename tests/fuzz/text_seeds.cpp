@@ -45,6 +45,8 @@ constexpr seed seeds[] = {
     {"fuzz_base64", "broken_lines", "T2Fr\r\nIQ==\r\n"},
     {"fuzz_ini", "names", "a]|[key=;|'x'\r\n\"|[a]\nkey=1\n"},
     {"fuzz_ini", "names_of_the_file", " A | Key |two words|[a]\r\nkey = 1 \r\n"},
+    {"fuzz_names", "escaped", "50%5 R%26D%zz%"},
+    {"fuzz_names", "leading_away", "%252/../..\\away & \t.png"},
     {"fuzz_setting_text", "number", " -2147483649.5e3 and more"},
     {"fuzz_setting_text", "above_32_bits", "4294967296"},
     {"fuzz_setting_text", "no_number", "nan"},

@@ -401,7 +401,7 @@ TEST_F(ImageMaterials, a_name_never_leaves_the_folders) {
                                             "away.",
                                             "a/..",
                                             "C:away.png",
-                                            std::string("away\0/../x.png", 15),
+                                            std::string("away\0/../x.png", 14),
                                             std::string("%2\0x.png", 8)};
     for (const std::string& name : names) {
         for (const picture_bytes* file : {&plain_png, &alpha_png}) {
