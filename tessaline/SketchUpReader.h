@@ -15,6 +15,7 @@
 #include "tessaline/transforms.h"
 #include "tessaline/view_file.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -198,6 +199,11 @@ public:
 
     // Answers about materials, so that a face asks neither for names nor for files.
     known_materials materials;
+
+    // How many edges are kept; the first one beyond is reported, and all of them are left out. A small model can place
+    // its edges a thousand million times, and they all wait for the end of the stream.
+    std::size_t most_edges = std::size_t{1} << 25;
+    bool edges_left_out = false;
 
     // The camera that the parent has set.
     camera_view view;

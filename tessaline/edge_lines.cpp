@@ -1,6 +1,7 @@
 // Which edges are shown as lines. Fills the table of edges; reads the layer table and the top parameter record.
 
 #include "qlw/qlw_globals.h"
+#include "qlw/qlw_trace.h"
 #include "tessaline/edge_choice.h"
 #include "tessaline/face_geometry.h"
 #include "tessaline/layer_inheritance.h"
@@ -56,6 +57,11 @@ fpt position_of(SUResult (*end_of)(SUEdgeRef, SUVertexRef*), SUEdgeRef edge) {
     return {position.x, position.y, position.z};
 }
 
+void report_too_many(std::size_t most_edges) {
+    cl_trace("edge_lines", __LINE__, "SketchUpReader::ProcessEdge", 1, 0)
+        .report("Only %d edges are shown as lines", most_edges);
+}
+
 } // namespace
 
 int SketchUpReader::ProcessEdge(SUEdgeRef edge, const transform16& matrix, const std::string&) {
@@ -64,6 +70,12 @@ int SketchUpReader::ProcessEdge(SUEdgeRef edge, const transform16& matrix, const
     const bool layer_is_off = !theApp.is_doing_animation && !is_visible(layer.layer);
     if (is_hidden(element) || layer_is_off || is_smoothed(edge) || !is_chosen(edge, element))
         return 0;
+    if (edge_records.size() >= most_edges) {
+        if (!edges_left_out)
+            report_too_many(most_edges);
+        edges_left_out = true;
+        return 0;
+    }
     edge_records.push_back({.start = transform_point(matrix, position_of(SUEdgeGetStartVertex, edge)),
                             .end = transform_point(matrix, position_of(SUEdgeGetEndVertex, edge))});
     return 1;

@@ -1,5 +1,6 @@
 // Which edges are kept for the edge block.
 
+#include "tests/support/trace_capture.h"
 #include "tests/tessaline/count_allocations.h"
 #include "tests/tessaline/reader_fixture.h"
 
@@ -125,6 +126,18 @@ TEST_F(EdgeLines, any_other_choice_keeps_all) {
         set_global_int("ivl_edge_lines", choice);
         EXPECT_THAT(results(), ElementsAre(1, 1, 1, 1, 1)) << choice;
     }
+}
+
+TEST_F(EdgeLines, beyond_the_most_that_are_kept_all_are_left_out_with_one_report) {
+    builder.root().square(10);
+    open();
+    reader.most_edges = 2;
+    const trace_capture trace;
+    EXPECT_THAT(results(), ElementsAre(1, 1, 0, 0, 0));
+    EXPECT_EQ(edge_records.size(), 2u);
+    const std::string report = "REPORT: Only 2 edges are shown as lines";
+    EXPECT_NE(trace.text().find(report), std::string::npos);
+    EXPECT_EQ(trace.text().find(report), trace.text().rfind(report));
 }
 
 TEST_F(EdgeLines, the_second_thousand_edges_allocate_nothing_but_the_growing_table) {
