@@ -73,6 +73,8 @@ void write_standard_error(std::string_view text);
 // TESSALINE_TRACE names (each call appends to it and closes it, so that nothing is lost in a crash), standard error if
 // it is "-", nowhere if it is not set.
 void debug_output(std::string_view text);
+// Whether it goes anywhere: what nobody hears need not be put into words. Always true where that cannot be known.
+bool debug_output_is_heard();
 
 // Shows a text that the user must see and goes on when it has been read. POSIX: a line "title: text" on standard error,
 // or the text alone if the title is empty; nothing waits.

@@ -132,3 +132,8 @@ void cl_trace::write_trace_line(std::string_view text) {
     line = -1;
     trace_state().time_base = platform::seconds_since_epoch();
 }
+
+bool traces_are_heard() {
+    const cl_trace_state& state = trace_state();
+    return state.trace_enabled && (logs_to_file() || state.error_list_active || platform::debug_output_is_heard());
+}

@@ -52,3 +52,7 @@ public:
     int level;
     int extra; // no effect on the routing
 };
+
+// Whether a report at level 0 reaches anybody. For reports that a face causes: putting them into words costs more than
+// the face does.
+bool traces_are_heard();

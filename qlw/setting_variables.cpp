@@ -3,10 +3,10 @@
 #include "qlw/qlw_profile.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/text_numbers.h"
+#include "qlw/whole_number.h"
 
 #include <cmath>
 #include <cstdio>
-#include <limits>
 
 namespace {
 
@@ -14,7 +14,6 @@ constexpr std::string_view profile_section = "Globals";
 constexpr double smallest_in_text = 1e-7; // a number below it is shown as 0
 constexpr double point_tolerance = 1e-7;  // two points this close are the same value
 constexpr double round_up_from = 0.49999; // added before floor: an exact half is rounded downwards
-constexpr double two_to_31 = 2147483648.0;
 constexpr double two_to_63 = 9223372036854775808.0;
 
 enum variable_types : std::int32_t { int_type = 1, string_type, double_type, fpt_type, color_type };
@@ -29,14 +28,6 @@ std::int32_t rounded_low_bits(double number) {
     if (!(whole >= -two_to_63 && whole < two_to_63))
         return 0;
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(static_cast<std::int64_t>(whole)));
-}
-
-// The integer part; the lowest integer where 32 bits cannot hold it, as the processor's own conversion gives it.
-std::int32_t cut_toward_zero(double number) {
-    const double whole = std::trunc(number);
-    if (!(whole >= -two_to_31 && whole < two_to_31))
-        return std::numeric_limits<std::int32_t>::min();
-    return static_cast<std::int32_t>(whole);
 }
 
 std::string coordinate_key(const std::string& name, const char* suffix) {

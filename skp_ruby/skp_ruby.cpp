@@ -43,36 +43,42 @@ const char* frame_fault(std::string_view name, std::string_view text) {
 
 } // namespace
 
-bool decode_hex_digits(std::string_view digits, std::vector<std::uint8_t>& target) {
-    if (target.size() < digits.size() / 2)
+bool decode_hex_digits(std::string_view text, std::int32_t digit_count, std::span<std::uint8_t> target,
+                       std::int32_t& byte_count) {
+    if (!text.data() || !target.data() || byte_count < digit_count / 2)
         return false;
-    for (std::size_t at = 0; at + 1 < digits.size(); at += 2) {
-        const int high = digit_value(digits[at]);
-        const int low = digit_value(digits[at + 1]);
-        if (high < 0 || low < 0)
+    std::size_t written = 0;
+    for (std::int32_t at = 0; at < digit_count; at += 2, ++written) {
+        const auto from = static_cast<std::size_t>(at);
+        const int high = from < text.size() ? digit_value(text[from]) : -1;
+        const int low = from + 1 < text.size() ? digit_value(text[from + 1]) : -1;
+        if (high < 0 || low < 0 || written == target.size())
             return false;
-        target[at / 2] = static_cast<std::uint8_t>(16 * high + low);
+        target[written] = static_cast<std::uint8_t>(16 * high + low);
     }
+    byte_count = static_cast<std::int32_t>(written);
     return true;
 }
 
 std::int32_t cl_hex_encode::decode_hex_string(std::string_view name, std::string_view framed_text) {
     data.clear();
+    data_size = 0;
     hex_length = 0;
     hex_name = name;
+    text_length = static_cast<std::int32_t>(framed_text.size());
     if (const char* const fault = frame_fault(name, framed_text)) {
         cl_trace("skp_ruby", __LINE__, "cl_hex_encode::decode_hex_string", 4, 0)
             .report(fault, hex_name, framed_text.substr(0, 20));
         return 0;
     }
     const std::string length_text(framed_text.substr(name.size() + 3, length_digits));
-    hex_length = std::atoi(length_text.c_str());
-    const std::size_t digits_from = name.size() + 13;
-    const std::string_view digits =
-        digits_from < framed_text.size() ? framed_text.substr(digits_from) : std::string_view();
-    // Eight decimal digits bound the size to 50 MB, whatever the text holds.
-    const std::size_t wanted = static_cast<std::size_t>(std::max(0, hex_length));
-    data.assign(wanted / 2, 0);
-    decode_hex_digits(digits.substr(0, std::min(digits.size(), wanted)), data);
-    return static_cast<std::int32_t>(data.size());
+    hex_length = std::max(0, std::atoi(length_text.c_str()));
+    data_size = hex_length / 2;
+    // Eight decimal digits bound the size to 50 MB, whatever the text holds. An odd last digit makes a byte more.
+    data.resize(static_cast<std::size_t>(data_size) + 1);
+    std::int32_t byte_count = data_size;
+    const std::size_t digits_from = std::min(name.size() + 13, framed_text.size());
+    decode_hex_digits(framed_text.substr(digits_from), hex_length, data, byte_count);
+    data.resize(static_cast<std::size_t>(data_size));
+    return data_size;
 }

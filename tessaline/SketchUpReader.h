@@ -7,6 +7,8 @@
 #include "tessaline/face_mesh.h"
 #include "tessaline/face_sides.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/known_materials.h"
+#include "tessaline/light_record.h"
 #include "tessaline/placements.h"
 #include "tessaline/plants.h"
 #include "tessaline/transforms.h"
@@ -14,6 +16,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // What a face passes to begin_mesh about its block.
 struct mesh_head {
@@ -44,6 +47,21 @@ struct face_in_walk {
     std::string_view layer_name; // the layer that the face counts as being on
     bool casts_shadows;
 };
+
+// A picture where the walk meets it. Points are world metres.
+struct image_quad {
+    std::string_view layer_name{};
+    int material = 0;
+    fpt origin;           // the corner of the picture's lower left
+    fpt corner_y;         // at its height
+    fpt corner_x;         // at its width
+    fpt corner_xy;        // at both
+    fpt normal;           // unit
+    bool in_lamp = false; // a lamp block is open, and takes the quad
+    bool casts_shadows = true;
+};
+
+struct material_file_names;
 
 class SketchUpReader {
 public:
@@ -93,8 +111,17 @@ public:
     int ProcessEdge(SUEdgeRef edge, const transform16& matrix, const std::string& path); // 1 if it was kept, else 0
     void write_edge_lines();
 
-    // images.cpp: pictures placed in the model. Gives 1 if the picture was written, else 0.
+    // images.cpp: pictures placed in the model.
+    // Writes the picture as a quad of two triangles. matrix: from its list to the world, in inches. path: without
+    // effect. Gives 1 if it was written, 0 if it is hidden.
     int ProcessImage(SUImageRef image, const transform16& matrix, const std::string& path);
+    // The block of it, or its part of an open lamp block.
+    void write_image_quad(const image_quad& quad);
+
+    // image_materials.cpp: the number of the material that carries the picture. One that is new to the run gets its
+    // record, its files and its lines in the stream. Gives 0 for no pixels and for a picture that cannot be read, else
+    // 10 or above.
+    int get_image_material_number(SUImageRef image);
 
     // mesh_blocks.cpp: what opens and closes a block and what stands at its head.
     void begin_mesh(const mesh_head& head);
@@ -115,9 +142,12 @@ public:
     // The part of it that follows when the sides are known.
     int write_face_sides(const face_in_walk& walked, const face_side& front, const face_side& back);
 
-    // material_numbers.cpp: the number of a face's side.
+    // material_numbers.cpp: the number of a face's side. A material that is new to the run gets its record, its files
+    // and its lines in the stream.
     // kind: what asks, "face". has_texture: set, unless there is no material. not_affine, has_glow: set to true if the
-    // side's texture is distorted, if the material glows; never cleared. Gives 0 for no material, else 10 or above.
+    // side's texture is distorted, if the material glows; never cleared, but for not_affine in scattered components.
+    // Gives 0 for no material, else 10 or above. The attribute list holds the material's attributes afterwards if the
+    // material is new, its file could not be made, or the texture is distorted.
     int get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front,
                             bool& has_texture, bool& not_affine, bool& has_glow);
 
@@ -135,8 +165,14 @@ public:
     bool beam_pass_running = false; // its entities are being walked a second time
     int ilights_saved = 0;          // number of the next lamp
 
+    // lamps.cpp: the lamps written so far, by number. The record of the run; nothing reads it back.
+    std::vector<cl_lp_light> lights;
+
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
+
+    // Answers about materials, so that a face asks neither for names nor for files.
+    known_materials materials;
 
     // The camera that the parent has set.
     camera_view view;
@@ -173,6 +209,12 @@ private:
     // placements.cpp
     bool writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
                          const transform16& transform);
+
+    // material_numbers.cpp
+    struct material_request;
+    int material_index(const material_request& asked);
+    int add_material(const material_request& asked, const std::string& name, const material_file_names& names,
+                     bool has_file);
 
     // face_meshing.cpp
     void leave_illum_mesh();

@@ -16,6 +16,8 @@
 #include "tessaline/SketchUpReader.h"
 #include "tessaline/usage.h"
 
+#include <stdexcept>
+
 namespace {
 
 constexpr const char* stream_file_name = "batch_file.txt";
@@ -139,6 +141,9 @@ bool CTessalineApp::run_conversion(std::string model, std::string /*program_fold
         reader.ReadSkpFile(model, stream);
     } catch (const std::string&) { // a fatal report, which the user has seen
         reader.abandon_reading();
+    } catch (const std::invalid_argument& failure) { // the model asks for what cannot be; nothing of it is half written
+        reader.abandon_reading();
+        cl_trace("Tessaline", __LINE__, "CTessalineApp::run_conversion", 2, 0).report("%s", failure.what());
     }
     return true;
 }

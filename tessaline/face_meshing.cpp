@@ -3,12 +3,12 @@
 
 #include "qlw/qlw_globals.h"
 #include "tessaline/attributes.h"
+#include "tessaline/drawing_elements.h"
 #include "tessaline/face_geometry.h"
 #include "tessaline/lamps.h"
 #include "tessaline/layer_inheritance.h"
 #include "tessaline/length_units.h"
 #include "tessaline/lower_case.h"
-#include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
 #include "tessaline/SketchUpReader.h"
 
@@ -17,18 +17,6 @@
 namespace {
 
 // ---- what is asked of a face
-
-bool is_hidden(SUDrawingElementRef element) {
-    bool hidden = false;
-    SUDrawingElementGetHidden(element, &hidden);
-    return hidden;
-}
-
-bool casts_shadows(SUDrawingElementRef element) {
-    bool casts = false;
-    SUDrawingElementGetCastsShadows(element, &casts);
-    return casts;
-}
 
 // The face's own materials; with colour by layer those of its layer, and the face loses its own in the open model, so
 // that the texture writer no longer sees them.
@@ -51,10 +39,6 @@ face_side side_with(SUMaterialRef own, SUMaterialRef of_enclosing_object) {
     side.inherited = SUIsInvalid(own) && SUIsValid(of_enclosing_object);
     side.material = side.inherited ? of_enclosing_object : own;
     return side;
-}
-
-bool is_named(SUMaterialRef material) {
-    return SUIsValid(material) && !name_by(SUMaterialGetName, material).empty();
 }
 
 std::vector<edge_ends> edges_of(SUFaceRef face) {
@@ -127,10 +111,12 @@ int SketchUpReader::ProcessFace(SUFaceRef face, const transform16& matrix, bool 
     const auto [front_material, back_material] = face_materials(face, layer.layer);
     face_side front = side_with(front_material, current_oparms->material);
     face_side back = side_with(back_material, current_oparms->material);
-    share_material(front, back, is_named(front.material), is_named(back.material));
-    bool not_affine = false; // decides nothing here
-    front.number = get_material_number(face, front.material, "face", true, front.textured, not_affine, front.glows);
-    back.number = get_material_number(face, back.material, "face", false, back.textured, not_affine, back.glows);
+    share_material(front, back, materials.is_named(front.material), materials.is_named(back.material));
+    bool front_distorted = false; // decide nothing here; one a side, since the call takes what is set for its own
+    bool back_distorted = false;
+    front.number =
+        get_material_number(face, front.material, "face", true, front.textured, front_distorted, front.glows);
+    back.number = get_material_number(face, back.material, "face", false, back.textured, back_distorted, back.glows);
     return write_face_sides({face, matrix, flip, layer.name, casts_shadows(element)}, front, back);
 }
 

@@ -3,21 +3,13 @@
 #include "tessaline/ground_cover.h"
 
 #include "platform/platform.h"
+#include "tessaline/paths.h"
 
 #include <array>
 
 namespace {
 
 constexpr std::string_view plant_folder = "Plants";
-
-bool is_file(const std::string& name) {
-    return platform::file_size(name).has_value();
-}
-
-std::string_view bare_name(std::string_view path) {
-    const auto separator = path.find_last_of("/\\");
-    return separator == std::string_view::npos ? path : path.substr(separator + 1);
-}
 
 void copy_file(const std::string& from, const std::string& to) {
     platform::file source;
@@ -38,7 +30,7 @@ std::string placed_ground_cover(std::string_view path, const std::string& batch_
     std::string placed = batch_folder;
     placed.append(1, platform::path_separator).append(plant_folder);
     platform::make_folder(placed); // no fault if it exists
-    placed.append(1, platform::path_separator).append(bare_name(path));
+    placed.append(1, platform::path_separator).append(bare_name_of(path));
     if (!is_file(placed))
         copy_file(original, placed);
     return placed;

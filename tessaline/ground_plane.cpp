@@ -3,30 +3,12 @@
 #include "tessaline/ground_plane.h"
 
 #include "tessaline/dictionary_values.h"
+#include "tessaline/hex_chunks.h"
 
-#include <algorithm>
-#include <cstddef>
-#include <cstdlib>
-#include <string_view>
+#include <cstdint>
+#include <utility>
 
 namespace {
-
-constexpr std::size_t chunk_length = 400000;          // characters of every chunk but the last
-constexpr std::size_t most_text = 400 * chunk_length; // no material file comes near it; a wrong length may
-
-// Cuts a field with its ";" off the text; empty, with nothing cut, if there is no ";" behind at least one character.
-std::string cut_header_field(std::string_view& text) {
-    const std::size_t at = text.find(';');
-    if (at == std::string_view::npos || at == 0)
-        return {};
-    std::string field(text.substr(0, at));
-    text.remove_prefix(at + 1);
-    return field;
-}
-
-std::size_t count_from(const std::string& text) {
-    return static_cast<std::size_t>(std::max(0L, std::strtol(text.c_str(), nullptr, 10)));
-}
 
 std::optional<std::string> text_under(SUAttributeDictionaryRef dictionary, const std::string& key) {
     typed_value value;
@@ -38,24 +20,22 @@ std::optional<std::string> text_under(SUAttributeDictionaryRef dictionary, const
 
 std::optional<std::string>
 assembled_ground_plane(const std::function<std::optional<std::string>(const std::string&)>& text_of) {
-    const std::string header = text_of("hex_data").value_or(std::string());
-    std::string_view left = header;
-    const std::string total_text = cut_header_field(left);
-    const std::size_t chunks = count_from(cut_header_field(left));
-    const std::string last_field = cut_header_field(left);
-    if (chunks == 0 || total_text.empty() || last_field.empty())
+    hex_header header;
+    header.read(text_of("hex_data").value_or(std::string()));
+    if (header.chunk_count < 1 || !header.is_complete())
         return std::nullopt;
-    if (!text_of("hex_data_chunk" + std::to_string(chunks - 1)))
+    const auto key_of = [](std::int32_t number) { return "hex_data_chunk" + std::to_string(number); };
+    if (!text_of(key_of(header.chunk_count - 1)))
         return std::nullopt;
-    const std::size_t total = std::min(count_from(total_text), most_text);
-    std::string assembled(total, '\0');
-    for (std::size_t number = 0; number < chunks && number * chunk_length < total; ++number) {
-        const std::string chunk = text_of("hex_data_chunk" + std::to_string(number)).value_or(std::string());
-        const std::size_t from = number * chunk_length;
-        const std::size_t length = std::min({chunk.size(), chunk_length, total - from});
-        assembled.replace(from, length, chunk, 0, length);
+    hex_chunks_by_number chunks;
+    // The text ends at the first chunk that is missing, so that a count beyond all chunks costs nothing.
+    for (std::int32_t number = 0; number < header.chunk_count; ++number) {
+        auto chunk = text_of(key_of(number));
+        if (!chunk)
+            break;
+        chunks.emplace(number, std::move(*chunk));
     }
-    return assembled;
+    return assembled_hex_text(header, chunks);
 }
 
 std::optional<std::string> ground_plane_text(SUAttributeDictionaryRef dictionary, bool& saved) {

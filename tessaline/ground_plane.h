@@ -12,9 +12,8 @@
 // saved: whether the model says that it holds one; the dictionary changes it if it has an answer of its own.
 std::optional<std::string> ground_plane_text(SUAttributeDictionaryRef dictionary, bool& saved);
 
-// The hexadecimal text of the material file, put together from the header ("length;chunks;more;") under "hex_data" and
-// the chunks under "hex_data_chunk0" and on. text_of: the text under a key; nothing if it is missing or no text.
-// Nothing if the header or the last chunk is missing. A chunk starts at its number times 400,000; what is missing in
-// the middle is zero bytes, and what a chunk has beyond that length, or beyond the whole length, is cut.
+// The hexadecimal text of the material file, put together (hex_chunks.h) from the header under "hex_data" and the
+// chunks under "hex_data_chunk0" and on. text_of: the text under a key; nothing if it is missing or no text. Nothing if
+// the header or the last chunk is missing.
 std::optional<std::string>
 assembled_ground_plane(const std::function<std::optional<std::string>(const std::string&)>& text_of);

@@ -84,6 +84,7 @@ void rewrite_option_globals(const std::string& path) {
 int SketchUpReader::ReadSkpFile(const std::string& input_path, const std::string& output_path) {
     theApp.xml_options.reading_started = now();
     begin_reading();
+    materials.forget();
     SUInitialize();
     if (is_for_3d_document(input_path))
         theApp.extract_mode = document_extract_mode;

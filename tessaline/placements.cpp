@@ -5,36 +5,19 @@
 
 #include "qlw/qlw_globals.h"
 #include "tessaline/attributes.h"
+#include "tessaline/drawing_elements.h"
 #include "tessaline/lamps.h"
 #include "tessaline/layer_inheritance.h"
+#include "tessaline/local_transform.h"
+#include "tessaline/lower_case.h"
 #include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
 #include "tessaline/SketchUpReader.h"
 #include "tessaline/walk_log.h"
 
-#include <algorithm>
 #include <string>
 
 namespace {
-
-std::string lower_case(std::string_view text) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
-    });
-    return lower;
-}
-
-// The local transform, normalised.
-template<class Handle>
-transform16 placement_of(SUResult (*getter)(Handle, SUTransformation*), Handle handle) {
-    SUTransformation given{};
-    getter(handle, &given);
-    transform16 transform;
-    std::copy(std::begin(given.values), std::end(given.values), transform.begin());
-    normalise(transform);
-    return transform;
-}
 
 // The level's own material covers the one that it inherited.
 void take_material(SUDrawingElementRef element) {
@@ -70,9 +53,7 @@ std::string name_of_instance(SUComponentInstanceRef instance, SUComponentDefinit
 
 bool SketchUpReader::is_let_in(SUDrawingElementRef element, SULayerRef layer, bool& invisible) const {
     invisible = false;
-    bool hidden = false;
-    SUDrawingElementGetHidden(element, &hidden);
-    if (hidden)
+    if (is_hidden(element))
         return false;
     // Layers are switched at render time in an animation, so all of them are walked.
     if (theApp.is_doing_animation || is_visible(layer))
@@ -90,7 +71,7 @@ placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk&
     if (!is_let_in(element, layer.layer, invisible))
         return placement_decision::leave_out;
 
-    walk.transform = composed(walk.transform, placement_of(SUGroupGetTransform, group));
+    walk.transform = composed(walk.transform, local_transform(SUGroupGetTransform, group));
     SUGroupGetEntities(group, &walk.entities);
     const SUEntityRef entity = SUGroupToEntity(group);
     SUEntityGetID(entity, &walk.id);
@@ -121,7 +102,7 @@ placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instanc
     if (!is_let_in(element, layer.layer, invisible))
         return placement_decision::leave_out;
 
-    walk.transform = composed(walk.transform, placement_of(SUComponentInstanceGetTransform, instance));
+    walk.transform = composed(walk.transform, local_transform(SUComponentInstanceGetTransform, instance));
     if (always_faces_camera(definition))
         turn_to_camera(walk.transform);
     SUComponentDefinitionGetEntities(definition, &walk.entities);

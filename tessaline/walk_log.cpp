@@ -43,6 +43,14 @@ void log_image_step(int depth) {
     log.flush();
 }
 
+void log_image(std::string_view file_name, std::string_view layer_name, const fpt& position) {
+    if (!extraction_log_is_on())
+        return;
+    cl_output_file& log = trace_state().extraction_log;
+    log.write_format("Image: %s,  layer: %s, loc: %s\n", file_name, layer_name, fpt_to_text(position));
+    log.flush();
+}
+
 void log_end_of_walk() {
     if (!extraction_log_is_on())
         return;

@@ -15,4 +15,6 @@ bool extraction_log_is_on();
 void log_placement(std::string_view kind, std::string_view name, std::string_view layer_name,
                    const transform16& transform, int depth);
 void log_image_step(int depth);
+// An image that is written. position: in world inches.
+void log_image(std::string_view file_name, std::string_view layer_name, const fpt& position);
 void log_end_of_walk();

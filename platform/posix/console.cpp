@@ -60,6 +60,11 @@ void debug_output(std::string_view text) {
         output.write_all(text);
 }
 
+bool debug_output_is_heard() {
+    const auto target = environment_variable("TESSALINE_TRACE");
+    return target && !target->empty();
+}
+
 void message_box(std::string_view title, std::string_view text) {
     std::string message(title);
     if (!title.empty())

@@ -1,8 +1,11 @@
 #include "tests/batch/batch_runner.h"
 
+#include "image/decode_picture.h"
 #include "tests/batch/stream_grammar.h"
 #include "tests/run_program.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -26,13 +29,15 @@ files_by_name files_below(const std::string& folder) {
     return files;
 }
 
-// The golden files of a case, with the folder's name in them.
-files_by_name golden_files(const std::string& case_name, const std::string& batch_folder) {
-    const std::string folder = std::string(TESSALINE_SOURCE_DIR) + "/tests/batch/" + case_name + "/expected";
+// The golden files of a case, without marks.
+files_by_name golden_files(const std::string& case_name, const std::map<std::string, std::string>& marks) {
+    const bool is_elsewhere = case_name.find('/') != std::string::npos;
+    const std::string folder =
+        std::string(TESSALINE_SOURCE_DIR) + (is_elsewhere ? "/" : "/tests/batch/") + case_name + "/expected";
     EXPECT_TRUE(std::filesystem::exists(folder)) << "no golden files: " << folder;
-    files_by_name files = files_below(folder);
-    for (auto& [name, text] : files)
-        text = with_batch_folder(std::move(text), batch_folder);
+    files_by_name files;
+    for (auto& [name, text] : files_below(folder))
+        files[without_marks(name, marks)] = without_marks(text, marks);
     return files;
 }
 
@@ -81,6 +86,7 @@ std::set<std::string> folders_of_every_run() {
 batch::batch(const std::string& folder_name) : name(folder_name), full_name(outside.make_folder(folder_name)) {
     outside.make_folder("home");
     outside.make_folder("tmp");
+    put_mark("@BATCH@", full_name);
 }
 
 void batch::put(const std::string& inside, std::string_view bytes) {
@@ -91,6 +97,18 @@ void batch::put_model(sketchup::model_builder& m, const std::string& inside, skp
     const std::vector<std::uint8_t> bytes = skp::write_classic(*m.finish(), version);
     written_models[inside] = std::string(bytes.begin(), bytes.end());
     put(inside, written_models[inside]);
+}
+
+void batch::put_mark(const std::string& mark, const std::string& text) {
+    golden_marks[mark] = text;
+}
+
+void batch::expect_file(const std::string& inside, std::string_view bytes) {
+    files_to_find[inside] = bytes;
+}
+
+void batch::expect_picture(const std::string& inside, encoded_picture wanted) {
+    pictures_to_find[inside] = std::move(wanted);
 }
 
 void batch::set_date(std::string seconds, std::string time_zone) {
@@ -117,6 +135,7 @@ std::string batch::command_with(const std::vector<std::string>& arguments, const
 run_outcome batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
     const program_result result =
         run_program(command_with(arguments, current_folder) + " 2>" + shell_quoted(outside / "errors") + " </dev/null");
+    expect_streams(*this);
     return {result.status, result.output, outside.read("errors")};
 }
 
@@ -132,10 +151,18 @@ std::set<std::string> batch::folders() const {
     return folders;
 }
 
-std::string with_batch_folder(std::string text, const std::string& folder) {
-    constexpr std::string_view mark = "@BATCH@";
-    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + folder.size()))
-        text.replace(at, mark.size(), folder);
+std::string without_marks(std::string text, const std::map<std::string, std::string>& marks) {
+    for (std::size_t at = text.find('@'); at != std::string::npos;) {
+        const auto found = std::find_if(marks.begin(), marks.end(), [&](const auto& mark) {
+            return text.compare(at, mark.first.size(), mark.first) == 0;
+        });
+        if (found == marks.end()) {
+            at = text.find('@', at + 1);
+            continue;
+        }
+        text.replace(at, found->first.size(), found->second);
+        at = text.find('@', at + found->second.size());
+    }
     return text;
 }
 
@@ -152,17 +179,48 @@ std::vector<std::string> differences(const files_by_name& expected, const files_
     return all;
 }
 
+std::string difference_from(const encoded_picture& wanted, std::string_view text) {
+    const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+    if (image::format_of_bytes(bytes) != wanted.format)
+        return "is of another format";
+    const auto decoded = image::decode_picture(bytes);
+    if (!decoded)
+        return "does not decode";
+    if (decoded->extent() != wanted.pixels.extent())
+        return "has another size or depth";
+    for (std::size_t i = 0; i < decoded->bytes().size(); ++i)
+        if (std::abs(int{decoded->bytes()[i]} - int{wanted.pixels.bytes()[i]}) > wanted.tolerance)
+            return "differs in byte " + std::to_string(i) + " of its pixels";
+    return {};
+}
+
+void expect_streams(const batch& found) {
+    for (const auto& [name, bytes] : found.files()) {
+        if (!bytes.starts_with(first_line_of_stream))
+            continue;
+        const std::optional<grammar_fault> fault = first_grammar_fault(bytes);
+        const auto line_count = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+        if (!found.breaks_off())
+            EXPECT_EQ(fault, std::nullopt) << name;
+        else
+            EXPECT_TRUE(fault && fault->line == line_count + 1) << name << " does not just break off";
+    }
+}
+
 void expect_batch(const batch& found, const std::string& case_name, const std::set<std::string>& folders) {
-    files_by_name expected = golden_files(case_name, found.folder());
+    files_by_name expected = golden_files(case_name, found.marks());
     expected.insert(found.models().begin(), found.models().end());
-    const std::vector<std::string> wrong = differences(expected, found.files());
-    for (const std::string& one : wrong)
+    expected.insert(found.expected_files().begin(), found.expected_files().end());
+    files_by_name files = found.files();
+    for (const auto& [name, wanted] : found.expected_pictures()) {
+        EXPECT_TRUE(files.contains(name)) << name << " is missing";
+        EXPECT_EQ(difference_from(wanted, files[name]), "") << name;
+        files.erase(name);
+    }
+    for (const std::string& one : differences(expected, files))
         ADD_FAILURE() << one;
     EXPECT_EQ(found.folders(), folders);
-    for (const auto& [name, bytes] : found.files())
-        if (bytes.starts_with(first_line_of_stream)) {
-            EXPECT_EQ(first_grammar_fault(bytes), std::nullopt) << name;
-        }
+    expect_streams(found);
     if (testing::Test::HasFailure())
         GTEST_LOG_(INFO) << "what was found is in " << copy_of(found, case_name);
 }

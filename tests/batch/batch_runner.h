@@ -2,6 +2,8 @@
 
 // Runs the built program in a fresh batch folder and compares all that it leaves with golden files.
 
+#include "image/picture.h"
+#include "image/picture_format.h"
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tests/support/temporary_folder.h"
@@ -26,6 +28,13 @@ inline constexpr std::string_view quiet_errors = "Tessaline Progress [..........
 // The folders that every run of a model that opens makes.
 std::set<std::string> folders_of_every_run();
 
+// A picture that a run encodes: what the file decodes to is compared, since its bytes are the codec's affair.
+struct encoded_picture {
+    image::picture_format format = image::picture_format::unknown;
+    image::picture pixels;
+    int tolerance = 0; // how far a byte may be off; for formats that lose something
+};
+
 using files_by_name = std::map<std::string, std::string>; // names from the batch folder on, with "/" between
 
 // A batch folder of its own in an empty surrounding: no settings of the user, no marker file, a fixed date.
@@ -45,7 +54,17 @@ public:
     void put_model(sketchup::model_builder& m, const std::string& inside = "geometry.qlm",
                    skp::classic_version version = skp::classic_version::v17);
 
-    // Runs the program on "geometry.qlm", with these arguments behind its full name.
+    // In golden files and their names that mark, as "@TREE@", stands for the text.
+    void put_mark(const std::string& mark, const std::string& text);
+    // What a run must leave beside the golden files: a file with these bytes, or a picture.
+    void expect_file(const std::string& inside, std::string_view bytes);
+    void expect_picture(const std::string& inside, encoded_picture wanted);
+
+    // The next runs end before their stream does: it must be right as far as it goes.
+    void expect_break() { may_break_off = true; }
+
+    // Runs the program on "geometry.qlm", with these arguments behind its full name. Every stream that a run leaves in
+    // the batch folder must follow the grammar; otherwise the running test fails.
     run_outcome run(const std::vector<std::string>& more_arguments = {}) const;
     // Runs it with these arguments alone, from that folder.
     run_outcome run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
@@ -63,25 +82,41 @@ public:
     std::set<std::string> folders() const;
     // What put_model wrote last: a run must leave it as it is.
     const files_by_name& models() const { return written_models; }
+    // What was told with expect_break, put_mark, expect_file and expect_picture.
+    bool breaks_off() const { return may_break_off; }
+    const std::map<std::string, std::string>& marks() const { return golden_marks; }
+    const files_by_name& expected_files() const { return files_to_find; }
+    const std::map<std::string, encoded_picture>& expected_pictures() const { return pictures_to_find; }
 
 private:
     temporary_folder outside;
     std::string name;
     std::string full_name;
     files_by_name written_models;
+    std::map<std::string, std::string> golden_marks; // "@BATCH@" among them
+    files_by_name files_to_find;
+    std::map<std::string, encoded_picture> pictures_to_find;
+    bool may_break_off = false;
     std::string date = "1000000000"; // 9 September 2001, 01:46:40
     std::string zone = "UTC";
 };
 
-// A golden text with the folder's name in place of each "@BATCH@".
-std::string with_batch_folder(std::string golden_text, const std::string& folder);
+// A golden text with other texts in place of the marks. What was put in is not looked through again.
+std::string without_marks(std::string golden_text, const std::map<std::string, std::string>& marks);
 
 // One text for each file that is missing, not expected, or different, with its first differing line.
 std::vector<std::string> differences(const files_by_name& expected, const files_by_name& found);
+// What is wrong with the bytes of a picture; empty if nothing is.
+std::string difference_from(const encoded_picture& wanted, std::string_view bytes);
+
+// Fails the running test unless each stream in the batch folder is a whole and right one, or, if runs may break off,
+// right as far as it goes.
+void expect_streams(const batch& found);
 
 // Fails the running test unless the batch folder holds, byte for byte, the golden files of `case_name`, the models that
-// were put there, and these folders, and unless the stream, if there is one, follows the grammar. In golden files
-// "@BATCH@" stands for the full name of the batch folder. What was found is copied for a look when it fails.
+// were put there, what else is expected, and these folders. In golden files "@BATCH@" stands for the full name of the
+// batch folder. What was found is copied for a look when it fails. case_name: of a folder beside this file; with "/" in
+// it, from the folder of the project on.
 void expect_batch(const batch& found, const std::string& case_name,
                   const std::set<std::string>& folders = folders_of_every_run());
 

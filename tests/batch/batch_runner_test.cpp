@@ -1,5 +1,8 @@
 #include "tests/batch/batch_runner.h"
 
+#include "image/encode_picture.h"
+#include "tests/image/pictures.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -29,9 +32,28 @@ TEST(BatchDifferences, missing_and_unexpected_files_are_named) {
     EXPECT_EQ(differences({{"a.txt", ""}}, {{"b.txt", ""}}), (texts{"a.txt is missing", "b.txt is not expected"}));
 }
 
-TEST(BatchGoldenText, every_mark_stands_for_the_batch_folder) {
-    EXPECT_EQ(with_batch_folder("GNDC;@BATCH@/Plants/a\r\n@BATCH@@BATCH", "/tmp/@BATCH@"),
-              "GNDC;/tmp/@BATCH@/Plants/a\r\n/tmp/@BATCH@@BATCH");
+TEST(BatchGoldenText, every_mark_stands_for_its_text) {
+    EXPECT_EQ(without_marks("GNDC;@BATCH@/Plants/a\r\n@ID@@BATCH@@BATCH @", {{"@BATCH@", "/tmp/@ID@"}, {"@ID@", "12"}}),
+              "GNDC;/tmp/@ID@/Plants/a\r\n12/tmp/@ID@@BATCH @");
+}
+
+TEST(BatchPictures, are_compared_by_format_size_and_pixels) {
+    const auto text_of = [](const image::picture& pixels, image::picture_format format) {
+        const std::vector<std::uint8_t> bytes = image::encode_picture(pixels, format);
+        return std::string(bytes.begin(), bytes.end());
+    };
+    using image::picture_format;
+    const image::picture pixels = gradient(4, 3);
+    image::picture off_by_two = pixels;
+    off_by_two.bytes()[7] = static_cast<std::uint8_t>(off_by_two.bytes()[7] + 2);
+    const std::string png = text_of(pixels, picture_format::png);
+    EXPECT_EQ(difference_from({picture_format::png, pixels}, png), "");
+    EXPECT_EQ(difference_from({picture_format::bmp, pixels}, png), "is of another format");
+    EXPECT_EQ(difference_from({picture_format::png, pixels}, png.substr(0, 60)), "does not decode");
+    EXPECT_EQ(difference_from({picture_format::png, gradient(3, 4)}, png), "has another size or depth");
+    EXPECT_EQ(difference_from({picture_format::png, off_by_two}, png), "differs in byte 7 of its pixels");
+    EXPECT_EQ(difference_from({picture_format::png, off_by_two, 1}, png), "differs in byte 7 of its pixels");
+    EXPECT_EQ(difference_from({picture_format::png, off_by_two, 2}, png), "");
 }
 
 TEST(BatchFolder, files_and_folders_are_listed_with_their_names_from_the_batch_folder_on) {

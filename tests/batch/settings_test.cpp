@@ -150,18 +150,4 @@ TEST(SettingsBatch, a_face_without_materials_has_one_block_in_the_modes_0_and_1)
     }
 }
 
-// Colour by layer takes the colour of a face from its layer, so a layer without a colour leaves the face bare.
-TEST(SettingsBatch, colour_by_layer_takes_away_the_materials_of_a_face) {
-    batch b;
-    model_builder m;
-    const sketchup::index red = m.material("Red", {255, 0, 0, 255});
-    const entity_place square = m.root().square(10);
-    m.element(square).material = red;
-    m.face(square).back_material = red;
-    m.model().layers[0].material = no_index;
-    m.model().rendering_options.values.push_back({"DisplayColorByLayer", truth(true)});
-    b.put_model(m);
-    expect_run(b, "one_square");
-}
-
 } // namespace

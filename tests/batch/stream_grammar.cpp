@@ -16,6 +16,12 @@ enum class uvq_use { never, always, all_or_none };
 
 // One function for each item of the format, in the order of the file; each takes its lines or reports a fault.
 class stream_grammar {
+    // The state lines and the mesh of one pass over a face.
+    struct shown_side {
+        int vertices = 0;
+        bool is_alone = false; // seen from its front only
+    };
+
 public:
     explicit stream_grammar(std::vector<std::string_view> all_lines) : lines(std::move(all_lines)) {}
 
@@ -73,7 +79,7 @@ private:
         else if (lines.at("#; Process Group LGHT Lamp Direct Light") ||
                  lines.at("#; Process Instance Lamp Direct Light"))
             take_direct_light();
-        else if (lines.at_tag("TLAY;") && direct_light_seen)
+        else if (lines.at_tag("TLAY;") && inside_direct_light)
             take_bare_face();
         else if (!take_item_of_any_place())
             lines.fail("no item begins so");
@@ -132,18 +138,26 @@ private:
     void take_direct_light() {
         lines.skip();
         lines.take("LGHT;" + std::to_string(lamp_count++));
-        direct_light_seen = true;
+        inside_direct_light = true;
     }
 
     // The shape of a lamp that has no block: what a face block holds, without its first lines.
     void take_bare_face() {
-        take_state_and_mesh(0);
-        lines.take("EMSH;");
+        take_sides([this] {
+            const shown_side taken = take_side(0);
+            lines.take("EMSH;");
+            return taken;
+        });
     }
 
     // ---- blocks of faces
 
     void take_face_block() {
+        inside_direct_light = false; // all that is in one counts as a lamp and has no block
+        take_sides([this] { return take_block_of_side(); });
+    }
+
+    shown_side take_block_of_side() {
         if (block_seen)
             lines.take("EMSH; Face");
         block_seen = true;
@@ -155,8 +169,9 @@ private:
             lines.take_text("GNDC;");
         }
         take_invisible();
-        take_state_and_mesh(0);
+        const shown_side taken = take_side(0);
         lines.take("EMSH;");
+        return taken;
     }
 
     void take_face_lamp_block() {
@@ -168,9 +183,7 @@ private:
         // A face that cannot be cut into triangles leaves the block of its lamp open and empty.
         if (!lines.at_tag("TLAY;"))
             return;
-        int vertices = 0;
-        while (lines.at_tag("TLAY;"))
-            vertices += take_state_and_mesh(vertices);
+        take_face_in_block(0);
         lines.take("EMSH; END OF LAMP");
     }
 
@@ -180,7 +193,7 @@ private:
         int vertices = 0;
         while (!lines.take_if("EMSH; END OF LAMP")) {
             if (lines.at_tag("TLAY;")) {
-                vertices += take_state_and_mesh(vertices);
+                vertices += take_face_in_block(vertices);
             } else if (lines.at("#;") && lines.next_is("#;INSERT IMAGE IN LAMP")) {
                 lines.skip();
                 lines.skip();
@@ -192,6 +205,7 @@ private:
     }
 
     void take_lamp_head() {
+        inside_direct_light = false;
         lines.take("MESH;");
         lines.take("LITE;" + std::to_string(lamp_count++));
         take_invisible();
@@ -205,13 +219,17 @@ private:
         lines.take("CULL;0");
         lines.take("MPUV;1");
         const int material = take_material_number("MATL;");
+        if (material == no_material)
+            lines.fail_before("no material does not glow");
         lines.take("MPU2;1");
         lines.take("MAT2;" + std::to_string(material));
         int vertices = 0;
         while (!lines.take_if("EMSH;") && !lines.take_if("EMSH; END OF ILLUM material")) {
             if (lines.at_tag("NORM;"))
                 vertices += take_mesh(vertices, uvq_use::all_or_none);
-            else if (!take_item_of_any_place())
+            else if (lines.at_tag("MATF;")) // only faces stand between the first and the last of the block
+                take_material();
+            else
                 lines.fail("this cannot stand in an illuminated block");
         }
     }
@@ -221,12 +239,36 @@ private:
             lines.take("SHDW;0");
     }
 
-    // ---- one side of a face
+    // ---- the sides of a face
 
-    // first: the number of the first vertex. Gives how many vertices there are.
-    int take_state_and_mesh(int first) {
+    // A face that shows each of its sides alone gives two, of the same vertices; otherwise one stands for both.
+    // Gives how many vertices there are in all.
+    template<class Take>
+    int take_sides(Take take) {
+        const shown_side front = take();
+        if (!front.is_alone)
+            return front.vertices;
+        const shown_side back = take();
+        if (!back.is_alone)
+            lines.fail_before("the other side of this face must be one-sided too");
+        if (back.vertices != front.vertices)
+            lines.fail_before("the two sides of this face have other vertices");
+        return front.vertices + back.vertices;
+    }
+
+    // Both sides inside a block that gathers faces. first: the number of the first vertex.
+    int take_face_in_block(int first) {
+        return take_sides([this, next = first]() mutable {
+            const shown_side taken = take_side(next);
+            next += taken.vertices;
+            return taken;
+        });
+    }
+
+    shown_side take_side(int first) {
         take_layer_of_geometry();
-        return take_mesh(first, take_materials());
+        const bool is_alone = lines.at("CULL;1");
+        return {take_mesh(first, take_materials()), is_alone};
     }
 
     void take_layer_of_geometry() {
@@ -424,8 +466,8 @@ private:
     std::set<std::string, std::less<>> layer_names;
     int material_count = 0;
     int lamp_count = 0;
-    bool direct_light_seen = false;
-    bool block_seen = false; // a face block, face lamp block or edge block was opened before
+    bool inside_direct_light = false; // or behind one, with no block since
+    bool block_seen = false;          // a face block, face lamp block or edge block was opened before
 };
 
 } // namespace

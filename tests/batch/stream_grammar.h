@@ -20,6 +20,7 @@ std::ostream& operator<<(std::ostream& out, const grammar_fault& fault);
 //
 // Watched beside the order of lines: numbers of layers, lamps, materials and vertices (each from its first number on,
 // none left out; "FACE;" and "MATL;" name only what came before), "UVQ;" records exactly where the block is textured,
-// "LYRS;" exactly in an animation, the second closing line ahead of every face block but the first, and normals that
-// are unit vectors or zero.
+// "LYRS;" exactly in an animation, the second closing line ahead of every face block but the first, the two sides of a
+// face behind one another, faces without a block behind a direct light alone, and normals that are unit vectors or
+// zero.
 std::optional<grammar_fault> first_grammar_fault(std::string_view stream);

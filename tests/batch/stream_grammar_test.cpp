@@ -229,7 +229,8 @@ TEST(StreamGrammar, takes_materials_that_were_declared) {
 
 TEST(StreamGrammar, refuses_a_back_material_in_a_block_of_one_side) {
     const lines one_sided = {"TLAY;Layer0", "CULL;1", "MATL;0"};
-    expect_good({face_head, one_sided, triangle(0), close});
+    const lines front = joined({face_head, one_sided, triangle(0), close});
+    expect_good({front, {"EMSH; Face"}, front});
     expect_bad(6, "a mesh has at least one vertex, found \"MAT2;0\"",
                {face_head, one_sided, {"MAT2;0"}, triangle(0), close});
 }
@@ -242,9 +243,9 @@ TEST(StreamGrammar, wants_texture_coordinates_exactly_in_textured_blocks) {
                {face_head, state, textured_triangle(0), close});
     expect_bad(13, "the third texture coordinate of a face is 1, found \"UVQ;(0,0,0)\"",
                {wall, face_head, textured, textured_triangle(0, "UVQ;(0,0,0)"), close});
+    const lines stray = {"EMSH; Face"};
     const lines behind = {"TLAY;Layer0", "CULL;1", "MATL;10", "MPUV;1"};
-    expect_good({wall, face_head, behind, textured_triangle(0), close});
-    expect_good({wall, face_head, behind, triangle(0), close});
+    expect_good({wall, face_head, behind, textured_triangle(0), close, stray, face_head, behind, triangle(0), close});
 }
 
 TEST(StreamGrammar, a_lamp_block_gathers_faces_images_and_declarations) {
@@ -277,9 +278,8 @@ TEST(StreamGrammar, lamps_count_from_0_whatever_their_kind) {
     expect_bad(5, "\"LITE;1\" must stand here, found \"LITE;0\"", {point_light, lamp_head, end_of_lamp});
 }
 
-TEST(StreamGrammar, a_face_lamp_closes_the_block_before_and_holds_both_passes_of_one_face) {
+TEST(StreamGrammar, a_face_lamp_closes_the_block_before) {
     const lines face_lamp = {"#; Process Face Lamp MESH", "MESH;", "LITE;0"};
-    expect_good({face_lamp, state, triangle(0), state, triangle(3), end_of_lamp});
     expect_good({face_block,
                  {"EMSH; Close for new Face Lamp MESH"},
                  face_lamp,
@@ -292,21 +292,110 @@ TEST(StreamGrammar, a_face_lamp_closes_the_block_before_and_holds_both_passes_of
                {face_block, face_lamp, state, triangle(0), end_of_lamp});
 }
 
+TEST(StreamGrammar, the_two_sides_of_a_face_follow_one_another) {
+    const lines alone = {"TLAY;Layer0", "CULL;1", "MATL;0"};
+    const lines front = joined({face_head, alone, triangle(0), close});
+    const lines stray = {"EMSH; Face"};
+    expect_bad(17, "\"EMSH; Face\" must stand here, found \"#;\"", {front});
+    expect_bad(34, "the other side of this face must be one-sided too, found \"EMSH;\"", {front, stray, face_block});
+    expect_bad(17, "\"EMSH; Face\" must stand here, found \"MATF;COL%3a0012_Wall.OrnMaterial\"",
+               {front, wall, stray, front});
+    lines larger = triangle(0);
+    larger.insert(larger.begin() + 9, {"NORM;(0,0,1)", "VERT;(1,1,0)", "ADDV;3"});
+    expect_bad(36, "the two sides of this face have other vertices, found \"EMSH;\"",
+               {front, stray, face_head, alone, larger, close});
+}
+
+TEST(StreamGrammar, the_two_sides_of_a_face_number_on_inside_a_lamp) {
+    const lines alone = {"TLAY;Layer0", "CULL;1", "MATL;0"};
+    expect_good({lamp_head, alone, triangle(0), alone, triangle(3), state, triangle(6), end_of_lamp});
+    expect_bad(17, "\"TLAY;\" must stand here, found \"EMSH; END OF LAMP\"",
+               {lamp_head, alone, triangle(0), end_of_lamp});
+}
+
+TEST(StreamGrammar, a_face_lamp_holds_one_face_alone_or_nothing) {
+    const lines face_lamp = {"#; Process Face Lamp MESH", "MESH;", "LITE;0"};
+    const lines alone = {"TLAY;Layer0", "CULL;1", "MATL;0"};
+    expect_good({face_lamp, alone, triangle(0), alone, triangle(3), end_of_lamp});
+    expect_good({face_lamp, {"EMSH; Face"}, face_block}); // its face could not be cut: the block stays open and empty
+    expect_good({face_lamp, {"INVS;1", "SHDW;0"}});
+    expect_bad(18, "\"EMSH; END OF LAMP\" must stand here, found \"TLAY;Layer0\"",
+               {face_lamp, state, triangle(0), state, triangle(3), end_of_lamp});
+    expect_bad(18, "\"EMSH; END OF LAMP\" must stand here, found \"EMSH;\"", {face_lamp, state, triangle(0), close});
+}
+
+const lines glowing = {
+    "#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10", "MPU2;1", "MAT2;10"};
+const lines end_of_glow = {"EMSH; END OF ILLUM material"};
+
 TEST(StreamGrammar, an_illuminated_block_has_one_state_for_all_its_faces) {
-    const lines glowing = {
-        "#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10", "MPU2;1", "MAT2;10"};
-    expect_good({wall, glowing, triangle(0), textured_triangle(3), {"EMSH; END OF ILLUM material"}, face_block});
+    expect_good({wall, glowing, triangle(0), textured_triangle(3), end_of_glow, face_block});
     expect_good({wall, glowing, triangle(0), close, face_block});
+    expect_good({wall, glowing, end_of_glow}); // its face could not be cut
     expect_bad(22, "this cannot stand in an illuminated block, found \"TLAY;Layer0\"",
                {wall, glowing, triangle(0), state, triangle(3), close});
+    expect_bad(24, "\"ADDV;3\" must stand here, found \"ADDV;0\"", {wall, glowing, triangle(0), triangle(0), close});
+    expect_bad(22, "this cannot stand in an illuminated block, found \"EMSH; END OF LAMP\"",
+               {wall, glowing, triangle(0), end_of_lamp});
+}
+
+TEST(StreamGrammar, only_declarations_stand_between_the_faces_of_an_illuminated_block) {
+    const lines door = {"MATF;COL%3a0013_Door.OrnMaterial", "MTX2;1", "MATI;11"};
+    expect_good({wall, glowing, triangle(0), door, triangle(3), end_of_glow});
+    expect_bad(22, "this cannot stand in an illuminated block, found \"CLPN;(0,0,1)\"",
+               {wall, glowing, triangle(0), {"CLPN;(0,0,1)", "CLPP;(1,2,3)"}, end_of_glow});
+    expect_bad(22, "this cannot stand in an illuminated block, found \"#; Process Group Lamp\"",
+               {wall, glowing, triangle(0), lamp_head, end_of_lamp, end_of_glow});
+}
+
+TEST(StreamGrammar, what_glows_is_a_declared_material_and_the_same_on_both_sides) {
+    lines wrong = joined({wall, glowing, triangle(0), end_of_glow});
+    wrong[8] = "MATL;0";
+    expect_bad(9, "no material does not glow, found \"MATL;0\"", {wrong});
+    wrong[8] = "MATL;11";
+    expect_bad(9, "no material has this number, found \"MATL;11\"", {wrong});
+    wrong[8] = "MATL;10";
+    wrong[10] = "MAT2;0";
+    expect_bad(11, "\"MAT2;10\" must stand here, found \"MAT2;0\"", {wrong});
+}
+
+TEST(StreamGrammar, a_hidden_block_says_so_behind_its_lamp_and_ahead_of_its_state) {
+    const lines hidden = {"INVS;1", "SHDW;0"};
+    const lines glow_state(glowing.begin() + 2, glowing.end());
+    expect_good({wall, {"#; Process Material Illum MESH", "MESH;"}, hidden, glow_state, triangle(0), end_of_glow});
+    expect_bad(4, "this cannot stand in the block of a lamp, found \"SHDW;0\"",
+               {lamp_head, {"SHDW;0"}, state, triangle(0), end_of_lamp});
+    expect_bad(5, "\"SHDW;0\" must stand here, found \"TLAY;Layer0\"",
+               {lamp_head, {"INVS;1"}, state, triangle(0), end_of_lamp});
+    expect_bad(3, "\"LITE;0\" must stand here, found \"INVS;1\"",
+               {{"#; Process Group Lamp", "MESH;"}, hidden, {"LITE;0"}, state, triangle(0), end_of_lamp});
 }
 
 TEST(StreamGrammar, bare_faces_need_a_direct_light_before_them) {
     const lines bare = joined({state, triangle(0), close});
+    const lines alone = joined({{"TLAY;Layer0", "CULL;1", "MATL;0"}, triangle(0), close});
     expect_good({point_light, bare, bare});
+    expect_good({point_light, alone, alone, bare});
     expect_good({face_block, {"#; Process Group LGHT Lamp Direct Light", "LGHT;0"}, bare, {"EMSH; Face"}, face_block});
     expect_bad(1, "no item begins so, found \"TLAY;Layer0\"", {bare});
     expect_bad(17, "\"EMSH;\" must stand here, found \"#;\"", {point_light, state, triangle(0)});
+    expect_bad(17, "\"TLAY;\" must stand here, found \"#;\"", {point_light, alone});
+}
+
+TEST(StreamGrammar, a_block_of_faces_or_of_a_lamp_ends_what_belongs_to_a_direct_light) {
+    const lines bare = joined({state, triangle(0), close});
+    expect_bad(20, "no item begins so, found \"TLAY;Layer0\"", {point_light, face_block, bare});
+    expect_bad(7, "no item begins so, found \"TLAY;Layer0\"",
+               {point_light, {"#; Process Group Lamp", "MESH;", "LITE;1"}, end_of_lamp, bare});
+    expect_good({wall, point_light, bare, glowing, triangle(0), end_of_glow, bare});
+}
+
+TEST(StreamGrammar, a_direct_light_is_a_line_with_the_next_lamp_number) {
+    expect_good({point_light, {"#; Process Group LGHT Lamp Direct Light", "LGHT;1"}});
+    expect_bad(2, "\"LGHT;0\" must stand here, found \"LGHT;1\"",
+               {{"#; Process Instance Lamp Direct Light", "LGHT;1"}});
+    expect_bad(4, "this cannot stand in the block of a lamp, found \"#; Process Instance Lamp Direct Light\"",
+               {lamp_head, {"#; Process Instance Lamp Direct Light", "LGHT;1"}, end_of_lamp});
 }
 
 TEST(StreamGrammar, an_image_block_has_its_own_forms) {

@@ -13,14 +13,35 @@ struct seed {
 };
 
 constexpr seed seeds[] = {
+    {"fuzz_object_attributes", "lamp",
+     "qlw_lamp;sorndll_lamp_type;spot\nqlw_lamp;rorndll_lamp_size;12\nqlw_lamp;cqlw_lamp_color;#ff8040\n\n"
+     "qlw_overrides;intensity_override_mode;%\nqlw_overrides;intensity_override_value;50\n"},
+    {"fuzz_object_attributes", "numbers",
+     "Vellane_object_properties;light_type;-1\nVellane_object_properties;light_direction;5\n"
+     "qlw_lamp;ivl_lamp_channel;2147483647\nqlw_lamp;rorndll_lamp_intensity_lumens;1e308\n"
+     "qlw_placement_settings;light_color_override_value;rgb(1,2,3)\n"},
     {"fuzz_ini", "empty", ""},
     {"fuzz_ini", "profile",
      "; mine\r\n[Globals]\r\nsvl_name=a b\r\nivl_number = -5 \r\n\r\n[Common]\r\nPhone=\"1\"\r\n"},
     {"fuzz_ini", "plain_line_ends", "\xEF\xBB\xBF[a]\nkey=1\nKEY=2\n[b]\n[A]\nkey='3'\nno end"},
     {"fuzz_ini", "rubbish", "=x\n[open\n]\r\r\n[]\n=\n;[a]\n[a] ; behind\nkey=[\"]=;"},
+    {"fuzz_hex_chunks", "nothing", ""},
+    {"fuzz_hex_chunks", "one_chunk",
+     "ORNZyn Material Settings=41;1;x;\n"
+     "ORNZyn Material Settings_chunk0=[ORNZyn Material Settings][00000004]-4869"},
+    {"fuzz_hex_chunks", "missing_chunks",
+     "ORNZyn Material Settings=2147483647;3;x;\n"
+     "ORNZyn Material Settings_chunk2=4869\nORNZyn Material Settings_chunk=[ORNZyn"},
+    {"fuzz_hex_chunks", "far_chunk",
+     "ORNZyn Material Settings=9000000000;2147483647;x;\nORNZyn Material Settings_chunk2147483646=48"},
+    {"fuzz_hex_chunks", "chunk_below_0", "ORNZyn Material Settings_chunk-1=48"},
+    {"fuzz_hex_chunks", "bare_frame", "[ORNZyn Material Settings][00000007]-4869zz48"},
+    {"fuzz_hex_chunks", "length_that_lies", "[ORNZyn Material Settings][99999999]-48"},
     {"fuzz_ini", "two_bytes_a_letter", "\xFF\xFE[a]\nkey=1\n"},
     {"fuzz_ini", "names", "a]|[key=;|'x'\r\n\"|[a]\nkey=1\n"},
     {"fuzz_ini", "names_of_the_file", " A | Key |two words|[a]\r\nkey = 1 \r\n"},
+    {"fuzz_names", "escaped", "50%5 R%26D%zz%"},
+    {"fuzz_names", "leading_away", "%252/../..\\away & \t.png"},
     {"fuzz_setting_text", "number", " -2147483649.5e3 and more"},
     {"fuzz_setting_text", "above_32_bits", "4294967296"},
     {"fuzz_setting_text", "no_number", "nan"},

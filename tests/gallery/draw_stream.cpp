@@ -1,21 +1,20 @@
-// Draws a geometry stream as the camera of its model sees it:
-//     draw_stream MODEL STREAM PICTURE.png
-// Faces are shaded by their vertex normals; front sides are light, back sides bluish.
+// Draws a converted model as its own camera sees it, from the stream and the materials and pictures beside it:
+//     draw_stream MODEL STREAM PICTURE.png [WIDTH HEIGHT]
 
 #include "platform/platform.h"
 #include "sketchup/SketchUpAPI.h"
 #include "tests/gallery/model_camera.h"
 #include "tests/gallery/rasterizer.h"
+#include "tests/gallery/stream_painter.h"
 #include "tools/batch_reading/stream_reader.h"
 
-#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
 constexpr double metres_in_an_inch = 0.0254;
-constexpr std::size_t picture_width = 480;
-constexpr std::size_t picture_height = 320;
+constexpr std::size_t samples_a_pixel_side = 3;
 
 view camera_of_file(const std::string& model_file) {
     view result;
@@ -27,38 +26,16 @@ view camera_of_file(const std::string& model_file) {
     return result;
 }
 
-class painter : public stream_visitor {
-public:
-    painter(rasterizer& into, const vec& seen_from) : picture(into), eye(seen_from) {}
-
-    void triangle(const stream_triangle& found) override {
-        std::array<vec, 3> corners{};
-        vec normal{};
-        for (std::size_t i = 0; i < 3; ++i) {
-            corners[i] = found.corners[i]->position;
-            for (std::size_t k = 0; k < 3; ++k)
-                normal[k] += found.corners[i]->normal[k] / 3;
-        }
-        const double towards = normal[0] * (eye[0] - corners[0][0]) + normal[1] * (eye[1] - corners[0][1]) +
-                               normal[2] * (eye[2] - corners[0][2]);
-        const double light = 0.55 + 0.25 * normal[2] + 0.2 * normal[0] - 0.1 * normal[1];
-        const double shade = towards >= 0 ? light : 0.55 - (light - 0.55);
-        if (towards >= 0)
-            picture.draw(corners, {shade, shade, shade * 0.95});
-        else
-            picture.draw(corners, {shade * 0.8, shade * 0.85, shade});
-    }
-
-private:
-    rasterizer& picture;
-    vec eye;
-};
+std::string folder_of(const std::string& file_name) {
+    const std::size_t separator = file_name.rfind('/');
+    return separator == std::string::npos ? "." : file_name.substr(0, separator);
+}
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 4) {
-        std::fputs("usage: draw_stream MODEL STREAM PICTURE.png\n", stderr);
+    if (argc != 4 && argc != 6) {
+        std::fputs("usage: draw_stream MODEL STREAM PICTURE.png [WIDTH HEIGHT]\n", stderr);
         return 2;
     }
     SUInitialize();
@@ -69,8 +46,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "draw_stream: cannot read %s\n", argv[2]);
         return 1;
     }
-    rasterizer picture(seen, picture_width, picture_height);
-    painter with(picture, seen.eye);
+    const std::size_t width = argc == 6 ? std::strtoul(argv[4], nullptr, 10) : 480;
+    const std::size_t height = argc == 6 ? std::strtoul(argv[5], nullptr, 10) : 320;
+    rasterizer picture(seen, width, height, samples_a_pixel_side);
+    stream_painter with(folder_of(argv[2]), picture);
     read_stream({reinterpret_cast<const char*>(bytes->data()), bytes->size()}, with);
+    with.finish();
     return picture.write_png(argv[3]) ? 0 : 1;
 }

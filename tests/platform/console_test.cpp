@@ -54,6 +54,17 @@ TEST(DebugOutput, is_lost_quietly_if_the_file_cannot_be_made) {
     EXPECT_EQ(written_to_error([] { platform::debug_output("line\n"); }), "");
 }
 
+TEST(DebugOutput, is_heard_if_it_is_asked_for) {
+    for (const char* target : {"-", "trace.txt"}) {
+        const with_environment trace("TESSALINE_TRACE", target);
+        EXPECT_TRUE(platform::debug_output_is_heard());
+    }
+    for (const std::optional<std::string>& target : {std::optional<std::string>(), std::optional<std::string>("")}) {
+        const with_environment trace("TESSALINE_TRACE", target);
+        EXPECT_FALSE(platform::debug_output_is_heard());
+    }
+}
+
 TEST(Console, a_pipe_is_no_terminal) {
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);

@@ -168,6 +168,21 @@ TEST(Trace, level_nine_is_silent_without_the_log_file) {
     EXPECT_EQ(capture.text(), "");
 }
 
+TEST(Trace, is_heard_while_its_lines_go_anywhere) {
+    const trace_capture capture;
+    EXPECT_TRUE(traces_are_heard());
+    trace_state().trace_enabled = false;
+    EXPECT_FALSE(traces_are_heard());
+    trace_state().trace_enabled = true;
+    const with_environment nobody_listens("TESSALINE_TRACE", std::nullopt);
+    EXPECT_FALSE(traces_are_heard());
+    trace_state().log_always = true;
+    EXPECT_TRUE(traces_are_heard());
+    trace_state().log_always = false;
+    trace_state().error_list_active = true;
+    EXPECT_TRUE(traces_are_heard());
+}
+
 TEST(Trace, the_extraction_log_is_closed) {
     EXPECT_FALSE(trace_state().extraction_log.is_open());
 }

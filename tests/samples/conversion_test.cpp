@@ -1,9 +1,8 @@
 // Every sample converted by the built program: what the stream shows against the figures of an independent reader.
 
-#include "tests/run_program.h"
+#include "tests/samples/convert_sample.h"
 #include "tests/samples/expected_figures.h"
 #include "tests/samples/known_exceptions.h"
-#include "tests/support/temporary_folder.h"
 #include "tools/batch_reading/stream_reader.h"
 
 #include <algorithm>
@@ -46,17 +45,6 @@ public:
 private:
     static std::array<double, 3> filled(double value) { return {value, value, value}; }
 };
-
-std::string convert(const std::string& sample, const temporary_folder& batch) {
-    std::filesystem::copy_file(samples_folder() + sample, batch / "geometry.qlm");
-    const temporary_folder home; // the settings of whoever runs the tests are neither read nor written
-    const program_result run =
-        run_program("XDG_CONFIG_HOME=" + shell_quoted(home / "config") + " HOME=" + shell_quoted(home.name()) + " " +
-                    shell_quoted(TESSALINE_PROGRAM) + " " + shell_quoted(batch / "geometry.qlm") + " 2>/dev/null");
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.output, "");
-    return batch.read("batch_file.txt");
-}
 
 std::string without_date_line(const std::string& stream) {
     const std::size_t first = stream.find('\n') + 1;

@@ -62,11 +62,115 @@ TEST(HexEncode, a_second_text_replaces_what_the_first_gave) {
     EXPECT_TRUE(decoder.data.empty());
 }
 
+TEST(HexEncode, an_odd_length_gives_the_bytes_of_its_whole_pairs) {
+    cl_hex_encode decoder;
+    EXPECT_EQ(decoder.decode_hex_string("n", "[n][00000007]-48494a4b4c"), 3);
+    EXPECT_EQ(decoder.data, (bytes{0x48, 0x49, 0x4a}));
+    EXPECT_EQ(decoder.data_size, 3);
+    EXPECT_EQ(decoder.hex_length, 7);
+}
+
+TEST(HexEncode, the_name_is_compared_over_its_own_length_only) {
+    const trace_capture trace;
+    cl_hex_encode decoder;
+    EXPECT_EQ(decoder.decode_hex_string("abc", "[abcd][00000002]-48"), 0);
+    EXPECT_THAT(trace.text(),
+                testing::HasSubstr("encoded string for abc does not end with ']': ( [abcd][00000002]-48 )"));
+}
+
+TEST(HexEncode, a_length_of_0_is_an_empty_result_without_a_report) {
+    const trace_capture trace;
+    cl_hex_encode decoder;
+    EXPECT_EQ(decoder.decode_hex_string("n", "[n][00000000]-48"), 0);
+    EXPECT_TRUE(decoder.data.empty());
+    EXPECT_EQ(trace.text(), "");
+}
+
+TEST(HexEncode, a_length_below_0_is_an_empty_result) {
+    cl_hex_encode decoder;
+    EXPECT_EQ(decoder.decode_hex_string("n", "[n][-0000004]-4849"), 0);
+    EXPECT_TRUE(decoder.data.empty());
+}
+
+TEST(HexEncode, a_wrong_digit_at_position_5_leaves_two_bytes_set_and_the_announced_size) {
+    cl_hex_encode decoder;
+    EXPECT_EQ(decoder.decode_hex_string("n", "[n][00000008]-48494x4b"), 4);
+    EXPECT_EQ(decoder.data, (bytes{0x48, 0x49, 0, 0}));
+    EXPECT_EQ(decoder.data_size, 4);
+}
+
+TEST(HexEncode, the_largest_length_that_a_frame_can_say_asks_for_50_megabytes_and_no_more) {
+    cl_hex_encode decoder;
+    EXPECT_EQ(decoder.decode_hex_string("n", "[n][99999999]-48"), 49999999);
+    EXPECT_EQ(decoder.data.size(), 49999999U);
+    EXPECT_EQ(decoder.data[0], 0x48);
+    EXPECT_EQ(decoder.data[1], 0);
+}
+
+TEST(HexEncode, every_shorter_frame_is_taken_without_reading_past_its_end) {
+    const std::string whole = "[name][00000004]-4849";
+    for (std::size_t length = 0; length != whole.size(); ++length) {
+        const std::vector<char> exact(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
+        cl_hex_encode decoder;
+        const std::int32_t size = decoder.decode_hex_string("name", {exact.data(), exact.size()});
+        EXPECT_EQ(size, length < 16 ? 0 : 2) << length; // the frame's last bracket is the 16th character
+        EXPECT_EQ(decoder.text_length, static_cast<std::int32_t>(length));
+    }
+}
+
 TEST(HexDigits, more_pairs_than_there_is_room_for_are_refused) {
+    bytes two(2);
+    std::int32_t count = 1;
+    EXPECT_FALSE(decode_hex_digits("4849", 4, two, count));
+    EXPECT_EQ(count, 1);
+    EXPECT_TRUE(decode_hex_digits("48", 2, two, count));
+    EXPECT_EQ(count, 1);
+}
+
+TEST(HexDigits, no_digits_are_no_bytes) {
     bytes one(1);
-    EXPECT_FALSE(decode_hex_digits("4849", one));
-    EXPECT_TRUE(decode_hex_digits("48", one));
-    EXPECT_TRUE(decode_hex_digits("", one));
+    for (const std::int32_t digits : {0, -1}) {
+        std::int32_t count = 1;
+        EXPECT_TRUE(decode_hex_digits("48", digits, one, count));
+        EXPECT_EQ(count, 0);
+    }
+}
+
+TEST(HexDigits, an_odd_last_digit_is_paired_with_the_character_behind_it) {
+    bytes four(4);
+    std::int32_t count = 3;
+    EXPECT_TRUE(decode_hex_digits("48494a4b4c", 7, four, count));
+    EXPECT_EQ(count, 4);
+    EXPECT_EQ(four, (bytes{0x48, 0x49, 0x4a, 0x4b}));
+}
+
+TEST(HexDigits, an_odd_last_digit_with_nothing_behind_it_or_no_room_for_it_is_a_fault) {
+    bytes four(4);
+    std::int32_t count = 3;
+    EXPECT_FALSE(decode_hex_digits("48494a4", 7, four, count));
+    EXPECT_EQ(count, 3);
+    bytes three(3);
+    EXPECT_FALSE(decode_hex_digits("48494a4b", 7, three, count));
+    EXPECT_EQ(count, 3);
+    EXPECT_EQ(three, (bytes{0x48, 0x49, 0x4a}));
+}
+
+TEST(HexDigits, a_fault_leaves_the_count_and_the_bytes_in_front_of_it) {
+    bytes two(2);
+    for (const char* text : {"48g0", "480g", "48 9", "48"}) {
+        std::int32_t count = 2;
+        EXPECT_FALSE(decode_hex_digits(text, 4, two, count)) << text;
+        EXPECT_EQ(count, 2);
+        EXPECT_EQ(two[0], 0x48);
+    }
+}
+
+TEST(HexDigits, nothing_to_read_from_or_to_write_to_is_a_fault) {
+    bytes one(1);
+    std::int32_t count = 1;
+    EXPECT_FALSE(decode_hex_digits({}, 2, one, count));
+    EXPECT_FALSE(decode_hex_digits("48", 2, {}, count));
+    EXPECT_EQ(count, 1);
 }
 
 } // namespace

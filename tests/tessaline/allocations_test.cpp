@@ -1,7 +1,7 @@
 // A face costs no allocation of its own once the buffers are warm.
 
 #include "tests/tessaline/count_allocations.h"
-#include "tests/tessaline/reader_fixture.h"
+#include "tests/tessaline/painted_model.h"
 
 #include <gtest/gtest.h>
 
@@ -39,5 +39,41 @@ TEST_F(Allocations, the_second_thousand_faces_add_none) {
             reader.ProcessFace(square, identity16, false, "");
     };
     write_thousand();
+    EXPECT_EQ(allocations_during(write_thousand), 0);
+}
+
+using PaintedAllocations = painted_model_test;
+
+// Two textures, one of them inherited on one side, and a plain material with a long name: each face asks for two.
+TEST_F(PaintedAllocations, the_second_thousand_painted_faces_add_none) {
+    const auto brick = textured(12, "A textured material with a name that is long");
+    const auto plain_one = plain(13, "A plain material with a name that is long, too");
+    square(brick, plain_one);
+    square(plain_one, brick);
+    square(brick);
+    open_painted();
+    const std::vector<SUFaceRef> squares = faces();
+    const auto write_thousand = [&] {
+        for (int i = 0; i != 1000; ++i)
+            reader.ProcessFace(squares[static_cast<std::size_t>(i) % squares.size()], identity16, false, "");
+    };
+    write_thousand();
+    EXPECT_EQ(material_records.size(), 3U);
+    EXPECT_EQ(allocations_during(write_thousand), 0);
+}
+
+TEST_F(PaintedAllocations, the_second_thousand_faces_in_the_colours_of_their_layers_add_none) {
+    theApp.color_by_layer = true;
+    square(sketchup::no_index);
+    builder.model().layers[0].material = textured(12, "A textured material with a name that is long");
+    open_painted();
+    const SUFaceRef face = faces().front();
+    current_oparms->reflection = 50;
+    const auto write_thousand = [&] {
+        for (int i = 0; i != 1000; ++i)
+            reader.ProcessFace(face, identity16, false, "");
+    };
+    write_thousand();
+    EXPECT_EQ(material_records.size(), 1U);
     EXPECT_EQ(allocations_during(write_thousand), 0);
 }

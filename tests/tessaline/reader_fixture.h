@@ -9,6 +9,7 @@
 #include "tessaline/handle_lists.h"
 #include "tessaline/run_state.h"
 #include "tessaline/SketchUpReader.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tessaline/stream_text.h"
 
 #include <gtest/gtest.h>
@@ -23,6 +24,7 @@ protected:
         reset_settings();
         set_global_bool("bvl_show_bulbs", true);
         set_global_int("ivl_2_sided_faces", 0);
+        theApp.batch_folder = batch.name();
         SUInitialize();
         reader.stream.open(stream_name.c_str(), "Tessaline");
         current_oparms = oparms_array.push();
@@ -69,6 +71,7 @@ protected:
     }
 
     const std::string stream_name = test_file_name();
+    temporary_folder batch; // where lamps, materials and pictures go
     SketchUpReader reader;
     sketchup::model_builder builder;
 };

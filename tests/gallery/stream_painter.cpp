@@ -1,0 +1,116 @@
+#include "tests/gallery/stream_painter.h"
+
+#include "image/decode_picture.h"
+#include "platform/platform.h"
+#include "tools/batch_reading/material_reader.h"
+
+#include <charconv>
+#include <cstdio>
+
+namespace {
+
+constexpr std::uint64_t most_bytes = std::uint64_t{1} << 30U; // of a material file or a picture
+constexpr color front_of_nothing = {1, 1, 1};                 // a side without a material
+constexpr color back_of_nothing = {0.72, 0.76, 0.88};
+
+color color_from(std::uint32_t blue_green_red) {
+    constexpr std::uint32_t channel = 0xff;
+    return {(blue_green_red & channel) / 255.0, (blue_green_red >> 8U & channel) / 255.0,
+            (blue_green_red >> 16U & channel) / 255.0};
+}
+
+color shaded(const color& paint, const stream_triangle& found, bool front) {
+    vec normal{};
+    for (const stream_vertex* corner : found.corners)
+        for (std::size_t i = 0; i < normal.size(); ++i)
+            normal[i] += corner->normal[i] / 3;
+    const double side = front ? 1 : -1;
+    const double light = 0.87 + side * (0.09 * normal[2] + 0.06 * normal[0] - 0.04 * normal[1]);
+    return {paint.red * light, paint.green * light, paint.blue * light};
+}
+
+} // namespace
+
+stream_painter::stream_painter(std::string batch_folder, rasterizer& into)
+    : folder(std::move(batch_folder)), picture(into) {}
+
+const image::picture* stream_painter::picture_of(const std::string& path) {
+    const auto [entry, is_new] = pictures.try_emplace(path);
+    if (is_new) {
+        if (const auto bytes = platform::read_file(path, most_bytes))
+            entry->second =
+                image::decode_picture({reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()});
+        if (!entry->second)
+            std::fprintf(stderr, "draw_stream: no picture %s\n", path.c_str());
+    }
+    return entry->second ? &*entry->second : nullptr;
+}
+
+stream_painter::paint stream_painter::declared(const std::string& material_name) {
+    paint result;
+    const std::string path = folder + "/ZynBatch_Materials/" + file_of_material(material_name);
+    const auto bytes = platform::read_file(path, most_bytes);
+    const auto material = bytes ? read_material_file({reinterpret_cast<const char*>(bytes->data()), bytes->size()})
+                                : std::optional<read_material>();
+    if (!material) {
+        std::fprintf(stderr, "draw_stream: no material %s\n", path.c_str());
+        return result;
+    }
+    result.plain = color_from(material->color);
+    result.opacity = 1 - material->transparency;
+    if (!material->image_path.empty())
+        result.picture = picture_of(material->image_path);
+    return result;
+}
+
+void stream_painter::record(std::string_view tag, std::string_view payload) {
+    if (tag == "MATF")
+        last_name = payload;
+    if (tag != "MATI")
+        return;
+    int number = 0;
+    std::from_chars(payload.data(), payload.data() + payload.size(), number);
+    paints[number] = declared(last_name);
+}
+
+stream_painter::paint stream_painter::paint_of(const stream_triangle& found, bool front) const {
+    const auto declared_paint = paints.find(front || found.one_sided ? found.material : found.back_material);
+    paint result;
+    if (declared_paint != paints.end())
+        result = declared_paint->second;
+    else
+        result.plain = front ? front_of_nothing : back_of_nothing;
+    if (!found.corners[0]->has_uvq)
+        result.picture = nullptr;
+    result.plain = shaded(result.plain, found, front);
+    return result;
+}
+
+void stream_painter::triangle(const stream_triangle& found) {
+    clear_triangle t;
+    for (std::size_t i = 0; i < t.corners.size(); ++i) {
+        t.corners[i] = found.corners[i]->position;
+        t.points[i] = {found.corners[i]->uvq[0], found.corners[i]->uvq[1]};
+    }
+    const bool front = picture.sees_front(t.corners);
+    if (found.one_sided && !front)
+        return;
+    t.with = paint_of(found, front);
+    if (t.with.opacity < 1 || (t.with.picture && t.with.picture->has_alpha()))
+        clear.push_back(t);
+    else
+        draw(t);
+}
+
+void stream_painter::draw(const clear_triangle& t) {
+    if (t.with.picture)
+        picture.draw(t.corners, t.points, *t.with.picture, t.with.opacity);
+    else
+        picture.draw(t.corners, t.with.plain, t.with.opacity);
+}
+
+void stream_painter::finish() {
+    for (const clear_triangle& t : clear)
+        draw(t);
+    clear.clear();
+}

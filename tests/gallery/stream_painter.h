@@ -1,0 +1,47 @@
+#pragma once
+
+// Draws a geometry stream with the materials that lie beside it in its batch folder. Pictures are shown as they are,
+// plain colours lightly shaded by the vertex normals.
+
+#include "image/picture.h"
+#include "tests/gallery/rasterizer.h"
+#include "tools/batch_reading/stream_reader.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+class stream_painter : public stream_visitor {
+public:
+    // batch_folder: where the stream lies.
+    stream_painter(std::string batch_folder, rasterizer& into);
+
+    void record(std::string_view tag, std::string_view payload) override;
+    void triangle(const stream_triangle& found) override;
+    // Draws what is not opaque, which has waited until all else stands.
+    void finish();
+
+private:
+    struct paint {
+        color plain = {1, 1, 1};
+        const image::picture* picture = nullptr;
+        double opacity = 1;
+    };
+    struct clear_triangle {
+        std::array<vec, 3> corners;
+        std::array<picture_point, 3> points;
+        paint with;
+    };
+    paint declared(const std::string& material_name);
+    const image::picture* picture_of(const std::string& path);
+    paint paint_of(const stream_triangle& found, bool front) const;
+    void draw(const clear_triangle& t);
+
+    std::string folder;
+    rasterizer& picture;
+    std::string last_name;                                         // of "MATF;"
+    std::map<int, paint> paints;                                   // by material number
+    std::map<std::string, std::optional<image::picture>> pictures; // by full name
+    std::vector<clear_triangle> clear;
+};

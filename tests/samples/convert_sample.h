@@ -1,0 +1,23 @@
+#pragma once
+
+// A sample converted by the built program.
+
+#include "tests/run_program.h"
+#include "tests/samples_folder.h"
+#include "tests/support/temporary_folder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+
+// Converts the sample in that folder, which is empty. Gives the stream; empty if the model does not open.
+inline std::string convert(const std::string& sample, const temporary_folder& batch) {
+    std::filesystem::copy_file(samples_folder() + sample, batch / "geometry.qlm");
+    const temporary_folder home; // the settings of whoever runs the tests are neither read nor written
+    const program_result run =
+        run_program("XDG_CONFIG_HOME=" + shell_quoted(home / "config") + " HOME=" + shell_quoted(home.name()) + " " +
+                    shell_quoted(TESSALINE_PROGRAM) + " " + shell_quoted(batch / "geometry.qlm") + " 2>/dev/null");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output, "");
+    return batch.read("batch_file.txt");
+}
