@@ -37,4 +37,10 @@ byte_list encode_tiff(const picture& source);
 std::optional<picture_extent> tga_extent(byte_view file);
 std::optional<picture> decode_tga(byte_view file, std::uint64_t limit);
 
+std::optional<picture_extent> gif_extent(byte_view file); // of the first frame and the screen around it
+std::optional<picture> decode_gif(byte_view file, std::uint64_t limit);
+
+std::optional<picture_extent> psd_extent(byte_view file);
+std::optional<picture> decode_psd(byte_view file, std::uint64_t limit);
+
 } // namespace image

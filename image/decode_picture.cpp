@@ -17,6 +17,10 @@ std::optional<picture_extent> picture_size(std::span<const std::uint8_t> file) {
         return tiff_extent(file);
     case picture_format::tga:
         return tga_extent(file);
+    case picture_format::gif:
+        return gif_extent(file);
+    case picture_format::psd:
+        return psd_extent(file);
     default:
         return std::nullopt;
     }
@@ -34,6 +38,10 @@ std::optional<picture> decode_picture(std::span<const std::uint8_t> file, std::u
         return decode_tiff(file, limit);
     case picture_format::tga:
         return decode_tga(file, limit);
+    case picture_format::gif:
+        return decode_gif(file, limit);
+    case picture_format::psd:
+        return decode_psd(file, limit);
     default:
         return std::nullopt;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-// From the bytes of a picture file to pixels. The signature tells the format: PNG, JPEG, BMP, TIFF, TGA.
+// From the bytes of a picture file to pixels. The signature tells the format: PNG, JPEG, BMP, TIFF, TGA, GIF, PSD.
 
 #include "image/picture.h"
 

@@ -6,7 +6,7 @@
 
 namespace image {
 
-// Formats of picture files that are told apart. GIF and PSD are known by sight and neither read nor written.
+// Formats of picture files that are told apart. TGA, GIF and PSD are read and not written.
 enum class picture_format { unknown, png, jpeg, bmp, tiff, tga, gif, psd };
 
 // The format of a file by its first bytes. TGA has no signature: bytes count as TGA if no other format claims them and

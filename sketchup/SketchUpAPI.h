@@ -607,7 +607,7 @@ enum SUResult SUSceneGetName(SUSceneRef scene, SUStringRef* name);
 // NO_DATA if the scene keeps no camera.
 enum SUResult SUSceneGetCamera(SUSceneRef scene, SUCameraRef* camera);
 
-// NO_DATA for an unknown key.
+// NO_DATA for an unknown key. A rendering option that the file does not store has the value of a new model.
 enum SUResult SURenderingOptionsGetValue(SURenderingOptionsRef options, const char* key, SUTypedValueRef* value);
 enum SUResult SUShadowInfoGetValue(SUShadowInfoRef info, const char* key, SUTypedValueRef* value);
 

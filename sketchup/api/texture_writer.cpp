@@ -95,7 +95,7 @@ bool write_straightened(const texture_writer::entry& entry, const std::string& p
 } // namespace
 
 side_coordinates coordinates_for_writer(const face& f, face_side side, const texture_writer* writer) {
-    if (writer && id_of_distorted(*writer, f, side) != 0)
+    if (writer && id_of_distorted(*writer, f, side) != 0 && texture_of_side(*f.owner, f, side))
         return straightened_coordinates(*f.owner, f);
     return coordinates_of_side(*f.owner, f, side);
 }

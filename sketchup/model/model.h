@@ -84,7 +84,7 @@ struct curve : entity {
     curve() : entity(entity_kind::curve) {}
     bool is_arc = false;
     bool is_polygon = false;
-    // Only of an arc; the axes are as long as the radius, the angles in radians.
+    // Only of an arc; the axes are as long as the radius, the angles in radians, equal for a circle.
     vec3 center, normal, x_axis, y_axis;
     double start_angle = 0;
     double end_angle = 0;

@@ -82,6 +82,10 @@ const std::vector<attribute> usual = {
     flag("DisplaySectionPlanes", true),
     flag("DisplaySectionCuts", true),
     number("TransparencySort", 0),
+    // No file is known to store these three.
+    color("BandColor", 0, 0, 0),
+    flag("ShowViewName", true),
+    flag("SectionCutDrawEdges", true),
 };
 
 } // namespace

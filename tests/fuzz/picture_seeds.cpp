@@ -20,5 +20,7 @@ std::vector<std::pair<std::string, std::vector<std::uint8_t>>> picture_seeds() {
         {"colour.tif", image::encode_picture(noise(5, 4), tiff)},
         {"alpha.tif", image::encode_picture(noise(5, 4, 32), tiff)},
         {"runs.tga", packed_tga()},
+        {"small.gif", small_gif()},
+        {"runs.psd", packed_psd()},
     };
 }

@@ -58,10 +58,24 @@ color model_painter::option_color(SUModelRef model, const char* key, const color
     return known ? color_from(found) : otherwise;
 }
 
+bool model_painter::option_is_on(SUModelRef model, const char* key) {
+    SURenderingOptionsRef options = SU_INVALID;
+    SUTypedValueRef value = SU_INVALID;
+    bool is_on = false;
+    SUModelGetRenderingOptions(model, &options);
+    SUTypedValueCreate(&value);
+    if (SURenderingOptionsGetValue(options, key, &value) == SU_ERROR_NONE)
+        SUTypedValueGetBool(value, &is_on);
+    SUTypedValueRelease(&value);
+    return is_on;
+}
+
 model_painter::model_painter(SUModelRef model, texture_source from, rasterizer& into)
     : model_(model), source(from), picture(into), front_color(option_color(model, "FaceFrontColor", {1, 1, 1})),
-      back_color(option_color(model, "FaceBackColor", {0.65, 0.67, 0.78})) {
+      back_color(option_color(model, "FaceBackColor", {0.65, 0.67, 0.78})),
+      color_by_layer(option_is_on(model, "DisplayColorByLayer")) {
     SUTextureWriterCreate(&writer);
+    SUModelGetDefaultLayer(model, &default_layer);
 }
 
 model_painter::~model_painter() {
@@ -71,7 +85,7 @@ model_painter::~model_painter() {
 void model_painter::draw() {
     SUEntitiesRef root = SU_INVALID;
     SUModelGetEntities(model_, &root);
-    draw_list(root, {sketchup::identity_transform, SU_INVALID});
+    draw_list(root, {sketchup::identity_transform, SU_INVALID, default_layer});
     for (const clear_triangle& t : clear)
         if (t.with.picture)
             picture.draw(t.corners, t.points, *t.with.picture, t.with.opacity);
@@ -109,7 +123,7 @@ void model_painter::draw_placement(SUComponentInstanceRef instance, const place&
     SUComponentInstanceGetTransform(instance, &own);
     SUComponentInstanceGetDefinition(instance, &definition);
     SUComponentDefinitionGetEntities(definition, &list);
-    place inner = {in_place(at.transform, own), at.material};
+    place inner = {in_place(at.transform, own), at.material, layer_of(element, at)};
     SUDrawingElementGetMaterial(element, &inner.material);
     draw_list(list, inner);
 }
@@ -140,8 +154,16 @@ model_painter::paint model_painter::paint_of(SUMaterialRef material, SUFaceRef f
     return result;
 }
 
+SULayerRef model_painter::layer_of(SUDrawingElementRef element, const place& at) const {
+    SULayerRef own = default_layer;
+    SUDrawingElementGetLayer(element, &own);
+    return SUAreEqual(own, default_layer) ? at.layer : own;
+}
+
 model_painter::paint model_painter::paint_of(SUFaceRef face, bool front, const place& at) {
     SUMaterialRef own = SU_INVALID;
+    if (color_by_layer && SULayerGetMaterial(layer_of(SUFaceToDrawingElement(face), at), &own) == SU_ERROR_NONE)
+        return paint_of(own, face, front, false);
     if ((front ? SUFaceGetFrontMaterial : SUFaceGetBackMaterial)(face, &own) == SU_ERROR_NONE)
         return paint_of(own, face, front, true);
     if (SUIsValid(at.material))

@@ -31,6 +31,8 @@ std::vector<named_file> small_files() {
         {"rle bmp", rle8_bmp()},
         {"tiff", encode_picture(noise(9, 7, 32), picture_format::tiff)},
         {"tga", packed_tga()},
+        {"gif", small_gif()},
+        {"psd", packed_psd()},
     };
 }
 
@@ -71,9 +73,10 @@ TEST(DecodePicture, cut_before_its_last_pixels_fails_where_the_format_tells) {
         file.resize(file.size() / 2);
         EXPECT_FALSE(decode_picture(file)) << static_cast<int>(format);
     }
-    std::vector<std::uint8_t> tga = packed_tga();
-    tga.pop_back();
-    EXPECT_FALSE(decode_picture(tga));
+    for (std::vector<std::uint8_t> file : {packed_tga(), packed_psd()}) {
+        file.pop_back();
+        EXPECT_FALSE(decode_picture(file));
+    }
 }
 
 TEST(DecodePicture, shows_what_is_there_of_a_jpeg_that_ends_early) {

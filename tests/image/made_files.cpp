@@ -164,3 +164,17 @@ std::vector<std::uint8_t> packed_tga() {
                     "82 FF 00 00"
                     "02 00 00 FF 00 FF 00 FF FF FF");
 }
+
+std::vector<std::uint8_t> small_gif() {
+    return bytes_of("47 49 46 38 39 61 02 00 02 00 81 00 00" // GIF89a, screen 2 × 2, a palette of 4
+                    "00 00 00 FF 00 00 00 FF 00 00 00 FF"
+                    "2C 00 00 00 00 02 00 02 00 00" // frame
+                    "02 03 44 34 05 00 3B");        // codes of 3 bits: 4 (clear) 0 1 2, then of 4 bits: 3 5 (end)
+}
+
+std::vector<std::uint8_t> packed_psd() {
+    return bytes_of("38 42 50 53 00 01 00 00 00 00 00 00 00 03 00 00 00 01 00 00 00 02 00 08 00 03" // RGB, 8 bits
+                    "00 00 00 00 00 00 00 00 00 00 00 00" // no palette, no resources, no layers
+                    "00 01 00 02 00 03 00 02"             // packed; rows of 2, 3 and 2 bytes
+                    "FF 0A 01 0B 0C FF 0D");              // a run of 2, 2 as they are, a run of 2
+}

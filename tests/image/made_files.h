@@ -42,3 +42,9 @@ std::vector<std::uint8_t> rle8_bmp();
 
 // 3 × 2 pixels of 24 bits run-length packed, from the bottom: a run of 3 blue, then red, green, white as they are.
 std::vector<std::uint8_t> packed_tga();
+
+// 2 × 2 pixels of the palette black, red, green, blue, in that order from the top.
+std::vector<std::uint8_t> small_gif();
+
+// 2 × 1 pixels, run-length packed: reds 0A 0A, greens 0B 0C, blues 0D 0D.
+std::vector<std::uint8_t> packed_psd();

@@ -79,15 +79,30 @@ void print_content(SUModelRef model) {
     }
 }
 
+// What a component does beyond lying where it is placed; empty for nothing.
+std::string behavior_text(const SUComponentBehavior& behavior) {
+    constexpr const char* glue[] = {"", " glues to anything", " glues to level faces", " glues to upright faces",
+                                    " glues to sloped faces"};
+    std::string text = glue[behavior.component_snap];
+    const auto add = [&text](bool holds, const char* what) {
+        if (holds)
+            text += (text.empty() ? "" : ",") + std::string(what);
+    };
+    add(behavior.component_cuts_opening, " cuts openings");
+    add(behavior.component_always_face_camera, " always faces the camera");
+    add(behavior.component_shadows_face_sun, " its shadow faces the sun");
+    add(behavior.component_no_scale_mask != 0, " hides scale handles");
+    return text;
+}
+
 void print_behaviours(SUModelRef model) {
     for (const SUComponentDefinitionRef definition :
          su_list(model, SUModelGetNumComponentDefinitions, SUModelGetComponentDefinitions)) {
         SUComponentBehavior behavior = {};
         SUComponentDefinitionGetBehavior(definition, &behavior);
-        if (behavior.component_always_face_camera || behavior.component_cuts_opening)
-            std::printf("  component %s:%s%s\n", su_text(definition, SUComponentDefinitionGetName).c_str(),
-                        behavior.component_always_face_camera ? " always faces the camera" : "",
-                        behavior.component_cuts_opening ? " cuts openings" : "");
+        const std::string text = behavior_text(behavior);
+        if (!text.empty())
+            std::printf("  component %s:%s\n", su_text(definition, SUComponentDefinitionGetName).c_str(), text.c_str());
     }
 }
 
@@ -109,6 +124,7 @@ void print_rendering_options(SUModelRef model) {
 
 void print_parts(SUModelRef model) {
     print_camera(model);
+    print_sun(model);
     print_scenes(model);
     print_content(model);
     print_behaviours(model);

@@ -9,8 +9,10 @@
 // Counts, sizes, layers, materials and, by print_parts, what else a model holds, as lines of text.
 void print_summary(const std::string& file_name, SUModelRef model);
 
-// The camera, scenes, images, section planes, behaviours of components and rendering options, a line each.
+// The camera, sun, scenes, images, section planes, behaviours of components and rendering options, a line each.
 void print_parts(SUModelRef model);
+// Place, time and direction to the sun, a line each.
+void print_sun(SUModelRef model);
 
 // One JSON object on one line: "opens", "bytes", "container", "version", the counts, "layers", "materials",
 // "dictionaries", "scenes", and under "placed" and "written" what the model shows once flattened.

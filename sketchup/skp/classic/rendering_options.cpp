@@ -2,6 +2,7 @@
 
 #include "sketchup/skp/classic/model_reader.h"
 #include "sketchup/skp/classic/option_fields.h"
+#include "sketchup/skp/draw_hidden.h"
 
 namespace skp {
 namespace {
@@ -46,6 +47,7 @@ sketchup::rendering_options model_reader::read_rendering_options(bool& display_s
         if (field.name != nullptr)
             options.values.push_back({field.name, std::move(value)});
     }
+    add_draw_hidden(options.values);
     return options;
 }
 

@@ -2,6 +2,7 @@
 
 #include "sketchup/skp/format_error.h"
 #include "sketchup/skp/modern/xml_names.h"
+#include "sketchup/skp/text_encoding.h"
 
 #include <charconv>
 #include <pugixml.hpp>
@@ -34,6 +35,11 @@ T number(pugi::xml_node element, const char* attribute) {
     return number_in<T>(element.attribute(attribute).value());
 }
 
+// What is no UTF-8 becomes U+FFFD.
+std::string text(pugi::xml_node element, const char* attribute) {
+    return well_formed_utf8(element.attribute(attribute).value());
+}
+
 std::uint8_t channel(pugi::xml_node element, const char* attribute) {
     return number<std::uint8_t>(element, attribute);
 }
@@ -49,7 +55,8 @@ std::string text_of(pugi::xml_node element) {
     std::string sections, plain;
     for (const pugi::xml_node part : element.children())
         (part.type() == pugi::node_cdata ? sections : plain) += part.value();
-    return element.find_child([](pugi::xml_node n) { return n.type() == pugi::node_cdata; }) ? sections : plain;
+    const bool has_sections = element.find_child([](pugi::xml_node n) { return n.type() == pugi::node_cdata; });
+    return well_formed_utf8(has_sections ? sections : plain);
 }
 
 // The value of an attribute whose type is numbered as in the classic container; nothing for a type whose text form
@@ -85,17 +92,17 @@ std::optional<sketchup::typed_value> value_of(pugi::xml_node element) {
 
 sketchup::attribute_dictionary read_dictionary(pugi::xml_node element, xml_names& names) {
     sketchup::attribute_dictionary d;
-    d.name = element.attribute("name").value();
+    d.name = text(element, "name");
     for (const pugi::xml_node entry : element.children())
         if (names.matches(entry, types_namespace, "Attribute"))
             if (auto value = value_of(entry))
-                d.entries.push_back({entry.attribute("key").value(), std::move(*value)});
+                d.entries.push_back({text(entry, "key"), std::move(*value)});
     return d;
 }
 
 texture_fields read_texture(pugi::xml_node element, xml_names& names) {
     texture_fields t;
-    t.file_name = element.attribute("textureFilename").value();
+    t.file_name = text(element, "textureFilename");
     t.width = number<double>(element, "xScale");
     t.height = number<double>(element, "yScale");
     t.average_color = color_from(number<std::uint32_t>(element, "avgColor"));
@@ -103,13 +110,13 @@ texture_fields read_texture(pugi::xml_node element, xml_names& names) {
     const pugi::xml_node image = names.child(images, material_namespace, "image");
     t.picture_path = image.attribute("path").value();
     if (t.file_name.empty())
-        t.file_name = image.attribute("file_name").value();
+        t.file_name = text(image, "file_name");
     return t;
 }
 
 material_document read_material(pugi::xml_node element, xml_names& names) {
     material_document m;
-    m.name = element.attribute("name").value();
+    m.name = text(element, "name");
     m.color = {channel(element, "colorRed"), channel(element, "colorGreen"), channel(element, "colorBlue"), 255};
     const auto type = number<std::uint32_t>(element, "type");
     if (type <= static_cast<std::uint32_t>(sketchup::material_type::colorized))

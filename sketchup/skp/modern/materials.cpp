@@ -2,6 +2,7 @@
 
 #include "sketchup/skp/modern/model_data_reader.h"
 #include "sketchup/skp/modern/tags.h"
+#include "sketchup/skp/text_encoding.h"
 
 #include <string_view>
 #include <utility>
@@ -37,7 +38,7 @@ model_data_reader::index model_data_reader::read_material(byte_cursor in) {
         if (r.tag == tag::entity)
             base = value;
         else if (r.tag == tag::material_folder)
-            folder = text_in(value);
+            folder = bytes_in(value);
         else if (r.tag == tag::material_private)
             material.is_private = value.boolean();
     }
@@ -45,7 +46,7 @@ model_data_reader::index model_data_reader::read_material(byte_cursor in) {
         return sketchup::no_index;
     material.id = m_.give_id();
     read_entity(*base, material);
-    material.name = folder;
+    material.name = well_formed_utf8(folder);
     take_document(folder, material);
     const auto place = static_cast<index>(m_.materials.size());
     materials_.insert(static_cast<std::uint64_t>(material.persistent_id), place);

@@ -1,5 +1,7 @@
 #include "sketchup/skp/modern/records.h"
 
+#include "sketchup/skp/text_encoding.h"
+
 #include <algorithm>
 
 namespace skp::modern {
@@ -48,9 +50,13 @@ std::uint64_t id_in(byte_cursor payload) {
     return id;
 }
 
-std::string text_in(byte_cursor payload) {
+std::string bytes_in(byte_cursor payload) {
     const std::span<const std::uint8_t> bytes = payload.bytes(payload.left());
     return {bytes.begin(), bytes.end()};
+}
+
+std::string text_in(byte_cursor payload) {
+    return well_formed_utf8(bytes_in(payload));
 }
 
 sketchup::guid guid_in(byte_cursor payload) {

@@ -71,6 +71,8 @@ bool looks_like_records(byte_cursor payload);
 
 // An integer of 0 to 8 bytes; 0, which nothing has for an id, for an empty payload. Fails for more bytes.
 std::uint64_t id_in(byte_cursor payload);
+// The bytes as they stand, and as text: what is no UTF-8 becomes U+FFFD.
+std::string bytes_in(byte_cursor payload);
 std::string text_in(byte_cursor payload);
 sketchup::guid guid_in(byte_cursor payload);
 

@@ -1,5 +1,6 @@
 // The rendering options: one record for each, by the names that the C interface gives them.
 
+#include "sketchup/skp/draw_hidden.h"
 #include "sketchup/skp/modern/model_data_reader.h"
 #include "sketchup/skp/modern/option_fields.h"
 #include "sketchup/skp/modern/tags.h"
@@ -27,22 +28,6 @@ sketchup::typed_value read_option(byte_cursor in, value_code type) {
     default:
         return boolean_value(in.boolean());
     }
-}
-
-const sketchup::attribute* named(const std::vector<sketchup::attribute>& values, const char* name) {
-    const auto found = std::ranges::find(values, name, &sketchup::attribute::key);
-    return found == values.end() ? nullptr : &*found;
-}
-
-// What used to be one option is two since 2020; the interface still shows the old one.
-void add_draw_hidden(std::vector<sketchup::attribute>& values) {
-    const sketchup::attribute* geometry = named(values, "DrawHiddenGeometry");
-    const sketchup::attribute* objects = named(values, "DrawHiddenObjects");
-    if (named(values, "DrawHidden") != nullptr || (geometry == nullptr && objects == nullptr))
-        return;
-    const auto is_on = [](const sketchup::attribute* a) { return a != nullptr && std::get<bool>(a->value.data); };
-    const bool any = is_on(geometry) || is_on(objects);
-    values.push_back({"DrawHidden", boolean_value(any)});
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "sketchup/skp/writer/material_document_writer.h"
 
 #include "sketchup/skp/modern/formats.h"
-#include "sketchup/skp/writer/text_encoding.h"
+#include "sketchup/skp/text_encoding.h"
 
 #include <array>
 #include <charconv>

@@ -3,9 +3,9 @@
 #include "sketchup/skp/writer/modern_writer.h"
 
 #include "sketchup/skp/modern/formats.h"
+#include "sketchup/skp/text_encoding.h"
 #include "sketchup/skp/writer/modern_bodies.h"
 #include "sketchup/skp/writer/modern_tags.h"
-#include "sketchup/skp/writer/text_encoding.h"
 #include "sketchup/skp/writer/zip_archive.h"
 
 #include <string_view>

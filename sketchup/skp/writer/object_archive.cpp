@@ -1,6 +1,6 @@
 #include "sketchup/skp/writer/object_archive.h"
 
-#include "sketchup/skp/writer/text_encoding.h"
+#include "sketchup/skp/text_encoding.h"
 
 #include <stdexcept>
 

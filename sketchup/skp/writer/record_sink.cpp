@@ -1,6 +1,6 @@
 #include "sketchup/skp/writer/record_sink.h"
 
-#include "sketchup/skp/writer/text_encoding.h"
+#include "sketchup/skp/text_encoding.h"
 
 #include <limits>
 #include <stdexcept>

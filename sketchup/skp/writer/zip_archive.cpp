@@ -12,6 +12,8 @@ namespace {
 constexpr zip_uint16_t midnight = 0;
 constexpr zip_uint16_t first_of_january_1980 = 0x0021; // the earliest date that the format can state
 
+constexpr zip_uint32_t level = 6; // the library's own 9 takes nine times as long on records and saves nothing
+
 [[noreturn]] void fail(const std::string& what) {
     throw std::runtime_error("cannot make an archive: " + what);
 }
@@ -33,7 +35,7 @@ void add(zip_t* archive, const archive_entry& entry) {
         fail(entry.name + ": " + zip_strerror(archive));
     }
     const auto place = static_cast<zip_uint64_t>(at);
-    if (zip_set_file_compression(archive, place, ZIP_CM_DEFLATE, 0) != 0 ||
+    if (zip_set_file_compression(archive, place, ZIP_CM_DEFLATE, level) != 0 ||
         zip_file_set_dostime(archive, place, midnight, first_of_january_1980, 0) != 0)
         fail(entry.name + ": " + zip_strerror(archive));
 }

@@ -105,6 +105,45 @@ size opened_as_bmp(const std::string& path) {
     return !is_packed && file.size() >= needed ? found : size{};
 }
 
+// Blue, green, red from the top row down; alpha is shown on black.
+std::vector<std::uint8_t> pixels_of_png(const std::string& path) {
+    png_image png{};
+    png.version = PNG_IMAGE_VERSION;
+    if (!png_image_begin_read_from_file(&png, path.c_str()))
+        return {};
+    png.format = PNG_FORMAT_BGRA;
+    std::vector<std::uint8_t> pixels(PNG_IMAGE_SIZE(png));
+    if (!png_image_finish_read(&png, nullptr, pixels.data(), 0, nullptr))
+        return {};
+    std::vector<std::uint8_t> without_alpha;
+    for (std::size_t i = 0; i < pixels.size(); i += 4)
+        without_alpha.insert(without_alpha.end(), pixels.begin() + static_cast<std::ptrdiff_t>(i),
+                             pixels.begin() + static_cast<std::ptrdiff_t>(i) + 3);
+    return without_alpha;
+}
+
+// The same of a BMP of 24 bits, or of 8 with a palette, with its rows from the bottom; none for any other.
+std::vector<std::uint8_t> pixels_of_bmp(const std::string& path) {
+    const std::vector<std::uint8_t> file = file_bytes(path);
+    const auto number = [&](std::size_t at) { return std::size_t{file[at]} + (std::size_t{file[at + 1]} << 8); };
+    if (file.size() < 34)
+        return {};
+    const bool is_oldest = number(14) == 12;
+    const std::size_t width = number(18), height = number(is_oldest ? 20 : 22), bits = number(is_oldest ? 24 : 28);
+    const std::size_t row = (width * bits / 8 + 3) / 4 * 4;
+    const std::size_t palette = 14 + number(14), entry = is_oldest ? 3 : 4;
+    if ((bits != 24 && bits != 8) || file.size() < number(10) + row * height)
+        return {};
+    std::vector<std::uint8_t> pixels;
+    for (std::size_t y = height; y-- > 0;)
+        for (std::size_t x = 0; x < width; ++x) {
+            const std::size_t stored = number(10) + y * row + x * bits / 8;
+            const std::uint8_t* color = &file[bits == 24 ? stored : palette + file[stored] * entry];
+            pixels.insert(pixels.end(), color, color + 3);
+        }
+    return pixels;
+}
+
 size opened_by_itself(const std::string& path) {
     switch (image::format_of_name(path)) {
     case picture_format::png:
@@ -120,6 +159,8 @@ size opened_by_itself(const std::string& path) {
 
 constexpr std::size_t most_pixels_of_all_formats = 1 << 18; // larger ones are written in their own format alone
 
+constexpr std::size_t most_pixels_compared = 1 << 16;
+
 // Writes every texture of a model, and gives how many there are.
 int expect_textures_open_elsewhere(const std::string& name, const temporary_folder& folder) {
     const sample_model opened(name);
@@ -130,8 +171,10 @@ int expect_textures_open_elsewhere(const std::string& name, const temporary_fold
         const SUTextureRef texture = sketchup::api::handle_of<SUTextureRef>(t);
         size_t width = 0, height = 0;
         double s = 0, v = 0;
-        if (SUTextureGetDimensions(texture, &width, &height, &s, &v) != SU_ERROR_NONE)
+        if (SUTextureGetDimensions(texture, &width, &height, &s, &v) != SU_ERROR_NONE) {
+            EXPECT_EQ(t.picture, sketchup::no_index) << name << " " << t.file_name;
             continue;
+        }
         ++count;
         const std::string stored_name = text_from(SUTextureGetFileName, texture);
         std::vector<std::string> extensions = {".png"};
@@ -145,8 +188,13 @@ int expect_textures_open_elsewhere(const std::string& name, const temporary_fold
             EXPECT_EQ(opened_by_itself(path),
                       (size{static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height)}))
                 << name << " " << stored_name << " as " << extension;
-            std::filesystem::remove(path);
         }
+        if (width * height <= most_pixels_compared) {
+            EXPECT_TRUE(pixels_of_bmp(folder / "picture.bmp") == pixels_of_png(folder / "picture.png"))
+                << name << " " << stored_name;
+        }
+        for (const auto& file : std::filesystem::directory_iterator(folder.name()))
+            std::filesystem::remove(file);
     }
     return count;
 }

@@ -58,3 +58,16 @@ TEST(RenderingOptions, are_found_by_name) {
     EXPECT_EQ(SURenderingOptionsGetValue(options, nullptr, &value.ref), SU_ERROR_NULL_POINTER_INPUT);
     EXPECT_EQ(SURenderingOptionsGetValue(SU_INVALID, "DrawGround", &value.ref), SU_ERROR_INVALID_INPUT);
 }
+
+TEST(RenderingOptions, that_the_file_does_not_store_have_the_values_of_a_new_model) {
+    model_builder builder;
+    test_model opened(builder);
+    SURenderingOptionsRef options = SU_INVALID;
+    EXPECT_EQ(SUModelGetRenderingOptions(opened.ref, &options), SU_ERROR_NONE);
+    test_value value;
+    int32_t mode = 0;
+    EXPECT_EQ(SURenderingOptionsGetValue(options, "RenderMode", &value.ref), SU_ERROR_NONE);
+    EXPECT_EQ(SUTypedValueGetInt32(value.ref, &mode), SU_ERROR_NONE);
+    EXPECT_EQ(mode, 2);
+    EXPECT_EQ(SURenderingOptionsGetValue(options, "FaceColorMode", &value.ref), SU_ERROR_NO_DATA);
+}

@@ -1,6 +1,7 @@
 #include "tests/sketchup/api/painted_faces.h"
 #include "tests/sketchup/api/test_model.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 using sketchup::entity_place;
@@ -195,4 +196,35 @@ TEST(TextureWriter, forgets_everything_when_released) {
     EXPECT_EQ(next.count(), 0u);
     long id = 0;
     EXPECT_EQ(SUTextureWriterGetTextureIdForFace(next.ref, opened.face(), true, &id), SU_ERROR_GENERIC);
+}
+
+TEST(TextureWriter, keeps_its_numbers_when_a_side_loses_its_paint) {
+    model_builder builder;
+    const sketchup::index bricks = brick(builder);
+    const entity_place face = painted(builder, bricks, bricks);
+    position(builder, face, &texture_mapping::front, distorted);
+    test_model opened(builder);
+    const test_writer writer;
+    EXPECT_EQ(load(writer, opened.face()), (side_ids{SU_ERROR_NONE, 1, 2}));
+    EXPECT_EQ(SUFaceSetFrontMaterial(opened.face(), SU_INVALID), SU_ERROR_NONE);
+    EXPECT_EQ(SUFaceSetBackMaterial(opened.face(), SU_INVALID), SU_ERROR_NONE);
+    EXPECT_EQ(writer.count(), 2u);
+    bool affine = true;
+    EXPECT_EQ(SUTextureWriterIsTextureAffine(writer.ref, 1, &affine), SU_ERROR_NONE);
+    EXPECT_FALSE(affine);
+    long id = 7;
+    EXPECT_EQ(SUTextureWriterGetTextureIdForFace(writer.ref, opened.face(), true, &id), SU_ERROR_GENERIC);
+    EXPECT_EQ(id, 7);
+    // Without paint the coordinates are inches, although the distorted side is still known.
+    SUUVHelperRef helper = SU_INVALID;
+    SUFaceGetUVHelper(opened.face(), true, true, writer.ref, &helper);
+    const SUPoint3D point = {5, 6, 0};
+    SUUVQ at{};
+    EXPECT_EQ(SUUVHelperGetFrontUVQ(helper, &point, &at), SU_ERROR_NONE);
+    EXPECT_EQ((std::array{at.u, at.v, at.q}), (std::array{5.0, 6.0, 1.0}));
+    SUUVHelperRelease(&helper);
+    EXPECT_EQ(SUFaceSetFrontMaterial(opened.face(), opened.material(bricks)), SU_ERROR_NONE);
+    EXPECT_EQ(SUFaceSetBackMaterial(opened.face(), opened.material(bricks)), SU_ERROR_NONE);
+    EXPECT_EQ(load(writer, opened.face()), (side_ids{SU_ERROR_NONE, 1, 2}));
+    EXPECT_EQ(writer.count(), 2u);
 }

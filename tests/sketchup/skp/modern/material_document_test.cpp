@@ -154,3 +154,16 @@ TEST(MaterialDocument, of_more_than_64_mib_is_refused) {
     EXPECT_EQ(read(material + blanks).name, "a");
     EXPECT_THROW(read(material + blanks + ' '), format_error);
 }
+
+TEST(MaterialDocument, replaces_what_is_no_utf_8) {
+    const material_document m = read("<mat:material name=\"caf\xE9\"><n0:AttributeDictionaries>"
+                                     "<n0:AttributeDictionary name=\"\xFF\"><n0:Attribute key=\"k\x80\" type=\"10\">"
+                                     "\xC3</n0:Attribute></n0:AttributeDictionary></n0:AttributeDictionaries>"
+                                     "</mat:material>");
+    EXPECT_EQ(m.name, "caf\xEF\xBF\xBD");
+    ASSERT_EQ(m.dictionaries.size(), 1u);
+    EXPECT_EQ(m.dictionaries[0].name, "\xEF\xBF\xBD");
+    ASSERT_EQ(m.dictionaries[0].entries.size(), 1u);
+    EXPECT_EQ(m.dictionaries[0].entries[0].key, "k\xEF\xBF\xBD");
+    EXPECT_EQ(std::get<std::string>(m.dictionaries[0].entries[0].value.data), "\xEF\xBF\xBD");
+}

@@ -116,3 +116,9 @@ TEST(PrimitivePayloads, give_text_guid_and_doubles) {
     EXPECT_THROW(guid_in(byte_cursor(bytes(15, 0))), format_error);
     EXPECT_THROW((doubles_in<2>(byte_cursor(bytes(15, 0)))), format_error);
 }
+
+TEST(PrimitivePayloads, of_text_replace_what_is_no_utf_8_but_give_the_bytes_as_they_stand) {
+    const bytes broken = {'a', 0xFF, 0xC3, 0xA9, 0xE2, 0x82};
+    EXPECT_EQ(text_in(byte_cursor(broken)), "a\xEF\xBF\xBD\xC3\xA9\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(bytes_in(byte_cursor(broken)), "a\xFF\xC3\xA9\xE2\x82");
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-// Text as it goes into files: any bytes in, well-formed UTF-16 or UTF-8 out.
+// Text on its way into files and out of them: any bytes in, well-formed UTF-16 or UTF-8 out.
 
 #include <string>
 #include <string_view>

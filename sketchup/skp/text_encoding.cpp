@@ -1,5 +1,6 @@
-#include "sketchup/skp/writer/text_encoding.h"
+#include "sketchup/skp/text_encoding.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace skp {
@@ -59,6 +60,12 @@ std::string well_formed_utf8(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
+        // Attributes may carry whole files as letters and digits.
+        const auto plain = std::ranges::find_if(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+        result.append(text.begin(), plain);
+        text.remove_prefix(static_cast<std::size_t>(plain - text.begin()));
+        if (text.empty())
+            break;
         const decoded next = first_point(text);
         const bool is_wrong = next.length == 1 && next.point == replacement;
         result += is_wrong ? replacement_utf8 : text.substr(0, next.length);
