@@ -75,7 +75,7 @@ const std::vector<integer_key> integer_keys = {
 struct text_key {
     const char* dictionary;
     const char* key;
-    std::string cl_slp_light::*field;
+    shared_text cl_slp_light::*field;
 };
 const std::vector<text_key> text_keys = {
     {lamp, "sorndll_lamp_type", &cl_slp_light::lamp_type},
