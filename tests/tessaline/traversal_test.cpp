@@ -5,6 +5,7 @@
 #include "sketchup/api/handles.h"
 #include "sketchup/skp/link.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -252,6 +253,35 @@ TEST_F(Traversal, components_inside_a_spot_with_beams_neither_begin_nor_end_its_
                             "TLAY;QLW_Lamp_Beam_Glow", "TLAY;Layer0"));
     EXPECT_THAT(tagged(lines, "EMSH"), ElementsAre("EMSH; END OF LAMP", "EMSH;", "EMSH; Face", "EMSH;", "EMSH; Face",
                                                    "EMSH;", "EMSH; Face", "EMSH;"));
+}
+
+TEST_F(Traversal, the_second_walk_of_a_spot_passes_over_images_and_edges) {
+    set_global_int("ivl_edge_lines", 2); // those that bound no face
+    model_builder m;
+    const auto glow = m.layer("QLW_Lamp_Beam_Glow");
+    list_builder lamp = m.component("lamp");
+    m.attribute(lamp.list(), "qlw_lamp", "sorndll_lamp_type", sketchup::text("spot_beams"));
+    square_on(m, lamp, glow);
+    lamp.image(m.image_definition({1, 2, 3}, "no picture.bmp", 2, 2));
+    lamp.edge({0, 0, 0}, {0, 0, 5});
+    m.root().instance(lamp);
+    const auto lines = body_of(m);
+    EXPECT_THAT(tagged(lines, "LITE"), ElementsAre("LITE;0"));
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "#;INSERT IMAGE IN LAMP"), 1);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "#;NEW MESH for Image"), 0);
+    const auto edges = std::find(lines.begin(), lines.end(), "#;EDGES");
+    ASSERT_NE(edges, lines.end());
+    EXPECT_EQ(tagged({edges, lines.end()}, "VERT").size(), 16u); // the beam of one edge
+}
+
+// Only components have one: the glow of a group's beams is not written at all.
+TEST_F(Traversal, a_group_that_is_a_spot_with_beams_has_no_second_walk) {
+    model_builder m;
+    const auto glow = m.layer("QLW_Lamp_Beam_Glow");
+    list_builder lamp = m.root().group();
+    m.attribute(lamp.placement(), "qlw_lamp", "sorndll_lamp_type", sketchup::text("spot_beams"));
+    square_on(m, lamp, glow);
+    EXPECT_THAT(body_of(m), ElementsAre("#; Process Group Lamp", "MESH;", "LITE;0", "EMSH; END OF LAMP"));
 }
 
 TEST_F(Traversal, a_plant_is_not_walked) {
