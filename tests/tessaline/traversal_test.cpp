@@ -284,6 +284,14 @@ TEST_F(Traversal, a_group_that_is_a_spot_with_beams_has_no_second_walk) {
     EXPECT_THAT(body_of(m), ElementsAre("#; Process Group Lamp", "MESH;", "LITE;0", "EMSH; END OF LAMP"));
 }
 
+TEST_F(Traversal, an_image_behind_glowing_faces_has_numbers_of_its_own) {
+    model_builder m;
+    m.element(m.root().square(10)).material = m.material("Warm_glow80", {255, 214, 140, 255});
+    m.root().image(m.image_definition({1, 2, 3}, "no picture.bmp", 2, 2));
+    EXPECT_THAT(tagged(body_of(m), "ADDV"),
+                ElementsAre("ADDV;0", "ADDV;1", "ADDV;2", "ADDV;3", "ADDV;0", "ADDV;1", "ADDV;2", "ADDV;3"));
+}
+
 TEST_F(Traversal, a_plant_is_not_walked) {
     model_builder m;
     list_builder plant = m.component("oak");
