@@ -1,5 +1,6 @@
 #include "qlw/qlw_math.h"
 
+#include "qlw/base64_alphabet.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/text_numbers.h"
 
@@ -26,13 +27,6 @@ double to_multiple(double value, double step) {
 bool components_agree(double a, double b, double tolerance) {
     const double difference = std::abs(a - b);
     return difference < tolerance || difference < std::max(std::abs(a), std::abs(b)) * tolerance * large_value_share;
-}
-
-// The value of a letter of the base64 alphabet, or -1.
-int base64_value(char letter) {
-    constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    const std::size_t place = alphabet.find(letter);
-    return place == std::string_view::npos ? -1 : static_cast<int>(place);
 }
 
 // The bytes of a base64 text. Letters outside the alphabet are passed over; a NUL ends the text.

@@ -4,9 +4,11 @@
 // the file that holds them.
 
 #include "sketchup/SketchUpAPI.h"
+#include "tessaline/edge_record.h"
 #include "tessaline/face_mesh.h"
 #include "tessaline/face_sides.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/ground_cover.h"
 #include "tessaline/known_materials.h"
 #include "tessaline/light_record.h"
 #include "tessaline/placements.h"
@@ -14,6 +16,7 @@
 #include "tessaline/transforms.h"
 #include "tessaline/view_file.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,6 +49,14 @@ struct face_in_walk {
     bool flip;                   // the matrix mirrors
     std::string_view layer_name; // the layer that the face counts as being on
     bool casts_shadows;
+};
+
+// Where the writing of the edge block stands.
+struct edge_block_state {
+    double pixels = 0;      // how wide a line is to look
+    int last_layer = -2;    // that of the open block; no edge has this one
+    int edges = 0;          // that were long enough to be written
+    int local_vertices = 0; // of the open block
 };
 
 // A picture where the walk meets it. Points are world metres.
@@ -97,19 +108,35 @@ public:
     void process_skatter_instances();
     void count_skatter_instances();
 
-    // plants.cpp: components that stand for objects of the renderer's libraries.
+    // rpc_objects.cpp: components that stand for objects of an outside library.
+    // transform: from the instance to the world, in inches.
     void write_rpc(SUComponentInstanceRef instance, const rpc_description& rpc, const transform16& transform);
-    // instance: invalid for a scattered plant, whose layer is layer_text then.
+
+    // zyn_plants.cpp: components that stand for plants of the renderer.
+    // Writes the plant's record, and its file if it brings one; a hidden instance leaves nothing. Takes one random
+    // number for each plant written. instance: invalid for a scattered plant, which has no size of its own then.
+    // transform: from the plant to the world, in inches. layer_text, name_text: without effect, a plant's record names
+    // neither.
     void Write_Zyn_plant(SUComponentInstanceRef instance, const plant_description& plant, const transform16& transform,
-                         std::string_view layer_text);
+                         std::string_view layer_text, std::string_view name_text);
 
     // section_planes.cpp: which section planes clip the rendered scene.
     // Gives 1 if the plane was written, else 0.
     int process_section_plane(SUSectionPlaneRef plane);
 
-    // edge_lines.cpp: edges shown as lines.
-    int ProcessEdge(SUEdgeRef edge, const transform16& matrix, const std::string& path); // 1 if it was kept, else 0
+    // edge_lines.cpp: which edges are shown as lines.
+    // Keeps the edge for the edge block if it is one of them. matrix: from its list to the world, in inches. path:
+    // without effect. Gives 1 if the edge was kept, else 0.
+    int ProcessEdge(SUEdgeRef edge, const transform16& matrix, const std::string& path);
+
+    // edge_block.cpp: how they become geometry at the end of the stream.
+    // Writes nothing if no edge was kept. Needs no model. The view decides how thick a line is, and which edges are too
+    // short to show; a view without a pixel height takes that of the setting "ivl_resy", and keeps it.
     void write_edge_lines();
+    void begin_edge_mesh(std::string_view layer_name);
+    // One edge as a beam without caps. start, end: metres. b, a: half its width, square to it and to one another.
+    // local_vertices: number of its first vertex in the block; grows by 16.
+    void write_edge_box(const fpt& start, const fpt& end, const fpt& b, const fpt& a, int& local_vertices);
 
     // images.cpp: pictures placed in the model.
     // Writes the picture as a quad of two triangles. matrix: from its list to the world, in inches. path: without
@@ -171,8 +198,16 @@ public:
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
 
+    // Where the ground cover of the objects at hand lies.
+    ground_cover cover;
+
     // Answers about materials, so that a face asks neither for names nor for files.
     known_materials materials;
+
+    // How many edges are kept; the first one beyond is reported, and all of them are left out. A small model can place
+    // its edges a thousand million times, and they all wait for the end of the stream.
+    std::size_t most_edges = std::size_t{1} << 25;
+    bool edges_left_out = false;
 
     // The camera that the parent has set.
     camera_view view;
@@ -209,6 +244,11 @@ private:
     // placements.cpp
     bool writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
                          const transform16& transform);
+
+    // edge_block.cpp
+    void write_edge_as_line(const cl_tsl_edge& edge, double pixels);
+    void write_edge_as_beam(const cl_tsl_edge& edge, edge_block_state& state);
+    void change_edge_block(int layer, edge_block_state& state);
 
     // material_numbers.cpp
     struct material_request;

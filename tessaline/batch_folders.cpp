@@ -42,7 +42,7 @@ void prepare_batch_folders() {
     default_to(theApp.materials_folder, "ZynBatch_Materials");
     default_to(theApp.textures_folder, "Batch_SketchUp_Textures");
     make_empty_folder(theApp.lights_folder);
-    make_folder("Plants");
+    make_folder(std::string(plant_folder_name));
     make_material_folder();
     make_empty_folder(theApp.textures_folder);
     make_empty_folder("Batch_OrnTexture_Files");

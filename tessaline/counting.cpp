@@ -2,6 +2,7 @@
 // counts hidden content too, and the display may end below 100.
 
 #include "qlw/qlw_globals.h"
+#include "tessaline/edge_choice.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/SketchUpReader.h"
 
@@ -11,8 +12,6 @@
 #include <limits>
 
 namespace {
-
-constexpr int stand_alone_edges_only = 2; // value of the setting for edge lines
 
 // Counts stay within 32 bits, whatever the scattered components add.
 void add_items(int& total, std::size_t count) {
@@ -43,10 +42,10 @@ SUEntitiesRef content_of(SUComponentInstanceRef instance) {
 
 std::size_t edge_count(SUEntitiesRef entities) {
     const int edge_lines = get_global_int("ivl_edge_lines");
-    if (edge_lines == 0)
+    if (edge_lines == no_edges)
         return 0;
     std::size_t count = 0;
-    SUEntitiesGetNumEdges(entities, edge_lines == stand_alone_edges_only, &count);
+    SUEntitiesGetNumEdges(entities, edge_lines == stand_alone_edges, &count);
     return count;
 }
 

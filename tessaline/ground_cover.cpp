@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr std::string_view plant_folder = "Plants";
-
 void copy_file(const std::string& from, const std::string& to) {
     platform::file source;
     platform::file copy;
@@ -21,17 +19,24 @@ void copy_file(const std::string& from, const std::string& to) {
         copy.write_all({piece.data(), size});
 }
 
+// The name under which the stream refers to it.
+std::string bring(const std::string& path, const std::string& batch_folder) {
+    if (!is_file(path))
+        return path;
+    const std::string folder = joined(batch_folder, plant_folder_name);
+    platform::make_folder(folder); // no fault if it exists
+    std::string placed = joined(folder, bare_name_of(path));
+    if (!is_file(placed))
+        copy_file(path, placed);
+    return placed;
+}
+
 } // namespace
 
-std::string placed_ground_cover(std::string_view path, const std::string& batch_folder) {
-    std::string original(path);
-    if (!is_file(original))
-        return original;
-    std::string placed = batch_folder;
-    placed.append(1, platform::path_separator).append(plant_folder);
-    platform::make_folder(placed); // no fault if it exists
-    placed.append(1, platform::path_separator).append(bare_name_of(path));
-    if (!is_file(placed))
-        copy_file(original, placed);
-    return placed;
+const std::string& ground_cover::placed(std::string_view path, const std::string& batch_folder) {
+    if (path != last_path) {
+        last_path = path;
+        last_placed = bring(last_path, batch_folder);
+    }
+    return last_placed;
 }

@@ -7,6 +7,9 @@
 #include <string>
 #include <string_view>
 
+// The sub-folder of the batch folder for the files of plants and ground covers, which stay from run to run.
+inline constexpr std::string_view plant_folder_name = "Plants";
+
 // The folder of a file, without a separator at the end; empty if the name has no folder. The root stays a separator.
 std::string folder_of(std::string_view path);
 

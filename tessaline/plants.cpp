@@ -1,12 +1,11 @@
-// Which components stand for plants and outside objects. The records for them are not written yet: such a component
-// leaves nothing in the stream. Reads the attribute list of the run.
+// Which components stand for plants and outside objects, and what they say of them. Reads the attribute list of the
+// run.
 
 #include "tessaline/plants.h"
 
 #include "qlw/qlw_globals.h"
 #include "tessaline/attributes.h"
 #include "tessaline/run_state.h"
-#include "tessaline/SketchUpReader.h"
 
 #include <cstdlib>
 
@@ -66,8 +65,3 @@ bool read_rpc_description(rpc_description& rpc) {
 bool shows_plants_as_images() {
     return get_global_bool("bvl_display_all_plants_as_2d_images") || theApp.extract_mode == document_extract_mode;
 }
-
-void SketchUpReader::write_rpc(SUComponentInstanceRef, const rpc_description&, const transform16&) {}
-
-void SketchUpReader::Write_Zyn_plant(SUComponentInstanceRef, const plant_description&, const transform16&,
-                                     std::string_view) {}

@@ -23,6 +23,7 @@ std::string material_folder_path;
 std::string texture_folder_path;
 bool in_skatter_instances = false;
 bool skatter_counted = false;
+random_sequence plant_chance;
 bool block_seen = false;
 
 void begin_reading() {
@@ -47,5 +48,6 @@ void reset_process() {
     texture_folder_path.clear();
     in_skatter_instances = false;
     skatter_counted = false;
+    plant_chance = random_sequence();
     block_seen = false;
 }

@@ -10,6 +10,7 @@
 #include "tessaline/edge_record.h"
 #include "tessaline/layer_table.h"
 #include "tessaline/material_record.h"
+#include "tessaline/random_sequence.h"
 #include "tessaline/slp_oparms.h"
 #include "tessaline/Tessaline.h"
 
@@ -57,6 +58,7 @@ extern std::string material_folder_path; // where material files go
 extern std::string texture_folder_path;  // where pictures go
 extern bool in_skatter_instances;        // the walk is inside scattered components, whose materials are named otherwise
 extern bool skatter_counted;             // the counting pass takes the scattered components once in a process
+extern random_sequence plant_chance;     // goes on through all readings, as nothing ever starts it anew
 extern bool block_seen;                  // a block has opened; the next one is preceded by a close
 
 // Clears what every reading starts without: layers, attributes, materials with their maps, and edges. The parameter

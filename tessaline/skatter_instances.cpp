@@ -76,17 +76,17 @@ void SketchUpReader::process_skatter_instances() {
     const std::string file = skatter_file_path(theApp.batch_folder);
     if (!platform::exists(file))
         return;
+    in_skatter_instances = true;
     const std::vector<named_definition> definitions = definitions_of_model();
     if (definitions.empty())
-        return;
-    in_skatter_instances = true;
+        return; // the file is not read, and the flag stays: materials go by their other names
     for_each_skatter_placement(file, [&](const skatter_placement& placement) {
         const SUComponentDefinitionRef definition = find_definition(definitions, placement.definition_name);
         if (SUIsInvalid(definition))
             return;
         plant_description plant;
         if (is_written_as_plant(definition, plant)) {
-            Write_Zyn_plant(SU_INVALID, plant, placement.transform, "Skatter");
+            Write_Zyn_plant(SU_INVALID, plant, placement.transform, "Skatter", "Skatter");
             return;
         }
         SUEntitiesRef entities = SU_INVALID;

@@ -52,6 +52,11 @@ fpt origin_image(const transform16& transform) {
     return {transform[12], transform[13], transform[14]};
 }
 
+std::array<fpt, 3> axis_images(const transform16& transform) {
+    const transform16& t = transform;
+    return {{{t[0], t[1], t[2]}, {t[4], t[5], t[6]}, {t[8], t[9], t[10]}}};
+}
+
 cl_matrix matrix_from(const transform16& transform) {
     cl_matrix matrix;
     for (std::size_t row = 0; row < 3; ++row)

@@ -28,6 +28,9 @@ fpt vector_image(const transform16& transform, const fpt& vector);
 // Image of the origin: the translation.
 fpt origin_image(const transform16& transform);
 
+// Images of the three unit vectors.
+std::array<fpt, 3> axis_images(const transform16& transform);
+
 // The same placement in the form that takes its scale apart; its inverse is not filled.
 cl_matrix matrix_from(const transform16& transform);
 

@@ -2,6 +2,7 @@
 
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_trace.h"
+#include "tessaline/edge_choice.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/progress_dlg.h"
 #include "tessaline/run_state.h"
@@ -126,12 +127,11 @@ void SketchUpReader::process_images(SUEntitiesRef entities, const transform16& t
 }
 
 void SketchUpReader::process_edges(SUEntitiesRef entities, const transform16& transform, const std::string& path) {
-    constexpr int stand_alone_edges_only = 2;
     const int edge_lines = get_global_int("ivl_edge_lines");
-    if (edge_lines == 0 || beam_pass_running)
+    if (edge_lines == no_edges || beam_pass_running)
         return;
     cl_trace("traversal", __LINE__, "SketchUpReader::ProcessEntities", 0, 0).report("before Edge Lines");
-    for (const SUEdgeRef edge : edges_of(entities, edge_lines == stand_alone_edges_only)) {
+    for (const SUEdgeRef edge : edges_of(entities, edge_lines == stand_alone_edges)) {
         ProcessEdge(edge, transform, path);
         advance_progress();
     }

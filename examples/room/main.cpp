@@ -1,17 +1,12 @@
 // Writes the model of a furnished room: textured floor, window, table with a glass top, chairs, sofa, books, a mirror,
 // a painting, a glowing panel, and a lamp of every type.
 
+#include "examples/write_model.h"
 #include "room_parts.h"
-#include "sketchup/skp/writer/classic_writer.h"
-
-#include <cstdio>
-#include <fstream>
-
-namespace {
 
 using namespace sketchup;
 
-std::unique_ptr<model> furnished_room() {
+int main(int argc, char** argv) {
     model_builder m;
     const room_materials use = add_materials(m);
     add_shell(m, use);
@@ -27,23 +22,5 @@ std::unique_ptr<model> furnished_room() {
     sun.longitude = 11.58;
     sun.time_zone = 1;
     sun.daylight_saving = true;
-    return m.finish();
-}
-
-} // namespace
-
-int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fputs("usage: example_room MODEL.skp\n", stderr);
-        return 2;
-    }
-    const std::vector<std::uint8_t> bytes = skp::write_classic(*furnished_room(), skp::classic_version::v17);
-    std::ofstream out(argv[1], std::ios::binary);
-    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) {
-        std::fprintf(stderr, "example_room: cannot write %s\n", argv[1]);
-        return 1;
-    }
-    return 0;
+    return write_model(argc, argv, m);
 }

@@ -20,15 +20,6 @@ std::string bytes_of(const std::filesystem::path& file) {
     return bytes.str();
 }
 
-files_by_name files_below(const std::string& folder) {
-    files_by_name files;
-    if (std::filesystem::exists(folder))
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
-            if (!entry.is_directory())
-                files[std::filesystem::relative(entry.path(), folder).generic_string()] = bytes_of(entry.path());
-    return files;
-}
-
 // The golden files of a case, without marks.
 files_by_name golden_files(const std::string& case_name, const std::map<std::string, std::string>& marks) {
     const bool is_elsewhere = case_name.find('/') != std::string::npos;
@@ -77,6 +68,15 @@ std::string copy_of(const batch& found, const std::string& case_name) {
 }
 
 } // namespace
+
+files_by_name files_below(const std::string& folder) {
+    files_by_name files;
+    if (std::filesystem::exists(folder))
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+            if (!entry.is_directory())
+                files[std::filesystem::relative(entry.path(), folder).generic_string()] = bytes_of(entry.path());
+    return files;
+}
 
 std::set<std::string> folders_of_every_run() {
     return {"Batch_OrnTexture_Files", "Batch_SketchUp_Textures", "Plants",

@@ -37,6 +37,9 @@ struct encoded_picture {
 
 using files_by_name = std::map<std::string, std::string>; // names from the batch folder on, with "/" between
 
+// The files of a folder and of those inside; none if there is no such folder.
+files_by_name files_below(const std::string& folder);
+
 // A batch folder of its own in an empty surrounding: no settings of the user, no marker file, a fixed date.
 class batch {
 public:

@@ -6,33 +6,56 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
-// The model that the example's program writes, and the files that lie beside its sources.
-void put_room(batch& b) {
-    ASSERT_EQ(run_program(shell_quoted(EXAMPLE_ROOM) + " " + shell_quoted(b / "geometry.qlm")).status, 0);
-    const std::string folder = std::string(TESSALINE_SOURCE_DIR) + "/examples/room/";
-    const std::string view = text_of_file(folder + "zyn_view.txt");
-    b.put("option_globals.txt", text_of_file(folder + "option_globals.txt"));
-    b.put("zyn_view.txt", view);
-    b.expect_file("zyn_view.txt", view);
-    b.expect_file("geometry.qlm", b.read("geometry.qlm"));
+std::string folder_of_example(const std::string& name) {
+    return std::string(TESSALINE_SOURCE_DIR) + "/examples/" + name;
 }
 
-TEST(ExamplesBatch, the_room_becomes_what_lies_beside_it) {
+// The model that the example's program writes, and what a parent puts beside it: what the golden files do not hold anew
+// must stay as it is.
+void put_example(batch& b, const std::string& name) {
+    const std::string program = std::string(EXAMPLE_PROGRAMS) + "/example_" + name;
+    ASSERT_EQ(run_program(shell_quoted(program) + " " + shell_quoted(b / "geometry.qlm")).status, 0);
+    b.expect_file("geometry.qlm", b.read("geometry.qlm"));
+    const files_by_name golden = files_below(folder_of_example(name) + "/expected");
+    for (const auto& [inside, bytes] : files_below(folder_of_example(name) + "/parent")) {
+        b.put(inside, bytes);
+        if (!golden.contains(inside))
+            b.expect_file(inside, bytes);
+    }
+}
+
+// What stands behind the model on the command line.
+std::vector<std::string> arguments_of(const std::string& name) {
+    std::istringstream text(text_of_file(folder_of_example(name) + "/arguments"));
+    std::vector<std::string> words;
+    for (std::string word; text >> word;)
+        words.push_back(word);
+    return words;
+}
+
+class ExamplesBatch : public testing::TestWithParam<std::string> {};
+
+TEST_P(ExamplesBatch, becomes_what_lies_beside_it) {
     batch b;
-    put_room(b);
-    const run_outcome outcome = b.run();
+    put_example(b, GetParam());
+    const run_outcome outcome = b.run(arguments_of(GetParam()));
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "");
-    expect_batch(b, "examples/room");
+    expect_batch(b, "examples/" + GetParam());
 }
 
-TEST(ExamplesBatch, the_room_has_a_lamp_of_every_type) {
+INSTANTIATE_TEST_SUITE_P(All, ExamplesBatch, testing::Values("garden", "room", "stages"),
+                         [](const testing::TestParamInfo<std::string>& one) { return one.param; });
+
+TEST(ExampleRoom, has_a_lamp_of_every_type) {
     batch b;
-    put_room(b);
+    put_example(b, "room");
     b.run();
     std::set<std::string> types;
     for (const auto& [name, text] : b.files())

@@ -113,23 +113,37 @@ private:
 
     void take_plant() {
         lines.take("#;PLANT");
+        const bool has_own_data = lines.at("PLLB;OrnPlant");
         lines.take_text("PLLB;");
-        lines.take_text("PLNM;");
+        if (!is_plant_file(lines.take_text("PLNM;")) && has_own_data)
+            lines.fail_before("data of its own lie in the folder of plants");
         lines.take_triple("PLLC;", ",");
-        lines.take_real("PLDM;");
-        lines.take_whole_number("PLSN;");
+        // A plant of a library that gives no ratio of its height and none of its width.
+        if (!lines.take_if("PLDM;inf"))
+            lines.take_real("PLDM;");
+        lines.take_signed_number("PLSN;");
         lines.take_real("PLRT;");
         lines.take_real("PLSC;");
         lines.take("PLNT;1");
         lines.take("#");
     }
 
+    // The full name of a file right in the folder of plants.
+    static bool is_plant_file(std::string_view name) {
+        constexpr std::string_view folder = "/Plants/";
+        const std::size_t at = name.rfind(folder);
+        return at != std::string_view::npos && name.find('/', at + folder.size()) == std::string_view::npos;
+    }
+
     void take_rpc() {
         lines.take_triple("RPCP;", ",");
         for (const char* axis : {"RPCX;", "RPCY;", "RPCZ;"})
-            take_unit(axis);
-        for (const char* scale : {"RPSX;", "RPSY;", "RPSZ;"})
+            take_unit_or_zero(axis); // zero if the object is squeezed flat
+        for (const char* scale : {"RPSX;", "RPSY;", "RPSZ;"}) {
+            if (lines.at_tag(std::string(scale) + "-"))
+                lines.fail("the length of an axis is not negative");
             lines.take_real(scale);
+        }
         lines.take_text("RPCL;");
         lines.take_text("RPCN;");
         lines.take("#");
@@ -370,9 +384,12 @@ private:
         lines.take("#;");
         lines.take("#;EDGES");
         // For a 3D document each edge is a block of its own, and nothing is closed behind the last.
-        while (lines.at("#;") && lines.next_is("MESH;"))
+        bool is_for_document = false;
+        while (lines.at("#;") && lines.next_is("MESH;")) {
             take_edge_line();
-        if (at_end())
+            is_for_document = true;
+        }
+        if (is_for_document || at_end())
             return;
         take_edge_blocks();
     }
@@ -384,7 +401,7 @@ private:
         lines.take("TLAY;Edges");
         lines.take_triple("EDG1;", ", ");
         lines.take_triple("EDG2;", ", ");
-        lines.take_triple("EDGN;", ", ");
+        take_unit_or_zero("EDGN;", ", "); // zero for a line without length
         lines.take("EMSH;");
     }
 
@@ -411,6 +428,8 @@ private:
     int take_edge_block(int most_edges) {
         lines.take("#;MESH for Edges");
         lines.take("MESH;");
+        if (!lines.at("TLAY;Layer0"))
+            lines.fail("edges count as being on \"Layer0\"");
         take_layer_of_geometry();
         lines.take("CULL;0");
         lines.take("MATL;" + std::to_string(edge_material));
@@ -426,10 +445,15 @@ private:
         return edges;
     }
 
+    // Opposite sides have the same normal, and the normals of neighbours are square to one another.
     void take_beam(int first) {
-        for (int side = 0; side < 4; ++side) {
+        std::array<std::array<double, 3>, 4> normals{};
+        for (std::size_t side = 0; side < normals.size(); ++side) {
             for (int corner = 0; corner < 4; ++corner) {
-                take_unit_or_zero("NORM;");
+                const std::array<double, 3> normal = take_unit_or_zero("NORM;");
+                if (corner != 0 && normal != normals[side])
+                    lines.fail_before("the corners of a side have one normal");
+                normals[side] = normal;
                 lines.take_triple("VERT;", ",");
                 lines.take("ADDV;" + std::to_string(first + corner));
             }
@@ -438,6 +462,8 @@ private:
             lines.take("FACE;" + at(2) + "," + at(3) + "," + at(0));
             first += 4;
         }
+        if (normals[0] != normals[1] || normals[2] != normals[3] || !is_square(normals[0], normals[2]))
+            lines.fail("these are no normals of a beam");
     }
 
     // ---- vectors
@@ -448,15 +474,21 @@ private:
     }
 
     // The normal of a vertex whose surroundings are squeezed flat has no direction.
-    void take_unit_or_zero(std::string_view tag) {
-        const std::array<double, 3> v = lines.take_triple(tag, ",");
+    std::array<double, 3> take_unit_or_zero(std::string_view tag, std::string_view separator = ",") {
+        const std::array<double, 3> v = lines.take_triple(tag, separator);
         if (!is_unit(v) && v != std::array<double, 3>{})
             lines.fail_before("this is no unit vector");
+        return v;
     }
 
+    static constexpr double tolerance = 1e-6; // the text has nine digits, and what is below 1e-7 was cut off
+
     static bool is_unit(const std::array<double, 3>& v) {
-        constexpr double tolerance = 1e-6; // the text has nine digits, and what is below 1e-7 was cut off
         return std::abs(std::hypot(v[0], v[1], v[2]) - 1) < tolerance;
+    }
+
+    static bool is_square(const std::array<double, 3>& v, const std::array<double, 3>& w) {
+        return std::abs(v[0] * w[0] + v[1] * w[1] + v[2] * w[2]) < tolerance;
     }
 
     static constexpr int vertices_of_beam = 16;

@@ -81,8 +81,9 @@ const lines edge_head = {"#;MESH for Edges", "MESH;", "TLAY;Layer0", "CULL;0", "
 lines beams(int count) {
     lines all;
     for (int first = 0; first < 16 * count; first += 4) {
+        const std::string normal = first % 16 < 8 ? "NORM;(1,0,0)" : "NORM;(0,1,0)"; // of two sides each
         for (int corner = 0; corner < 4; ++corner) {
-            const lines vertex = {"NORM;(1,0,0)", "VERT;(0,0,0)", "ADDV;" + std::to_string(first + corner)};
+            const lines vertex = {normal, "VERT;(0,0,0)", "ADDV;" + std::to_string(first + corner)};
             all.insert(all.end(), vertex.begin(), vertex.end());
         }
         const auto number = [first](int corner) { return std::to_string(first + corner); };
@@ -414,8 +415,8 @@ TEST(StreamGrammar, an_image_block_has_its_own_forms) {
 
 TEST(StreamGrammar, takes_section_planes_plants_and_rpc_objects_anywhere_in_the_body) {
     const lines plane = {"CLPN;(0,0,1)", "CLPP;(1,2,3)"};
-    const lines plant = {"#;PLANT", "PLLB;OrnPlant",  "PLNM;Oak",      "PLLC;(10,0,0)", "PLDM;1.000000",
-                         "PLSN;1",  "PLRT;90.000000", "PLSC;0.950000", "PLNT;1",        "#"};
+    const lines plant = {"#;PLANT", "PLLB;OrnPlant",  "PLNM;/batch/Plants/Oak", "PLLC;(10,0,0)", "PLDM;1.000000",
+                         "PLSN;1",  "PLRT;90.000000", "PLSC;0.950000",          "PLNT;1",        "#"};
     const lines rpc = {"RPCP;(0,0,0)",  "RPCX;(1,0,0)",  "RPCY;(0,1,0)", "RPCZ;(0,0,1)", "RPSX;1.000000",
                        "RPSY;1.000000", "RPSZ;1.000000", "RPCL;Layer0",  "RPCN;0",       "#"};
     expect_good({plane, plant, rpc, face_block, plant, lamp_head, plane, plant, rpc, end_of_lamp});
@@ -426,6 +427,40 @@ TEST(StreamGrammar, takes_section_planes_plants_and_rpc_objects_anywhere_in_the_
     wrong = rpc;
     wrong[1] = "RPCX;(2,0,0)";
     expect_bad(2, "this is no unit vector, found \"RPCX;(2,0,0)\"", {wrong});
+    wrong[1] = "RPCX;(0,0,0)";
+    expect_good({wrong});
+    wrong[4] = "RPSX;-1.000000";
+    expect_bad(5, "the length of an axis is not negative, found \"RPSX;-1.000000\"", {wrong});
+}
+
+TEST(StreamGrammar, wants_the_file_of_a_plant_in_the_folder_of_plants) {
+    const lines plant = {"#;PLANT", "PLLB;Trees",    "PLNM;Oak",      "PLLC;(10,0,0)", "PLDM;inf",
+                         "PLSN;-1", "PLRT;0.000000", "PLSC;1.000000", "PLNT;1",        "#"};
+    expect_good({plant});
+    lines wrong = plant;
+    wrong[1] = "PLLB;OrnPlant";
+    expect_bad(3, "data of its own lie in the folder of plants, found \"PLNM;Oak\"", {wrong});
+    wrong[2] = "PLNM;/batch/Plants/../Oak";
+    expect_bad(3, "data of its own lie in the folder of plants, found \"PLNM;/batch/Plants/../Oak\"", {wrong});
+}
+
+TEST(StreamGrammar, wants_the_sides_of_a_beam_square_to_one_another) {
+    const lines close_edges = {"EMSH; Edges"};
+    lines beam = beams(1);
+    beam[3] = "NORM;(0,1,0)";
+    expect_bad(12, "the corners of a side have one normal, found \"NORM;(0,1,0)\"",
+               {edges, edge_head, beam, close_edges});
+    beam = beams(1);
+    for (std::string& line : beam)
+        if (line == "NORM;(0,1,0)")
+            line = "NORM;(0.6,0.8,0)";
+    expect_bad(65, "these are no normals of a beam, found \"EMSH; Edges\"", {edges, edge_head, beam, close_edges});
+}
+
+TEST(StreamGrammar, wants_edges_on_Layer0) {
+    lines elsewhere = edge_head;
+    elsewhere[2] = "TLAY;Walls";
+    expect_bad(5, "edges count as being on \"Layer0\", found \"TLAY;Walls\"", {edges, elsewhere, beams(1)});
 }
 
 TEST(StreamGrammar, takes_edge_blocks_at_the_end) {
@@ -458,6 +493,11 @@ TEST(StreamGrammar, takes_the_edges_of_a_3d_document) {
     lines wrong = line;
     wrong[4] = "EDG1;(0,0,0)";
     expect_bad(7, "this is no triple of numbers in their shortest form, found \"EDG1;(0,0,0)\"", {edges, wrong});
+    wrong = line;
+    wrong[6] = "EDGN;(0, 0, 2)";
+    expect_bad(9, "this is no unit vector, found \"EDGN;(0, 0, 2)\"", {edges, wrong});
+    expect_bad(12, "\"END;\" must stand here, found \"#;MESH for Edges\"",
+               {edges, line, {"#;"}, edge_head, beams(1), {"EMSH; Edges"}});
 }
 
 TEST(StreamGrammar, refuses_lines_that_no_item_begins_with) {

@@ -74,6 +74,9 @@ void stream_painter::record(std::string_view tag, std::string_view payload) {
 }
 
 stream_painter::paint stream_painter::paint_of(const stream_triangle& found, bool front) const {
+    constexpr int edge_material = 1;
+    if (found.material == edge_material)
+        return {.plain = {0.1, 0.1, 0.12}};
     const auto declared_paint = paints.find(front || found.one_sided ? found.material : found.back_material);
     paint result;
     if (declared_paint != paints.end())
