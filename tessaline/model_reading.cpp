@@ -73,10 +73,20 @@ SUEntitiesRef top_entities() {
     return entities;
 }
 
+constexpr std::uint64_t largest_kept_options = 1 << 24; // bytes; a file with every setting has 10,000
+
+// If the disk is full, the parent's own file comes back; emptying it has freed the room for that.
 void rewrite_option_globals(const std::string& path) {
+    const auto before = platform::read_file(path, largest_kept_options);
     cl_output_file file;
     file.open(path, quiet_open);
     write_option_globals_to_open_file(file);
+    if (!file.is_open() || file.close() || !before)
+        return;
+    cl_trace("model_reading", __LINE__, "rewrite_option_globals", 1, 0).report("Options not rewritten: %s", path);
+    cl_output_file again;
+    if (again.open_binary(path, 1))
+        again.write_data(before->data(), before->size());
 }
 
 } // namespace
