@@ -76,9 +76,8 @@ std::int32_t cl_hex_encode::decode_hex_string(std::string_view name, std::string
     data_size = hex_length / 2;
     // Eight decimal digits bound the size to 50 MB, whatever the text holds. An odd last digit makes a byte more.
     data.resize(static_cast<std::size_t>(data_size) + 1);
-    std::int32_t byte_count = data_size;
     const std::size_t digits_from = std::min(name.size() + 13, framed_text.size());
-    decode_hex_digits(framed_text.substr(digits_from), hex_length, data, byte_count);
+    decode_hex_digits(framed_text.substr(digits_from), hex_length, data, data_size);
     data.resize(static_cast<std::size_t>(data_size));
     return data_size;
 }

@@ -12,9 +12,9 @@
 class cl_hex_encode {
 public:
     // name: what must stand in the frame. framed_text: the frame and the digits, two for each byte, high digit first,
-    // either case. Gives the number of bytes in `data`: half the number in the frame, whose digits are read as far as
-    // they are digits. A frame that does not fit is reported and gives 0, with no data. A fault among the digits leaves
-    // the bytes from there on zero.
+    // either case. Gives the number of bytes in `data`: half the number in the frame, and one more if that is odd and a
+    // digit stands behind the last; the number is read as far as it is one. A frame that does not fit is reported and
+    // gives 0, with no data. After a fault among the digits there are half as many bytes, zero from there on.
     std::int32_t decode_hex_string(std::string_view name, std::string_view framed_text);
 
     std::string hex_name;

@@ -118,8 +118,9 @@ private:
         if (!is_plant_file(lines.take_text("PLNM;")) && has_own_data)
             lines.fail_before("data of its own lie in the folder of plants");
         lines.take_triple("PLLC;", ",");
-        // A plant of a library that gives no ratio of its height and none of its width.
-        if (!lines.take_if("PLDM;inf"))
+        // A plant of a library that gives no ratio of its height and none of its width; and a scattered one, which has
+        // no size either.
+        if (!lines.take_if("PLDM;inf") && !lines.take_if("PLDM;nan"))
             lines.take_real("PLDM;");
         lines.take_signed_number("PLSN;");
         lines.take_real("PLRT;");

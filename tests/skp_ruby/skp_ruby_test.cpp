@@ -62,12 +62,21 @@ TEST(HexEncode, a_second_text_replaces_what_the_first_gave) {
     EXPECT_TRUE(decoder.data.empty());
 }
 
-TEST(HexEncode, an_odd_length_gives_the_bytes_of_its_whole_pairs) {
+TEST(HexEncode, an_odd_length_pairs_its_last_digit_with_the_character_behind_it) {
     cl_hex_encode decoder;
-    EXPECT_EQ(decoder.decode_hex_string("n", "[n][00000007]-48494a4b4c"), 3);
-    EXPECT_EQ(decoder.data, (bytes{0x48, 0x49, 0x4a}));
-    EXPECT_EQ(decoder.data_size, 3);
+    EXPECT_EQ(decoder.decode_hex_string("n", "[n][00000007]-48494a4b4c"), 4);
+    EXPECT_EQ(decoder.data, (bytes{0x48, 0x49, 0x4a, 0x4b}));
+    EXPECT_EQ(decoder.data_size, 4);
     EXPECT_EQ(decoder.hex_length, 7);
+}
+
+TEST(HexEncode, an_odd_length_with_no_digit_behind_the_last_gives_the_bytes_of_its_whole_pairs) {
+    for (const char* text : {"[n][00000007]-48494a4", "[n][00000007]-48494a4]"}) {
+        cl_hex_encode decoder;
+        EXPECT_EQ(decoder.decode_hex_string("n", text), 3) << text;
+        EXPECT_EQ(decoder.data, (bytes{0x48, 0x49, 0x4a}));
+        EXPECT_EQ(decoder.data_size, 3);
+    }
 }
 
 TEST(HexEncode, the_name_is_compared_over_its_own_length_only) {

@@ -301,6 +301,16 @@ TEST_F(Traversal, a_scattered_component_is_walked_at_the_place_that_its_line_nam
     EXPECT_FALSE(in_skatter_instances);
 }
 
+TEST_F(Traversal, of_two_components_with_one_name_the_first_is_scattered) {
+    model_builder m;
+    m.component("pebble").square(10);
+    m.component("pebble").square(20);
+    batch.write("skatter_insts.txt", "a;b;c;pebble;1;0;0;0;0;1;0;0;0;0;1;0;100;0;0;1\n");
+    EXPECT_THAT(tagged(body_of(m), "VERT"),
+                testing::UnorderedElementsAre("VERT;(2.54,0,0)", "VERT;(2.794,0,0)", "VERT;(2.794,0.254,0)",
+                                              "VERT;(2.54,0.254,0)"));
+}
+
 TEST_F(Traversal, a_list_of_scattered_components_beside_a_model_without_any_leaves_their_flag_set) {
     model_builder m;
     m.root().square(10);
