@@ -8,6 +8,7 @@
 #include "tessaline/face_mesh.h"
 #include "tessaline/face_sides.h"
 #include "tessaline/geometry_stream.h"
+#include "tessaline/ground_cover.h"
 #include "tessaline/known_materials.h"
 #include "tessaline/light_record.h"
 #include "tessaline/placements.h"
@@ -196,6 +197,9 @@ public:
 
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
+
+    // Where the ground cover of the objects at hand lies.
+    ground_cover cover;
 
     // Answers about materials, so that a face asks neither for names nor for files.
     known_materials materials;

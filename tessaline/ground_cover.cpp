@@ -19,16 +19,24 @@ void copy_file(const std::string& from, const std::string& to) {
         copy.write_all({piece.data(), size});
 }
 
-} // namespace
-
-std::string placed_ground_cover(std::string_view path, const std::string& batch_folder) {
-    std::string original(path);
-    if (!is_file(original))
-        return original;
+// The name under which the stream refers to it.
+std::string bring(const std::string& path, const std::string& batch_folder) {
+    if (!is_file(path))
+        return path;
     const std::string folder = joined(batch_folder, plant_folder_name);
     platform::make_folder(folder); // no fault if it exists
     std::string placed = joined(folder, bare_name_of(path));
     if (!is_file(placed))
-        copy_file(original, placed);
+        copy_file(path, placed);
     return placed;
+}
+
+} // namespace
+
+const std::string& ground_cover::placed(std::string_view path, const std::string& batch_folder) {
+    if (path != last_path) {
+        last_path = path;
+        last_placed = bring(last_path, batch_folder);
+    }
+    return last_placed;
 }

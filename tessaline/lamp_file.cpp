@@ -31,9 +31,9 @@ void write_lamp_file(const std::string& path, const cl_slp_light& light, const p
     file.write_format("length;%f\n", light.length);
     file.write_format("size;%f\n", light.size);
     file.write_format("width;%f\n", light.width);
-    file.write_format("type;%s\n", light.lamp_type);
+    file.write_format("type;%s\n", light.lamp_type.str());
     file.write_format("unit;%s\n", "Watts"); // whatever unit the object names
-    file.write_format("spotlight_shape;%s\n", light.spotlight_shape);
-    file.write_format("ies_file_name;%s\n", light.ies_file_name);
+    file.write_format("spotlight_shape;%s\n", light.spotlight_shape.str());
+    file.write_format("ies_file_name;%s\n", light.ies_file_name.str());
     file.write_format("ies_pattern;%d\n", light.ies_pattern);
 }

@@ -13,7 +13,7 @@ element_layer layer_of(SUDrawingElementRef element, bool layer0_hidden) {
 
     // A record's name was itself resolved against the records below it, and a new record starts as a copy: if any
     // enclosing level has a real layer, the top record names the nearest.
-    const std::string& inherited = current_oparms->layer_name;
+    const std::string& inherited = current_oparms->layer_name.str();
     if (inherited.empty() || inherited == default_layer_name)
         return found;
     found.name = inherited;

@@ -2,7 +2,6 @@
 // the run's folders; sets block_seen.
 
 #include "qlw/qlw_globals.h"
-#include "tessaline/ground_cover.h"
 #include "tessaline/lower_case.h"
 #include "tessaline/run_state.h"
 #include "tessaline/SketchUpReader.h"
@@ -29,7 +28,7 @@ void SketchUpReader::begin_mesh(const mesh_head& head) {
         stream.write_no_shadow();
     if (!head.groundcover_file.empty())
         stream.write_ground_cover(head.groundcover_orientation,
-                                  placed_ground_cover(head.groundcover_file, theApp.batch_folder));
+                                  cover.placed(head.groundcover_file, theApp.batch_folder));
     if (!shows_head(head))
         stream.write_invisible();
 }
@@ -58,7 +57,7 @@ void SketchUpReader::write_layer_list(std::string_view layer_name) {
     const int index = layers.index_of(std::string(layer_name));
     if (index < 0)
         return;
-    std::string chain = current_oparms->layer_chain;
+    std::string chain = current_oparms->layer_chain.str();
     if (!chain.empty())
         chain += ',';
     stream.write_layer_chain(chain + std::to_string(index));

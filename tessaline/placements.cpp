@@ -84,8 +84,10 @@ placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk&
     current_oparms->store_attributes_in_oparms("Group");
 
     walk.is_lamp_here = open_lamp(walk, "Group LGHT Lamp", invisible);
-    if (!lamp_block_open && invisible)
-        return placement_decision::leave_out; // the level stays: the siblings that follow inherit from it
+    if (!lamp_block_open && invisible) {
+        oparms_array.forget_all_below(walk.depth); // each enclosing object pops one
+        return placement_decision::leave_out;      // the level stays: the siblings that follow inherit from it
+    }
     if (extraction_log_is_on())
         log_placement("Group", name_by(SUGroupGetName, group), layer.name, walk.transform, walk.depth);
     return placement_decision::walk;
@@ -125,8 +127,10 @@ placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instanc
     if (!lamp_block_open && !beam_pass_running && current_oparms->light.lamp_type == "spot_beams")
         beam_pass_wanted = true;
     walk.is_lamp_here = open_lamp(walk, "Instance Lamp", invisible);
-    if (!lamp_block_open && invisible)
+    if (!lamp_block_open && invisible) {
+        oparms_array.forget_all_below(walk.depth);
         return placement_decision::leave_out; // the level stays, as for groups
+    }
     log_placement("Instance", name, layer_name, walk.transform, walk.depth);
     return placement_decision::walk;
 }

@@ -4,6 +4,7 @@
 
 #include "qlw/qlw_math.h"
 #include "sketchup/SketchUpAPI.h"
+#include "tessaline/shared_text.h"
 #include "tessaline/transforms.h"
 
 #include <memory>
@@ -15,7 +16,7 @@ class SketchUpReader;
 
 // What an object says about a lamp. -1 (-1.0) means not set where nothing else stands.
 struct cl_slp_light {
-    std::string lamp_type;         // "bulb", "bulb_glow", "spot", "spot_glow", "spot_beams", "rect", "rect_glow",
+    shared_text lamp_type;         // "bulb", "bulb_glow", "spot", "spot_glow", "spot_beams", "rect", "rect_glow",
                                    // "linear_glow", "round_glow", or empty
     bool use_object_color = false; // an intensity came from the object's attributes
     bool hide_locked = false;      // `hide` was set by an override and stays
@@ -36,10 +37,10 @@ struct cl_slp_light {
     fpt direction{0, 0, -1};
     fpt face_edge_vector{0, 1, 0};
     fpt face_x_axis{1, 0, 0};
-    std::string light_category;
-    std::string lamp_unit;
-    std::string spotlight_shape;
-    std::string ies_file_name;
+    shared_text light_category;
+    shared_text lamp_unit;
+    shared_text spotlight_shape;
+    shared_text ies_file_name;
     int ies_pattern = -1;
     bool treat_as_single_light = false;
     bool direct_light = false; // a bulb or a spot: a lamp without geometry
@@ -52,8 +53,8 @@ struct cl_slp_light {
 // The parameters of one level of the walk. A new level starts as a copy of the one above it.
 struct cl_slp_oparms {
     int level = -1;
-    std::string layer_name;
-    std::string layer_chain; // layer indices from the outermost level down, joined by commas
+    shared_text layer_name;
+    shared_text layer_chain; // layer indices from the outermost level down, joined by commas; in an animation alone
     double reflection = 0;
     SUMaterialRef material = SU_INVALID; // of the enclosing group or instance
     cl_slp_light light;
@@ -64,7 +65,7 @@ struct cl_slp_oparms {
     bool caustics = false;
     bool thick = false;
     bool invisible = false; // hidden from the camera
-    std::string groundcover_file;
+    shared_text groundcover_file;
     int groundcover_orientation = -1;
 
     // Fills what is still open from the attribute list of the run; an outer object wins over an inner one.
@@ -80,19 +81,27 @@ public:
     cl_slp_oparms* push();
 
     // Removes the top level and gives the one below. The bottom level stays: the attempt is traced, and the level that
-    // is top is given unchanged; null if there is none.
+    // is top is given unchanged. An empty stack throws std::invalid_argument.
     cl_slp_oparms* pop();
 
-    // The level at that index, 0 being the bottom. index: 0 to size() - 1; anything else throws std::invalid_argument.
+    // Forgets the levels that cannot become the top any more; to be called when a level stays although its object is
+    // done, since any number of them may. pops_to_come: how many of the levels that are there now are still to be
+    // popped, at most; at least 0.
+    void forget_all_below(int pops_to_come);
+
+    // The level at that index, 0 being the bottom. index: 0 to size() - 1; anything else, and a level that was
+    // forgotten, throws std::invalid_argument.
     cl_slp_oparms* at(int index) const;
 
-    int size() const { return static_cast<int>(levels.size()); }
-    void clear() { levels.clear(); }
+    int size() const { return forgotten + static_cast<int>(levels.size()); } // with those that were forgotten
+    void clear();
 
 private:
     std::vector<std::unique_ptr<cl_slp_oparms>> levels;
+    std::unique_ptr<cl_slp_oparms> spare; // the level popped last, for the next push: one for every face
+    int forgotten = 0;
 };
 
-// Names the layer of a level that was just entered and appends the layer's index to the chain that current_oparms
-// holds. A layer that the model's table lacks leaves the chain as inherited.
+// Names the layer of a level that was just entered and, in an animation, appends the layer's index to the chain that
+// current_oparms holds. A layer that the model's table lacks leaves the chain as inherited.
 void set_layer(cl_slp_oparms& oparms, const std::string& layer_name);

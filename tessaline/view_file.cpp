@@ -3,6 +3,7 @@
 #include "tessaline/view_file.h"
 
 #include "platform/platform.h"
+#include "qlw/letter_case.h"
 #include "qlw/qlw_text_files.h"
 #include "qlw/text_numbers.h"
 #include "qlw/trimmed.h"
@@ -15,14 +16,6 @@
 namespace {
 
 constexpr std::string_view end_of_view = "END_CURRENT";
-
-// Letters beyond ASCII stay: no key has any.
-std::string upper_case(std::string_view text) {
-    std::string upper(text);
-    std::transform(upper.begin(), upper.end(), upper.begin(),
-                   [](char letter) { return letter >= 'a' && letter <= 'z' ? char(letter - 'a' + 'A') : letter; });
-    return upper;
-}
 
 // The text up to the first comma, which is cut off with it; nothing is cut if no comma stands behind a first letter.
 bool cut_number(std::string_view& text, double& number) {
@@ -107,7 +100,7 @@ bool read_view_line(std::string_view line, camera_view& view) {
     const std::size_t separator = line.find(';');
     if (separator == 0 || separator == std::string_view::npos)
         return true;
-    const std::string name = upper_case(line.substr(0, separator));
+    const std::string name = in_capitals(std::string(line.substr(0, separator)));
     if (name == end_of_view)
         return false;
     const auto key = std::find_if(std::begin(keys), std::end(keys), [&](const view_key& k) { return k.name == name; });

@@ -10,7 +10,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-// Converts the sample in that folder, which is empty. Gives the stream; empty if the model does not open.
+// Converts the sample in that folder, which holds at most what the parent leaves. Gives the stream; empty if the model
+// does not open.
 inline std::string convert(const std::string& sample, const temporary_folder& batch) {
     std::filesystem::copy_file(samples_folder() + sample, batch / "geometry.qlm");
     const temporary_folder home; // the settings of whoever runs the tests are neither read nor written

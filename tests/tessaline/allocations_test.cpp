@@ -42,6 +42,20 @@ TEST_F(Allocations, the_second_thousand_faces_add_none) {
     EXPECT_EQ(allocations_during(write_thousand), 0);
 }
 
+// As the walk does it: a level of its own for each face, below an object that says much.
+TEST_F(Allocations, the_levels_of_the_second_thousand_faces_add_none) {
+    current_oparms->layer_name = "A layer with a name that is long";
+    current_oparms->groundcover_file = "c:\\covers\\a ground cover with a name that is long.orn";
+    const auto walk_thousand = [&] {
+        for (int i = 0; i != 1000; ++i) {
+            current_oparms = oparms_array.push();
+            current_oparms = oparms_array.pop();
+        }
+    };
+    walk_thousand();
+    EXPECT_EQ(allocations_during(walk_thousand), 0);
+}
+
 using PaintedAllocations = painted_model_test;
 
 // Two textures, one of them inherited on one side, and a plain material with a long name: each face asks for two.

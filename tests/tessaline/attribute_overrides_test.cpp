@@ -75,7 +75,7 @@ const std::vector<integer_key> integer_keys = {
 struct text_key {
     const char* dictionary;
     const char* key;
-    std::string cl_slp_light::*field;
+    shared_text cl_slp_light::*field;
 };
 const std::vector<text_key> text_keys = {
     {lamp, "sorndll_lamp_type", &cl_slp_light::lamp_type},
@@ -319,6 +319,18 @@ TEST_F(AttributeOverrides, a_percentage_acts_on_an_intensity_that_nobody_has_set
     store(overrides, {{"intensity_override_mode", "%"}, {"intensity_override_value", "200"}});
     EXPECT_EQ(light().intensity, -2);
     EXPECT_EQ(light().intensity_lumens, -2);
+}
+
+// Half of -1 is not open to the intensity of a lamp any more, but to an override, which asks for nothing but below 0.
+TEST_F(AttributeOverrides, half_of_an_intensity_that_nobody_has_set_is_open_to_overrides_alone) {
+    store(overrides, {{"intensity_override_mode", "%"}, {"intensity_override_value", "50"}});
+    store(lamp, {{"rorndll_lamp_intensity", "60"}, {"rorndll_lamp_intensity_lumens", "100"}});
+    store(properties, {{"lamp_intensity", "60"}, {"lamp_intensity_lumens", "100"}});
+    EXPECT_EQ(light().intensity, -0.5);
+    EXPECT_EQ(light().intensity_lumens, -0.5);
+    store(overrides, {{"intensity_override_value", "60"}});
+    EXPECT_EQ(light().intensity, 60);
+    EXPECT_EQ(light().intensity_lumens, 1025);
 }
 
 TEST_F(AttributeOverrides, an_override_in_lumens_leaves_a_lamp_that_is_set) {

@@ -226,6 +226,53 @@ TEST_F(FaceMeshing, faces_of_one_glowing_material_share_a_block_and_number_on) {
     EXPECT_EQ(reader.illum_material, -1);
 }
 
+TEST_F(FaceMeshing, a_lamp_face_of_a_glowing_material_glows_and_is_no_lamp) {
+    builder.root().square(100);
+    open();
+    current_oparms->light.lamp_type = "rect_glow";
+    EXPECT_EQ(write_first_face(glowing(10), side(0)), 1);
+    EXPECT_EQ(stream_text(), lines({"#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1",
+                                    "MATL;10", "MPU2;1", "MAT2;10"}) +
+                                 square_from(0)); // what follows the faces of the list ends the block
+    EXPECT_EQ(reader.ilights_saved, 0);
+    EXPECT_EQ(reader.vertex_base, 4);
+}
+
+TEST_F(FaceMeshing, a_glowing_face_inside_a_lamp_block_is_a_face_of_the_lamp) {
+    builder.root().square(100);
+    open();
+    reader.lamp_block_open = true;
+    EXPECT_EQ(write_first_face(glowing(10), side(0)), 1);
+    EXPECT_EQ(stream_text(), lines({"TLAY;Layer0", "CULL;0", "MATL;10", "MAT2;10"}) + square_from(0));
+    EXPECT_FALSE(reader.in_illum_mesh);
+}
+
+// The glow has a block, although the other faces of such a light have none.
+TEST_F(FaceMeshing, a_glowing_face_of_a_direct_light_has_a_block) {
+    builder.root().square(100);
+    open();
+    current_oparms->light.lamp_type = "bulb";
+    current_oparms->light.direct_light = true;
+    write_first_face(glowing(10), side(0));
+    write_first_face(side(0), side(0));
+    EXPECT_EQ(stream_text(), lines({"#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1",
+                                    "MATL;10", "MPU2;1", "MAT2;10"}) +
+                                 square_from(0) + end_of_block + lines({"TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"}) +
+                                 square_from(0) + end_of_block);
+    EXPECT_EQ(reader.mesh_count, 1);
+}
+
+// The second face shows both its sides without a word of their materials; the first of a block never does.
+TEST_F(FaceMeshing, the_face_that_opens_a_glowing_block_has_one_pass_and_those_behind_it_as_many_as_the_setting_says) {
+    set_global_int("ivl_2_sided_faces", 2);
+    builder.root().square(100);
+    open();
+    write_first_face(glowing(10), side(11));
+    EXPECT_EQ(reader.vertex_base, 4);
+    write_first_face(glowing(10), side(11));
+    EXPECT_EQ(reader.vertex_base, 12);
+}
+
 TEST_F(FaceMeshing, a_face_inside_a_lamp_block_repeats_the_state_lines_and_numbers_on) {
     builder.root().square(100);
     open();

@@ -262,6 +262,19 @@ TEST_F(Lamps, watts_without_lumens_are_multiplied_by_17) {
     EXPECT_EQ(field("intensity_lumens"), "170.000000");
 }
 
+TEST_F(Lamps, an_intensity_of_0_is_completed_by_the_other) {
+    cl_slp_light no_lumens = typed("rect");
+    no_lumens.intensity = 10;
+    no_lumens.intensity_lumens = 0;
+    add(no_lumens);
+    EXPECT_EQ(field("intensity_lumens"), "170.000000");
+    cl_slp_light no_watts = typed("rect");
+    no_watts.intensity = 0;
+    no_watts.intensity_lumens = 17; // what a lamp of 0 watts is given
+    add(no_watts);
+    EXPECT_EQ(field("intensity"), "1.000000");
+}
+
 TEST_F(Lamps, intensities_of_nothing_stay_as_they_are) {
     cl_slp_light light = typed("rect");
     light.intensity = 0;

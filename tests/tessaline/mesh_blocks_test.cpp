@@ -67,6 +67,21 @@ TEST_F(MeshBlocks, a_ground_cover_copy_that_fails_is_named_all_the_same) {
     EXPECT_EQ(stream_text(), lines({"#; a", "MESH;", "GCOR;-1", "GNDC;" + (folder / "missing/Plants/grass.orn")}));
 }
 
+TEST_F(MeshBlocks, ground_covers_that_take_turns_keep_their_names) {
+    temporary_folder folder;
+    theApp.batch_folder = folder.name();
+    const std::string grass = folder.write("covers/grass.orn", "green");
+    const std::string moss = folder.write("covers/moss.orn", "dark green");
+    for (const std::string& cover : {grass, grass, moss, grass})
+        reader.begin_mesh({.label = "a", .groundcover_file = cover, .layer_name = "Layer0"});
+    const auto head = [&](const char* name) {
+        return lines({"#; a", "MESH;", "GCOR;-1", "GNDC;" + (folder / "Plants/") + name});
+    };
+    EXPECT_EQ(stream_text(), head("grass.orn") + head("grass.orn") + head("moss.orn") + head("grass.orn"));
+    EXPECT_EQ(folder.read("Plants/grass.orn"), "green");
+    EXPECT_EQ(folder.read("Plants/moss.orn"), "dark green");
+}
+
 TEST_F(MeshBlocks, the_state_of_a_two_sided_block_names_the_side_of_the_pass) {
     mesh_state state{.layer_name = "Walls", .two_sided = true, .front_material = 11, .back_material = 12};
     reader.write_mesh_state(state);

@@ -10,7 +10,10 @@
 
 namespace {
 
-using LayerChain = reader_test;
+class LayerChain : public reader_test {
+protected:
+    LayerChain() { theApp.is_doing_animation = true; }
+};
 
 } // namespace
 
@@ -97,6 +100,40 @@ TEST(ParameterStack, popping_the_bottom_level_is_traced_and_leaves_it) {
     EXPECT_NE(trace.text().find("Trying to pop first oparms"), std::string::npos) << trace.text();
 }
 
+TEST(ParameterStack, popping_an_empty_stack_is_an_invalid_argument) {
+    cl_oparms_array stack;
+    EXPECT_THROW(stack.pop(), std::invalid_argument);
+}
+
+// Of four levels two can still be popped to: the top one and the one below it.
+TEST(ParameterStack, levels_that_cannot_come_back_are_forgotten_and_still_counted) {
+    cl_oparms_array stack;
+    stack.push();
+    stack.push();
+    cl_slp_oparms* const below = stack.push();
+    below->light.channel = 5;
+    cl_slp_oparms* const top = stack.push();
+    stack.forget_all_below(1);
+    EXPECT_EQ(stack.size(), 4);
+    EXPECT_EQ(stack.at(3), top);
+    EXPECT_EQ(stack.at(2), below);
+    EXPECT_THROW(stack.at(1), std::invalid_argument);
+    EXPECT_EQ(stack.push()->level, 4);
+    EXPECT_EQ(stack.pop(), top);
+    EXPECT_EQ(stack.pop(), below);
+    EXPECT_EQ(stack.push()->light.channel, 5);
+    EXPECT_EQ(stack.size(), 4);
+}
+
+TEST(ParameterStack, a_stack_that_holds_no_more_than_can_come_back_forgets_nothing) {
+    cl_oparms_array stack;
+    cl_slp_oparms* const bottom = stack.push();
+    stack.push();
+    stack.forget_all_below(1);
+    stack.forget_all_below(7);
+    EXPECT_EQ(stack.at(0), bottom);
+}
+
 TEST(ParameterStack, popping_an_upper_level_traces_nothing) {
     const trace_capture trace;
     cl_oparms_array stack;
@@ -145,6 +182,18 @@ TEST_F(LayerChain, a_layer_that_the_model_lacks_keeps_the_inherited_chain) {
     set_layer(*current_oparms, "missing");
     EXPECT_EQ(current_oparms->layer_name, "missing");
     EXPECT_EQ(current_oparms->layer_chain, "1");
+}
+
+// Only an animation writes chains. In any other run a level of a hidden layer may stay on the stack, and a chain would
+// grow with each of them.
+TEST_F(LayerChain, no_chain_is_kept_outside_an_animation) {
+    theApp.is_doing_animation = false;
+    builder.layer("one");
+    open();
+    current_oparms = oparms_array.push();
+    set_layer(*current_oparms, "one");
+    EXPECT_EQ(current_oparms->layer_name, "one");
+    EXPECT_EQ(current_oparms->layer_chain, "");
 }
 
 TEST(LampTest, a_type_as_text_or_as_number_makes_a_lamp) {

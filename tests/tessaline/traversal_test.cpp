@@ -5,6 +5,7 @@
 #include "sketchup/api/handles.h"
 #include "sketchup/skp/link.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -129,6 +130,23 @@ TEST_F(Traversal, dropped_content_of_a_hidden_layer_leaves_its_level_for_its_sib
     EXPECT_EQ(oparms_array.size(), 3); // the bottom one and one for each of the two
 }
 
+// The end of the group pops the level of the last of them, so what follows the group inherits from the second.
+TEST_F(Traversal, levels_that_stay_inside_a_group_are_popped_by_what_encloses_them) {
+    set_global_bool("bvl_process_invisible_lights", true);
+    model_builder m;
+    list_builder outer = m.root().group();
+    m.element(outer.placement()).layer = m.layer("on");
+    for (const char* const name : {"first", "second", "third"}) {
+        list_builder dropped = outer.group();
+        dropped.square(10);
+        m.element(dropped.placement()).layer = m.layer(name, false);
+    }
+    outer.square(10); // its own layer is "Layer0", which decides that it is seen
+    m.root().square(10);
+    EXPECT_THAT(tagged(body_of(m), "TLAY"), ElementsAre("TLAY;third", "TLAY;second"));
+    EXPECT_EQ(oparms_array.size(), 4); // the bottom one, the group's and three, of which one was popped
+}
+
 // The bottom level copies what is on the stack, so a level that says "lamp" makes one of everything below.
 TEST_F(Traversal, a_lamp_inside_a_lamp_is_part_of_it) {
     oparms_array.push()->light.lamp_type = "rect";
@@ -211,6 +229,67 @@ TEST_F(Traversal, the_beams_of_a_spot_lamp_follow_its_block_as_ordinary_meshes) 
                 ElementsAre("#; ProcessFace MESH", "MESH;", "TLAY;QLW_Lamp_Beam_Glow"));
     EXPECT_FALSE(reader.beam_pass_wanted);
     EXPECT_FALSE(reader.beam_pass_running);
+}
+
+// Only the end of the lamp's own block begins its second walk, and what is placed inside the lamp does not end it.
+TEST_F(Traversal, components_inside_a_spot_with_beams_neither_begin_nor_end_its_second_walk) {
+    model_builder m;
+    const auto glow = m.layer("QLW_Lamp_Beam_Glow");
+    const auto shade = m.layer("shade");
+    list_builder part = m.component("part");
+    square_on(m, part, shade);
+    square_on(m, part, glow);
+    list_builder lamp = m.component("lamp");
+    m.attribute(lamp.list(), "qlw_lamp", "sorndll_lamp_type", sketchup::text("spot_beams"));
+    lamp.instance(part);
+    lamp.instance(part);
+    square_on(m, lamp, glow);
+    m.root().instance(lamp);
+    m.root().square(10);
+    const auto lines = body_of(m);
+    EXPECT_THAT(tagged(lines, "LITE"), ElementsAre("LITE;0"));
+    EXPECT_THAT(tagged(lines, "TLAY"),
+                ElementsAre("TLAY;shade", "TLAY;shade", "TLAY;QLW_Lamp_Beam_Glow", "TLAY;QLW_Lamp_Beam_Glow",
+                            "TLAY;QLW_Lamp_Beam_Glow", "TLAY;Layer0"));
+    EXPECT_THAT(tagged(lines, "EMSH"), ElementsAre("EMSH; END OF LAMP", "EMSH;", "EMSH; Face", "EMSH;", "EMSH; Face",
+                                                   "EMSH;", "EMSH; Face", "EMSH;"));
+}
+
+TEST_F(Traversal, the_second_walk_of_a_spot_passes_over_images_and_edges) {
+    set_global_int("ivl_edge_lines", 2); // those that bound no face
+    model_builder m;
+    const auto glow = m.layer("QLW_Lamp_Beam_Glow");
+    list_builder lamp = m.component("lamp");
+    m.attribute(lamp.list(), "qlw_lamp", "sorndll_lamp_type", sketchup::text("spot_beams"));
+    square_on(m, lamp, glow);
+    lamp.image(m.image_definition({1, 2, 3}, "no picture.bmp", 2, 2));
+    lamp.edge({0, 0, 0}, {0, 0, 5});
+    m.root().instance(lamp);
+    const auto lines = body_of(m);
+    EXPECT_THAT(tagged(lines, "LITE"), ElementsAre("LITE;0"));
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "#;INSERT IMAGE IN LAMP"), 1);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "#;NEW MESH for Image"), 0);
+    const auto edges = std::find(lines.begin(), lines.end(), "#;EDGES");
+    ASSERT_NE(edges, lines.end());
+    EXPECT_EQ(tagged({edges, lines.end()}, "VERT").size(), 16u); // the beam of one edge
+}
+
+// Only components have one: the glow of a group's beams is not written at all.
+TEST_F(Traversal, a_group_that_is_a_spot_with_beams_has_no_second_walk) {
+    model_builder m;
+    const auto glow = m.layer("QLW_Lamp_Beam_Glow");
+    list_builder lamp = m.root().group();
+    m.attribute(lamp.placement(), "qlw_lamp", "sorndll_lamp_type", sketchup::text("spot_beams"));
+    square_on(m, lamp, glow);
+    EXPECT_THAT(body_of(m), ElementsAre("#; Process Group Lamp", "MESH;", "LITE;0", "EMSH; END OF LAMP"));
+}
+
+TEST_F(Traversal, an_image_behind_glowing_faces_has_numbers_of_its_own) {
+    model_builder m;
+    m.element(m.root().square(10)).material = m.material("Warm_glow80", {255, 214, 140, 255});
+    m.root().image(m.image_definition({1, 2, 3}, "no picture.bmp", 2, 2));
+    EXPECT_THAT(tagged(body_of(m), "ADDV"),
+                ElementsAre("ADDV;0", "ADDV;1", "ADDV;2", "ADDV;3", "ADDV;0", "ADDV;1", "ADDV;2", "ADDV;3"));
 }
 
 TEST_F(Traversal, a_plant_is_not_walked) {
