@@ -158,10 +158,9 @@ std::string shared_ini_folder();
 // All of these follow symbolic links unless told otherwise, and answer "no" for a name that cannot be examined.
 bool exists(const std::string& name);
 bool is_folder(const std::string& name);
-bool is_symbolic_link(const std::string& name);                   // looks at the name itself
-std::optional<std::uint64_t> file_size(const std::string& name);  // bytes; nothing for what is no plain file
-std::optional<std::int64_t> modified_at(const std::string& name); // whole seconds since the epoch
-std::optional<std::string> real_name(const std::string& name);    // full name without links, "." and ".."
+bool is_symbolic_link(const std::string& name);                  // looks at the name itself
+std::optional<std::uint64_t> file_size(const std::string& name); // bytes; nothing for what is no plain file
+std::optional<std::string> real_name(const std::string& name);   // full name without links, "." and ".."
 // The name made full by putting the current folder in front. Doubled separators are folded to one; nothing else is
 // changed. The empty name stays empty.
 std::string absolute_name(const std::string& name);

@@ -25,8 +25,11 @@ public:
     const std::string& path() const { return file_path; } // as resolved by the last open
 
     // The next line without its line end. False at the end of the file, when nothing is left.
-    // A line may have any length; a carriage return counts as part of the line end only in a text file.
+    // A carriage return counts as part of the line end only in a text file. Lines longer than longest_line are passed
+    // over, each with a trace.
     bool read_line(std::string& line);
+
+    std::size_t longest_line = std::size_t{64} << 20; // bytes; no line that anybody writes comes near
 
     // Up to `size` raw bytes; fewer only at the end of the file.
     std::size_t read_data(void* buffer, std::size_t size);
@@ -50,6 +53,7 @@ protected:
 
 private:
     bool fill();
+    bool read_any_line(std::string& line, bool& is_too_long);
 
     std::string pending;       // written, not yet in the file
     std::string read_ahead;    // read, not yet handed out

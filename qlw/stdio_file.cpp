@@ -2,6 +2,8 @@
 
 #include "qlw/qlw_text_files.h"
 
+#include "qlw/qlw_trace.h"
+
 #include <algorithm>
 
 namespace {
@@ -31,12 +33,30 @@ bool cl_stdio_file::fill() {
 }
 
 bool cl_stdio_file::read_line(std::string& line) {
+    bool is_too_long = false;
+    while (read_any_line(line, is_too_long)) {
+        if (!is_too_long)
+            return true;
+        cl_trace("qlw_std", __LINE__, "cl_stdio_file::read_line", 0, 0)
+            .report("A line of more than %d bytes is passed over: %s", longest_line, file_path);
+    }
+    return false;
+}
+
+// A line that is too long is read to its end and not kept.
+bool cl_stdio_file::read_any_line(std::string& line, bool& is_too_long) {
     line.clear();
+    is_too_long = false;
     bool found_any = false;
     while (fill()) {
         found_any = true;
         const std::size_t end = read_ahead.find('\n', read_from);
-        line.append(read_ahead, read_from, end - read_from); // all that is left if no line ends here
+        const std::size_t size = std::min(end, read_ahead.size()) - read_from; // all that is left if no line ends here
+        is_too_long = is_too_long || size > longest_line - line.size();
+        if (is_too_long)
+            line.clear();
+        else
+            line.append(read_ahead, read_from, size);
         if (end != std::string::npos) {
             read_from = end + 1;
             if (content_kind == content::text && line.ends_with('\r'))

@@ -1,5 +1,7 @@
 #include "qlw/text_format.h"
 
+#include "qlw/text_numbers.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -127,11 +129,12 @@ void append_real(std::string& out, const conversion& item, double value) {
     // The standard defines this call as printf with the same conversion in the C locale.
     char* const end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value), form, precision).ptr;
-    std::string digits(buffer.data(), end);
+    const bool is_no_number = std::isnan(value);
+    std::string digits = is_no_number ? std::string(not_a_number_text) : std::string(buffer.data(), end);
     if (item.letter != letter)
         std::transform(digits.begin(), digits.end(), digits.begin(),
                        [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    append_number(out, item, sign_of(std::signbit(value), item), digits, std::isfinite(value));
+    append_number(out, item, sign_of(std::signbit(value) && !is_no_number, item), digits, std::isfinite(value));
 }
 
 std::optional<text_argument::kind> kind_for(char letter) {

@@ -1,7 +1,8 @@
 #pragma once
 
 // printf-style formatting that checks each conversion against its argument. A format that does not fit is an answer and
-// never undefined behaviour. Numbers come out as printf gives them in the C locale, whatever locale is in force.
+// never undefined behaviour. Numbers come out as printf gives them in the C locale, whatever locale is in force; what
+// is not a number is "nan", without a minus.
 
 #include <array>
 #include <concepts>

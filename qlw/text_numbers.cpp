@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 #include <limits>
 
@@ -41,6 +42,8 @@ std::string integer_text(std::int32_t number) {
 }
 
 std::string number_text(double number) {
+    if (std::isnan(number))
+        return std::string(not_a_number_text);
     char text[24]; // sign, nine digits, point, "e+308": 16 at most
     const auto end = std::to_chars(text, text + sizeof text, number, std::chars_format::general, 9);
     return {text, end.ptr};

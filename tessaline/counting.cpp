@@ -1,23 +1,16 @@
 // How many steps of progress the walk will report. Rough on purpose: it looks at no visibility and no attributes, so it
 // counts hidden content too, and the display may end below 100.
 
+#include "tessaline/counting.h"
+
 #include "qlw/qlw_globals.h"
 #include "tessaline/edge_choice.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/SketchUpReader.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <limits>
 
 namespace {
-
-// Counts stay within 32 bits, whatever the scattered components add.
-void add_items(int& total, std::size_t count) {
-    const std::uint64_t sum = static_cast<std::uint64_t>(total) + count;
-    total = static_cast<int>(std::min<std::uint64_t>(sum, std::numeric_limits<int>::max()));
-}
 
 template<class Owner>
 std::size_t count_by(SUResult (*count_of)(Owner, std::size_t*), Owner owner) {

@@ -7,6 +7,7 @@
 #include "qlw/text_format.h"
 #include "qlw/trace_state.h"
 #include "tessaline/batch_folders.h"
+#include "tessaline/counting.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/layer_inheritance.h"
 #include "tessaline/model_settings.h"
@@ -177,7 +178,7 @@ void SketchUpReader::count_items() {
     std::size_t definitions = 0;
     SUModelGetNumComponentDefinitions(open_model, &definitions);
     if (definitions != 0 && platform::exists(skatter_file))
-        items_done += skatter_line_count(skatter_file);
+        add_items(items_done, skatter_line_count(skatter_file));
     total_items = items_done;
     items_done = 0;
     last_percent = 0;

@@ -4,15 +4,13 @@
 #include "tessaline/plants.h"
 
 #include "qlw/qlw_globals.h"
+#include "qlw/text_numbers.h"
 #include "tessaline/attributes.h"
 #include "tessaline/run_state.h"
-
-#include <cstdlib>
 
 namespace {
 
 void take_plant_value(plant_description& plant, const cl_tsl_attribute& row) {
-    const auto real = [&] { return std::strtod(row.value.c_str(), nullptr); };
     if (row.key == "ornplant_name")
         plant.plant_file_name = row.value;
     else if (row.key == "ornplant_data64")
@@ -20,17 +18,17 @@ void take_plant_value(plant_description& plant, const cl_tsl_attribute& row) {
     else if (row.key == "ornplant_data")
         plant.plant_data = row.value;
     else if (row.key == "hgt_to_diam")
-        plant.height_to_diameter = real();
+        plant.height_to_diameter = double_value(row.value);
     else if (row.key == "library")
         plant.library = row.value;
     else if (row.key == "name")
         plant.name = row.value;
     else if (row.key == "season")
-        plant.season = std::atoi(row.value.c_str());
+        plant.season = decimal_value(row.value);
     else if (row.key == "season_override")
-        plant.season_override = std::atoi(row.value.c_str()) != 0;
+        plant.season_override = decimal_value(row.value) != 0;
     else if (row.key == "wid_to_diam")
-        plant.width_to_diameter = real();
+        plant.width_to_diameter = double_value(row.value);
     else if (row.key == "render_plant_as_2d_image")
         plant.render_as_2d_image = text_is_true(row.value);
 }

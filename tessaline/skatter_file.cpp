@@ -40,8 +40,8 @@ void for_each_skatter_placement(const std::string& path, const std::function<voi
     for_each_line(path, [&use](std::string& line) { use(placement_from(line)); });
 }
 
-int skatter_line_count(const std::string& path) {
-    int count = 0;
+std::uint64_t skatter_line_count(const std::string& path) {
+    std::uint64_t count = 0;
     for_each_line(path, [&count](std::string&) { ++count; });
     return count;
 }

@@ -5,6 +5,7 @@
 
 #include "tessaline/transforms.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -21,4 +22,4 @@ std::string skatter_file_path(const std::string& batch_folder);
 void for_each_skatter_placement(const std::string& path, const std::function<void(const skatter_placement&)>& use);
 
 // The number of lines that are no comments.
-int skatter_line_count(const std::string& path);
+std::uint64_t skatter_line_count(const std::string& path);

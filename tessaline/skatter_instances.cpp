@@ -4,12 +4,16 @@
 #include "platform/platform.h"
 #include "qlw/qlw_trace.h"
 #include "tessaline/attributes.h"
+#include "tessaline/counting.h"
 #include "tessaline/handle_lists.h"
 #include "tessaline/model_text.h"
 #include "tessaline/run_state.h"
 #include "tessaline/skatter_file.h"
 #include "tessaline/SketchUpReader.h"
 
+#include <cstddef>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace {
@@ -19,23 +23,41 @@ struct named_definition {
     std::string name;
 };
 
-std::vector<named_definition> definitions_of_model() {
-    std::vector<named_definition> named;
-    for (const SUComponentDefinitionRef definition :
-         all_handles(SUModelGetNumComponentDefinitions, SUModelGetComponentDefinitions, open_model))
-        named.push_back({definition, name_by(SUComponentDefinitionGetName, definition)});
-    return named;
-}
-
-// The first definition of that name; an invalid handle if there is none.
-SUComponentDefinitionRef find_definition(const std::vector<named_definition>& definitions, const std::string& name) {
-    for (const named_definition& candidate : definitions) {
-        cl_trace("skatter_instances", __LINE__, "find_definition", 0, 0).report("%s <> %s", name, candidate.name);
-        if (candidate.name == name)
-            return candidate.definition;
+// The definitions of the open model, to be found by their names: a list may place a hundred thousand of them.
+class definitions_of_model {
+public:
+    definitions_of_model() {
+        for (const SUComponentDefinitionRef definition :
+             all_handles(SUModelGetNumComponentDefinitions, SUModelGetComponentDefinitions, open_model)) {
+            in_order.push_back({definition, name_by(SUComponentDefinitionGetName, definition)});
+            first_of_name.try_emplace(in_order.back().name, in_order.size() - 1);
+        }
     }
-    return SU_INVALID;
-}
+
+    bool empty() const { return in_order.empty(); }
+
+    // The first definition of that name; an invalid handle if there is none. Each name up to the right one is traced.
+    SUComponentDefinitionRef find(const std::string& name) const {
+        const auto found = first_of_name.find(name);
+        if (traces_are_heard())
+            trace_names_up_to(name);
+        if (found == first_of_name.end())
+            return SU_INVALID;
+        return in_order[found->second].definition;
+    }
+
+private:
+    void trace_names_up_to(const std::string& name) const {
+        for (const named_definition& candidate : in_order) {
+            cl_trace("skatter_instances", __LINE__, "find_definition", 0, 0).report("%s <> %s", name, candidate.name);
+            if (candidate.name == name)
+                return;
+        }
+    }
+
+    std::vector<named_definition> in_order;
+    std::unordered_map<std::string, std::size_t> first_of_name; // index in in_order
+};
 
 // Whether a scattered component is written as a plant; fills the description.
 bool is_written_as_plant(SUComponentDefinitionRef definition, plant_description& plant) {
@@ -54,16 +76,16 @@ void SketchUpReader::count_skatter_instances() {
         return;
     cl_trace("skatter_instances", __LINE__, "SketchUpReader::CountEntities", 0, 0)
         .report("Skatter_insts.txt file was found");
-    const std::vector<named_definition> definitions = definitions_of_model();
+    const definitions_of_model definitions;
     if (definitions.empty())
         return;
     for_each_skatter_placement(path, [&](const skatter_placement& placement) {
-        const SUComponentDefinitionRef definition = find_definition(definitions, placement.definition_name);
+        const SUComponentDefinitionRef definition = definitions.find(placement.definition_name);
         if (SUIsInvalid(definition))
             return;
         plant_description plant;
         if (is_written_as_plant(definition, plant)) {
-            ++items_done;
+            add_items(items_done, 1);
             return;
         }
         SUEntitiesRef entities = SU_INVALID;
@@ -77,11 +99,11 @@ void SketchUpReader::process_skatter_instances() {
     if (!platform::exists(file))
         return;
     in_skatter_instances = true;
-    const std::vector<named_definition> definitions = definitions_of_model();
+    const definitions_of_model definitions;
     if (definitions.empty())
         return; // the file is not read, and the flag stays: materials go by their other names
     for_each_skatter_placement(file, [&](const skatter_placement& placement) {
-        const SUComponentDefinitionRef definition = find_definition(definitions, placement.definition_name);
+        const SUComponentDefinitionRef definition = definitions.find(placement.definition_name);
         if (SUIsInvalid(definition))
             return;
         plant_description plant;

@@ -3,9 +3,13 @@
 
 #include "tessaline/write_number.h"
 
+#include "qlw/text_numbers.h"
+
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <cstring>
 
@@ -133,6 +137,8 @@ char* write_number(char* out, double value) {
         *out = '-';
         return write_fast(out + (bits >> 63), magnitude, is_zero);
     }
+    if (std::isnan(value))
+        return std::copy(not_a_number_text.begin(), not_a_number_text.end(), out);
     return std::to_chars(out, out + number_room, value, std::chars_format::general, 9).ptr;
 }
 

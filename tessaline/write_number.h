@@ -9,7 +9,8 @@ inline constexpr int number_room = 32;
 
 // Writes a double as "%.9g" does: up to nine significant digits, the shorter of fixed and exponent form, no terminator.
 // out: at least number_room bytes, all of which may be overwritten. Gives the end of the text.
-// Every double is exact, infinities ("inf") and not-a-numbers ("nan") included; negative zero is "-0".
+// Every number is exact; infinities are "inf" and "-inf", negative zero is "-0". What is not a number is "nan": its
+// sign would follow the processor.
 char* write_number(char* out, double value);
 
 // Writes an int as "%d" does, under the same rules.

@@ -54,11 +54,6 @@ std::optional<std::uint64_t> file_size(const std::string& name) {
     return static_cast<std::uint64_t>(status->st_size);
 }
 
-std::optional<std::int64_t> modified_at(const std::string& name) {
-    const auto status = status_of(name);
-    return status ? std::optional<std::int64_t>(status->st_mtime) : std::nullopt;
-}
-
 std::optional<std::string> real_name(const std::string& name) {
     std::array<char, PATH_MAX> buffer; // the size that the call itself keeps to
     const char* const resolved = realpath(name.c_str(), buffer.data());

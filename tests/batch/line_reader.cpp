@@ -60,6 +60,20 @@ std::array<double, 3> line_reader::take_triple(std::string_view tag, std::string
     return *numbers;
 }
 
+std::array<double, 3> line_reader::take_unit(std::string_view tag, std::string_view separator) {
+    const auto vector = take_triple(tag, separator);
+    if (!is_unit(vector))
+        fail_before("this is no unit vector");
+    return vector;
+}
+
+std::array<double, 3> line_reader::take_unit_or_zero(std::string_view tag, std::string_view separator) {
+    const auto vector = take_triple(tag, separator);
+    if (!is_unit(vector) && vector != std::array<double, 3>{})
+        fail_before("this is no unit vector");
+    return vector;
+}
+
 void line_reader::take_real(std::string_view tag) {
     if (!is_real(take_text(tag)))
         fail_before("this is no number with six decimals");

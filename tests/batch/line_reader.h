@@ -30,6 +30,9 @@ public:
     void take_signed_number(std::string_view tag); // -1 stands for "not set"
     std::vector<int> take_whole_numbers(std::string_view tag, std::string_view separator);
     std::array<double, 3> take_triple(std::string_view tag, std::string_view separator);
+    std::array<double, 3> take_unit(std::string_view tag, std::string_view separator);
+    // Zero stands for a direction that cannot be told.
+    std::array<double, 3> take_unit_or_zero(std::string_view tag, std::string_view separator);
     void take_real(std::string_view tag);
 
     [[noreturn]] void fail(const std::string& reason) const;        // about the line that stands here

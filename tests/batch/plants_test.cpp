@@ -116,4 +116,17 @@ TEST(PlantsBatch, scattered_ones_are_placed_line_by_line_among_plain_components)
     expect_run(b, "scattered_plants");
 }
 
+// By height 0 / 2, by width 0 / 0.
+TEST(PlantsBatch, a_scattered_plant_without_a_width_ratio_has_no_diameter_and_says_so_in_the_same_bytes_everywhere) {
+    batch b;
+    model_builder m;
+    list_builder oak = m.component("oak");
+    oak.box({0, 0, 0}, {40, 30, 100});
+    describe(m, oak, {{"library", "Trees"}, {"name", "Oak"}, {"hgt_to_diam", "2"}});
+    set_random_height(m, 0);
+    b.put_model(m);
+    b.put("skatter_insts.txt", "1;a;b;oak;1;0;0;0;0;1;0;0;0;0;1;0;100;200;0;1\r\n");
+    expect_run(b, "scattered_plant_without_size");
+}
+
 } // namespace

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr double vector_tolerance = 1e-6; // the text has nine digits, and what is below 1e-7 was cut off
+
 // The number that a text spells in the way of a printf conversion, and in no other way.
 std::optional<double> number_spelled_by(const char* conversion, std::string_view text) {
     const std::string spelled(text);
@@ -83,6 +85,14 @@ std::optional<std::array<double, 3>> triple_in(std::string_view text, std::strin
         numbers[i] = *number;
     }
     return numbers;
+}
+
+bool is_unit(const std::array<double, 3>& v) {
+    return std::abs(std::hypot(v[0], v[1], v[2]) - 1) < vector_tolerance;
+}
+
+bool is_square(const std::array<double, 3>& v, const std::array<double, 3>& w) {
+    return std::abs(v[0] * w[0] + v[1] * w[1] + v[2] * w[2]) < vector_tolerance;
 }
 
 bool is_real(std::string_view text) {

@@ -20,6 +20,10 @@ std::optional<std::vector<int>> whole_numbers_in(std::string_view text, std::str
 // least 1e-07 from it, and must be spelled as that conversion spells it; 0 has no sign.
 std::optional<std::array<double, 3>> triple_in(std::string_view text, std::string_view separator);
 
+// Whether a vector of such numbers is a unit vector, and whether two are square to one another.
+bool is_unit(const std::array<double, 3>& v);
+bool is_square(const std::array<double, 3>& v, const std::array<double, 3>& w);
+
 // A number as "%f" writes it.
 bool is_real(std::string_view text);
 

@@ -1,114 +1,9 @@
 #include "tests/batch/stream_grammar.h"
 
-#include <gtest/gtest.h>
-#include <initializer_list>
-#include <vector>
+#include "tests/batch/stream_pieces.h"
 
+namespace stream_pieces {
 namespace {
-
-using lines = std::vector<std::string>;
-
-lines joined(std::initializer_list<lines> parts) {
-    lines all;
-    for (const lines& part : parts)
-        all.insert(all.end(), part.begin(), part.end());
-    return all;
-}
-
-std::string text_of(const lines& all) {
-    std::string text;
-    for (const std::string& line : all)
-        text += line + "\r\n";
-    return text;
-}
-
-const lines head = {"#;Tessaline Geometry, new extractor",
-                    "#;09/09/2001  01:46:40 GMT",
-                    "DFFC;ffffff",
-                    "DFBC;ffffff",
-                    "DFEC;000000",
-                    "#;"};
-const lines pass = {"#;", "PASS;0", "#;"};
-const lines end = {"#;", "END;"};
-const lines layer_table = {"LYIN;0", "LYNM;Layer0", "LYIN;1", "LYNM;Walls"};
-const lines state = {"TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"};
-const lines face_head = {"#; ProcessFace MESH", "MESH;"};
-const lines lamp_head = {"#; Process Group Lamp", "MESH;", "LITE;0"};
-const lines close = {"EMSH;"};
-const lines end_of_lamp = {"EMSH; END OF LAMP"};
-const lines wall = {"MATF;COL%3a0012_Wall.OrnMaterial", "MTX2;1", "MATI;10"};
-const lines point_light = {"#; Process Instance Lamp Direct Light", "LGHT;0"};
-const lines edges = {"#;", "#;EDGES"};
-
-// A triangle whose vertices have the numbers from `first` on.
-lines triangle(int first) {
-    const auto number = [first](int corner) { return std::to_string(first + corner); };
-    return {"NORM;(0,0,1)",      "VERT;(0,0,0)",
-            "ADDV;" + number(0), "NORM;(0,0,1)",
-            "VERT;(2.54,0,0)",   "ADDV;" + number(1),
-            "NORM;(0,0,1)",      "VERT;(0,2.54,0)",
-            "ADDV;" + number(2), "FACE;" + number(0) + "," + number(1) + "," + number(2)};
-}
-
-lines textured_triangle(int first, const std::string& uvq = "UVQ;(0.5,1.5,1)") {
-    lines all;
-    for (const std::string& line : triangle(first)) {
-        all.push_back(line);
-        if (line.starts_with("NORM;"))
-            all.push_back(uvq);
-    }
-    return all;
-}
-
-const lines face_block = joined({face_head, state, triangle(0), close});
-
-// The four vertex groups and two triangles of an image.
-lines image(int first) {
-    const auto number = [first](int corner) { return std::to_string(first + corner); };
-    lines all = {"TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10", "MPU2;1", "MAT2;10"};
-    int corner = 0;
-    for (const char* uvq : {"UVQ;(0,0,0)", "UVQ;(1,0,0)", "UVQ;(1,1,0)", "UVQ;(0,1,0)"}) {
-        const lines vertex = {"NORM;(0,0,1)", uvq, "VERT;(1,2,3)", "ADDV;" + number(corner++)};
-        all.insert(all.end(), vertex.begin(), vertex.end());
-    }
-    all.push_back("FACE;" + number(0) + ", " + number(1) + ", " + number(2));
-    all.push_back("FACE;" + number(2) + ", " + number(3) + ", " + number(0));
-    return all;
-}
-
-const lines edge_head = {"#;MESH for Edges", "MESH;", "TLAY;Layer0", "CULL;0", "MATL;1", "MAT2;1"};
-
-lines beams(int count) {
-    lines all;
-    for (int first = 0; first < 16 * count; first += 4) {
-        const std::string normal = first % 16 < 8 ? "NORM;(1,0,0)" : "NORM;(0,1,0)"; // of two sides each
-        for (int corner = 0; corner < 4; ++corner) {
-            const lines vertex = {normal, "VERT;(0,0,0)", "ADDV;" + std::to_string(first + corner)};
-            all.insert(all.end(), vertex.begin(), vertex.end());
-        }
-        const auto number = [first](int corner) { return std::to_string(first + corner); };
-        all.push_back("FACE;" + number(0) + "," + number(1) + "," + number(2));
-        all.push_back("FACE;" + number(2) + "," + number(3) + "," + number(0));
-    }
-    return all;
-}
-
-std::optional<grammar_fault> fault_of(std::initializer_list<lines> parts) {
-    return first_grammar_fault(text_of(joined(parts)));
-}
-
-// What stands between the first nine lines and the last two.
-void expect_good(std::initializer_list<lines> body) {
-    EXPECT_EQ(fault_of({head, pass, joined(body), end}), std::nullopt);
-}
-
-// line: counted from the first line of the body, which is 1.
-void expect_bad(std::size_t line, const std::string& reason, std::initializer_list<lines> body) {
-    const auto fault = fault_of({head, pass, joined(body), end});
-    ASSERT_TRUE(fault.has_value());
-    EXPECT_EQ(fault->line, head.size() + pass.size() + line);
-    EXPECT_EQ(fault->reason, reason);
-}
 
 TEST(StreamGrammar, takes_an_empty_model) {
     expect_good({});
@@ -438,66 +333,12 @@ TEST(StreamGrammar, wants_the_file_of_a_plant_in_the_folder_of_plants) {
                          "PLSN;-1", "PLRT;0.000000", "PLSC;1.000000", "PLNT;1",        "#"};
     expect_good({plant});
     lines wrong = plant;
+    wrong[4] = "PLDM;nan";
+    expect_good({wrong});
     wrong[1] = "PLLB;OrnPlant";
     expect_bad(3, "data of its own lie in the folder of plants, found \"PLNM;Oak\"", {wrong});
     wrong[2] = "PLNM;/batch/Plants/../Oak";
     expect_bad(3, "data of its own lie in the folder of plants, found \"PLNM;/batch/Plants/../Oak\"", {wrong});
-}
-
-TEST(StreamGrammar, wants_the_sides_of_a_beam_square_to_one_another) {
-    const lines close_edges = {"EMSH; Edges"};
-    lines beam = beams(1);
-    beam[3] = "NORM;(0,1,0)";
-    expect_bad(12, "the corners of a side have one normal, found \"NORM;(0,1,0)\"",
-               {edges, edge_head, beam, close_edges});
-    beam = beams(1);
-    for (std::string& line : beam)
-        if (line == "NORM;(0,1,0)")
-            line = "NORM;(0.6,0.8,0)";
-    expect_bad(65, "these are no normals of a beam, found \"EMSH; Edges\"", {edges, edge_head, beam, close_edges});
-}
-
-TEST(StreamGrammar, wants_edges_on_Layer0) {
-    lines elsewhere = edge_head;
-    elsewhere[2] = "TLAY;Walls";
-    expect_bad(5, "edges count as being on \"Layer0\", found \"TLAY;Walls\"", {edges, elsewhere, beams(1)});
-}
-
-TEST(StreamGrammar, takes_edge_blocks_at_the_end) {
-    const lines close_edges = {"EMSH; Edges"};
-    expect_good({edges, edge_head, beams(2), close_edges});
-    expect_good({face_block, edges, close_edges, edge_head, beams(1), close_edges});
-    expect_bad(20, "\"EMSH; Edges\" must stand here, found \"#;MESH for Edges\"",
-               {face_block, edges, edge_head, beams(1), close_edges});
-    expect_bad(65, "\"EMSH; Edges\" must stand here, found \"#;\"", {edges, edge_head, beams(1)});
-    expect_bad(4, "\"END;\" must stand here, found \"EMSH; Edges\"", {edges, {"#;"}, close_edges, edge_head});
-}
-
-TEST(StreamGrammar, the_first_edge_block_holds_999_edges_and_the_others_1000) {
-    const lines close_edges = {"EMSH; Edges"};
-    expect_good({edges, edge_head, beams(999), close_edges, edge_head, beams(1000), close_edges, edge_head, beams(1),
-                 close_edges});
-    const auto overfull = fault_of({head, pass, edges, edge_head, beams(1000), close_edges, end});
-    ASSERT_TRUE(overfull.has_value());
-    EXPECT_TRUE(overfull->reason.starts_with("the block of edges is overfull")) << *overfull;
-    const auto split =
-        fault_of({head, pass, edges, edge_head, beams(998), close_edges, edge_head, beams(1), close_edges, end});
-    ASSERT_TRUE(split.has_value());
-    EXPECT_TRUE(split->reason.starts_with("the block of edges before is not full")) << *split;
-}
-
-TEST(StreamGrammar, takes_the_edges_of_a_3d_document) {
-    const lines line = {"#;",   "MESH;", "EDGE;1", "TLAY;Edges", "EDG1;(0, 0, 0)", "EDG2;(10, 0, 0)", "EDGN;(0, 0, 1)",
-                        "EMSH;"};
-    expect_good({face_block, edges, line, line});
-    lines wrong = line;
-    wrong[4] = "EDG1;(0,0,0)";
-    expect_bad(7, "this is no triple of numbers in their shortest form, found \"EDG1;(0,0,0)\"", {edges, wrong});
-    wrong = line;
-    wrong[6] = "EDGN;(0, 0, 2)";
-    expect_bad(9, "this is no unit vector, found \"EDGN;(0, 0, 2)\"", {edges, wrong});
-    expect_bad(12, "\"END;\" must stand here, found \"#;MESH for Edges\"",
-               {edges, line, {"#;"}, edge_head, beams(1), {"EMSH; Edges"}});
 }
 
 TEST(StreamGrammar, refuses_lines_that_no_item_begins_with) {
@@ -506,3 +347,4 @@ TEST(StreamGrammar, refuses_lines_that_no_item_begins_with) {
 }
 
 } // namespace
+} // namespace stream_pieces

@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const temporary_folder folder;
     const std::string file =
         folder.write("skatter_insts.txt", std::string_view(reinterpret_cast<const char*>(data), size));
-    int placements = 0;
+    std::uint64_t placements = 0;
     for_each_skatter_placement(file, [&](const skatter_placement& placement) {
         ++placements;
         if (trimmed(placement.definition_name) != placement.definition_name)

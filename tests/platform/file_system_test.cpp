@@ -33,14 +33,6 @@ TEST(FileSystem, gives_the_size_of_plain_files_only) {
     EXPECT_FALSE(platform::file_size(folder / "missing").has_value());
 }
 
-TEST(FileSystem, a_file_just_written_was_modified_now) {
-    const temporary_folder folder;
-    const auto modified = platform::modified_at(folder.write("a.txt", ""));
-    ASSERT_TRUE(modified.has_value());
-    EXPECT_NEAR(static_cast<double>(*modified), platform::seconds_since_epoch(), 5.0);
-    EXPECT_FALSE(platform::modified_at(folder / "missing").has_value());
-}
-
 TEST(FileSystem, lists_a_folder_in_the_order_of_the_names_without_the_dots) {
     const temporary_folder folder;
     folder.write("b.txt", "12345");

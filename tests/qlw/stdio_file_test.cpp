@@ -1,5 +1,6 @@
 #include "qlw/qlw_text_files.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/trace_capture.h"
 
 #include <gtest/gtest.h>
 
@@ -52,6 +53,32 @@ TEST(TextFile, lines_and_line_ends_across_the_buffers_edge_stay_whole) {
     const std::string to_the_edge(65535, 'a'); // the CR is the last byte of the first block
     const std::string longer(200000, 'b');
     EXPECT_EQ(lines_of(folder.write("a", to_the_edge + "\r\n" + longer + "\n")), (texts{to_the_edge, longer}));
+}
+
+TEST(TextFile, a_line_beyond_the_longest_is_passed_over_with_a_trace) {
+    const temporary_folder folder;
+    const trace_capture trace;
+    const std::string name = folder.write("a", "four\nfives\n\nend\nlonger still");
+    cl_input_file file;
+    ASSERT_TRUE(file.open(name, 1, "", 0));
+    file.longest_line = 4;
+    texts found;
+    for (std::string line; file.read_line(line);)
+        found.push_back(line);
+    EXPECT_EQ(found, (texts{"four", "", "end"}));
+    const std::string report = "qlw_std(#):: A line of more than 4 bytes is passed over: " + name + "\n";
+    EXPECT_EQ(trace.text_without_line_numbers(), report + report);
+}
+
+TEST(TextFile, a_line_beyond_the_longest_may_take_many_buffers) {
+    const temporary_folder folder;
+    cl_input_file file;
+    ASSERT_TRUE(file.open(folder.write("a", std::string(300000, 'a') + "\r\nend\r\n"), 1, "", 0));
+    file.longest_line = 100000;
+    std::string line;
+    ASSERT_TRUE(file.read_line(line));
+    EXPECT_EQ(line, "end");
+    EXPECT_FALSE(file.read_line(line));
 }
 
 TEST(TextFile, more_than_a_buffer_is_written_whole_and_in_order) {

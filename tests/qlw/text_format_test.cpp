@@ -57,7 +57,14 @@ TEST(TextFormat, real_numbers_have_the_forms_of_printf) {
 
 TEST(TextFormat, infinity_is_a_word_that_is_never_filled_with_zeros) {
     EXPECT_EQ(format_text("%06g", -std::numeric_limits<double>::infinity()), "  -inf");
-    EXPECT_EQ(format_text("%g", std::numeric_limits<double>::quiet_NaN()), "nan");
+}
+
+TEST(TextFormat, what_is_not_a_number_is_a_word_without_a_minus) {
+    const double no_number = std::numeric_limits<double>::quiet_NaN();
+    const double negative = std::copysign(no_number, -1);
+    EXPECT_EQ(format_text("%g|%f|%.9g", no_number, no_number, no_number), "nan|nan|nan");
+    EXPECT_EQ(format_text("%g|%f|%.9g", negative, negative, negative), "nan|nan|nan");
+    EXPECT_EQ(format_text("[%06g][%-5f][%F]", negative, negative, negative), "[   nan][nan  ][NAN]");
 }
 
 TEST(TextFormat, the_largest_number_with_the_longest_fraction_fits) {

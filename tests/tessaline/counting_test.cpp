@@ -1,5 +1,7 @@
 // How many steps of progress a model has.
 
+#include "tessaline/counting.h"
+
 #include "run_fixture.h"
 
 namespace {
@@ -8,6 +10,18 @@ using sketchup::list_builder;
 using sketchup::model_builder;
 
 class Counting : public run_fixture {};
+
+TEST(ItemCount, grows_by_what_is_added_and_ends_at_the_largest_number_of_32_bits) {
+    int total = 2;
+    add_items(total, 3);
+    EXPECT_EQ(total, 5);
+    add_items(total, 2147483641);
+    EXPECT_EQ(total, 2147483646);
+    add_items(total, 2);
+    EXPECT_EQ(total, 2147483647);
+    add_items(total, 18446744073709551615u);
+    EXPECT_EQ(total, 2147483647);
+}
 
 TEST_F(Counting, an_empty_model_has_a_total_of_0) {
     model_builder m;

@@ -125,6 +125,14 @@ TEST_F(Plants, numbers_that_cannot_be_read_are_0) {
     EXPECT_EQ(plant.season, 0);
 }
 
+// 99999999999 does not fit 32 bits; C libraries differ in what they make of it.
+TEST_F(Plants, a_season_beyond_32_bits_is_the_same_on_every_platform) {
+    plant_says("season", "99999999999");
+    plant_description plant;
+    read_plant_description(plant);
+    EXPECT_EQ(plant.season, -1);
+}
+
 TEST_F(Plants, an_outside_object_has_four_texts_and_is_one_by_its_name) {
     object_says("PreviewMode", "2");
     object_says("RPCTypeId", "AV-17");

@@ -67,7 +67,7 @@ TEST_F(SkatterFile, what_is_missing_or_no_number_is_zero) {
 }
 
 TEST_F(SkatterFile, every_line_but_the_comments_is_counted_an_empty_one_too) {
-    EXPECT_EQ(skatter_line_count(batch.write("skatter_insts.txt", "# comment\na;b;c;one\n\n#\nno fields")), 3);
+    EXPECT_EQ(skatter_line_count(batch.write("skatter_insts.txt", "# comment\na;b;c;one\n\n#\nno fields")), 3u);
 }
 
 TEST_F(SkatterFile, one_that_cannot_be_opened_has_no_lines_and_nobody_is_told) {
@@ -77,7 +77,7 @@ TEST_F(SkatterFile, one_that_cannot_be_opened_has_no_lines_and_nobody_is_told) {
     bool is_used = false;
     for_each_skatter_placement(name, [&](const skatter_placement&) { is_used = true; });
     EXPECT_FALSE(is_used);
-    EXPECT_EQ(skatter_line_count(batch / "missing.txt"), 0);
+    EXPECT_EQ(skatter_line_count(batch / "missing.txt"), 0u);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 

@@ -355,6 +355,45 @@ TEST_F(Traversal, a_plant_on_a_hidden_layer_is_dropped_even_when_lamps_are_let_t
     }
 }
 
+TEST_F(Traversal, an_outside_object_on_a_hidden_layer_is_dropped_even_when_lamps_are_let_through) {
+    for (const bool lets_lamps_through : {false, true}) {
+        set_global_bool("bvl_process_invisible_lights", lets_lamps_through);
+        model_builder m;
+        list_builder object = m.component("car");
+        object.square(10);
+        m.attribute(object.list(), "ArchVision RPC", "Name", sketchup::text("Car"));
+        m.element(m.root().instance(object)).layer = m.layer("off", false);
+        SketchUpReader one;
+        one.ReadSkpFile(save(m), batch / "batch_file.txt");
+        EXPECT_THAT(body(), IsEmpty()) << lets_lamps_through;
+    }
+}
+
+TEST_F(Traversal, what_stands_for_an_outside_object_and_for_a_plant_is_the_object) {
+    model_builder m;
+    list_builder both = m.component("tree");
+    both.square(10);
+    m.attribute(both.list(), "ArchVision RPC", "Name", sketchup::text("Tree"));
+    m.attribute(both.list(), "qlw_plant", "library", sketchup::text("Trees"));
+    m.root().instance(both);
+    const auto lines = body_of(m);
+    EXPECT_THAT(tagged(lines, "RPCP"), ElementsAre("RPCP;(0,0,0)"));
+    EXPECT_THAT(tagged(lines, "#;PLANT"), IsEmpty());
+}
+
+// The camera looks along y, so the plant's first axis becomes (1, 0, 0): 0 degrees and 90 more.
+TEST_F(Traversal, a_plant_that_always_faces_the_camera_is_turned_before_it_is_written) {
+    model_builder m;
+    list_builder plant = m.component("oak");
+    plant.square(10);
+    m.attribute(plant.list(), "qlw_plant", "library", sketchup::text("Trees"));
+    m.definition(plant).behavior.always_faces_camera = true;
+    m.model().camera.eye = {0, -100, 0};
+    m.model().camera.target = {0, 0, 0};
+    m.root().instance(plant, sketchup::turned_about_z(90));
+    EXPECT_THAT(tagged(body_of(m), "PLRT"), ElementsAre("PLRT;90.000000"));
+}
+
 TEST_F(Traversal, a_mirrored_group_turns_its_triangles_and_a_second_mirror_inside_turns_them_back) {
     model_builder m;
     list_builder mirrored = m.root().group("mirrored", sketchup::scaled(-1, 1, 1));
@@ -365,27 +404,6 @@ TEST_F(Traversal, a_mirrored_group_turns_its_triangles_and_a_second_mirror_insid
     ASSERT_EQ(faces.size(), 6u);
     EXPECT_EQ(faces[0], faces[4]); // mirrored twice: as if not at all
     EXPECT_NE(faces[2], faces[4]);
-}
-
-TEST_F(Traversal, a_scattered_component_is_walked_at_the_place_that_its_line_names) {
-    model_builder m;
-    m.component("pebble").square(10);
-    batch.write("skatter_insts.txt", "# a comment\n"
-                                     "a;b;c;pebble;1;0;0;0;0;1;0;0;0;0;1;0;100;0;0;1\n"
-                                     "a;b;c;Pebble;1;0;0;0;0;1;0;0;0;0;1;0;200;0;0;1\n");
-    // Names are compared exactly, so only the first line is walked: x from 100 to 110 inches.
-    const auto vertices = tagged(body_of(m), "VERT");
-    EXPECT_THAT(vertices, testing::UnorderedElementsAre("VERT;(2.54,0,0)", "VERT;(2.794,0,0)", "VERT;(2.794,0.254,0)",
-                                                        "VERT;(2.54,0.254,0)"));
-    EXPECT_FALSE(in_skatter_instances);
-}
-
-TEST_F(Traversal, a_list_of_scattered_components_beside_a_model_without_any_leaves_their_flag_set) {
-    model_builder m;
-    m.root().square(10);
-    batch.write("skatter_insts.txt", "a;b;c;pebble;1;0;0;0;0;1;0;0;0;0;1;0;100;0;0;1\n");
-    body_of(m);
-    EXPECT_TRUE(in_skatter_instances);
 }
 
 TEST_F(Traversal, a_hundred_nested_groups_of_a_file_add_up_their_transforms) {

@@ -24,6 +24,8 @@ std::string written_integer(int value) {
 }
 
 std::string printed(double value) {
+    if (std::isnan(value))
+        return "nan";
     std::array<char, 64> buffer{};
     const int size = std::snprintf(buffer.data(), buffer.size(), "%.9g", value);
     return {buffer.data(), static_cast<std::size_t>(size)};
@@ -153,11 +155,16 @@ TEST(NumberText, values_outside_the_fast_range_are_exact_too) {
     EXPECT_EQ(written(std::numeric_limits<double>::max()), "1.79769313e+308");
 }
 
-TEST(NumberText, infinity_and_not_a_number_read_as_in_the_c_library) {
+TEST(NumberText, infinity_and_negative_zero_read_as_in_the_c_library) {
     EXPECT_EQ(written(-0.0), "-0");
     EXPECT_EQ(written(std::numeric_limits<double>::infinity()), "inf");
     EXPECT_EQ(written(-std::numeric_limits<double>::infinity()), "-inf");
-    EXPECT_EQ(written(std::numeric_limits<double>::quiet_NaN()), "nan");
+}
+
+TEST(NumberText, what_is_not_a_number_has_neither_sign_nor_kind) {
+    const double no_number = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(written(no_number), "nan");
+    EXPECT_EQ(written(std::copysign(no_number, -1)), "nan");
 }
 
 TEST(NumberText, integers_are_signed_decimals) {

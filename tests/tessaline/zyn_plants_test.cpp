@@ -142,6 +142,18 @@ TEST_F(ZynPlants, a_scattered_plant_has_no_size_of_its_own) {
                                                "PLSN;0", "PLRT;90.000000", "PLSC;1.000000", "PLNT;1", "#"}));
 }
 
+// By height 0 / 2; by width 0 / 0, which is no number and so not larger.
+TEST_F(ZynPlants, a_scattered_plant_without_a_width_ratio_has_a_diameter_that_is_no_number) {
+    library_plant.width_to_diameter = 0;
+    EXPECT_EQ(scattered(library_plant), lines({"#;PLANT", "PLLB;Trees", "PLNM;Oak", "PLLC;(0,0,0)", "PLDM;nan",
+                                               "PLSN;0", "PLRT;90.000000", "PLSC;1.000000", "PLNT;1", "#"}));
+}
+
+TEST_F(ZynPlants, a_scattered_plant_without_a_height_ratio_has_the_diameter_of_its_width) {
+    library_plant.height_to_diameter = 0;
+    EXPECT_THAT(scattered(library_plant), HasSubstr("PLDM;0.000000\r\n")); // 0 / 0.5
+}
+
 // ---- what is not written
 
 TEST_F(ZynPlants, a_hidden_instance_stops_here_and_takes_no_random_number) {
