@@ -23,12 +23,17 @@ inline double extra_area_of(const std::string& sample) {
     // One plate with 20 holes, three of which lie 0.0008 inch below the plane of the rest.
     if (sample == "solidinspector-box.skp")
         return 0.004685;
+    return 0;
+}
+
+// Square inches of a sample's placed images that their quads do not cover.
+inline double uncovered_image_area_of(const std::string& sample) {
     // The rectangle of the placed image is 386 by 250 units of 0.212966 inch, its picture 384 by 250 pixels, and the
     // quad has a unit for each pixel: 2 x 250 x 0.212966^2 are missing.
     if (sample == "devtools-RegentityAll.skp")
-        return -22.67715;
+        return 22.67715;
     // The file lacks the picture of its one image, so the quad has no pixels and no size: 80.9375 x 40.1875.
     if (sample == "testup-missing_material.skp")
-        return -3252.675781;
+        return 3252.675781;
     return 0;
 }
