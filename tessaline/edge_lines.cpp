@@ -2,6 +2,7 @@
 
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_trace.h"
+#include "tessaline/drawing_elements.h"
 #include "tessaline/edge_choice.h"
 #include "tessaline/face_geometry.h"
 #include "tessaline/layer_inheritance.h"
@@ -9,12 +10,6 @@
 #include "tessaline/SketchUpReader.h"
 
 namespace {
-
-bool is_hidden(SUDrawingElementRef element) {
-    bool hidden = false;
-    SUDrawingElementGetHidden(element, &hidden);
-    return hidden;
-}
 
 // Whether the edge only serves to round a surface off.
 bool is_smoothed(SUEdgeRef edge) {

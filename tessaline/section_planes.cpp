@@ -1,6 +1,7 @@
 // Which section planes clip the rendered scene, and where they stand.
 
 #include "qlw/qlw_globals.h"
+#include "tessaline/drawing_elements.h"
 #include "tessaline/length_units.h"
 #include "tessaline/run_state.h"
 #include "tessaline/SketchUpReader.h"
@@ -23,7 +24,7 @@ struct plane_state {
 plane_state state_of(SUSectionPlaneRef plane) {
     plane_state state;
     SUSectionPlaneIsActive(plane, &state.active);
-    SUDrawingElementGetHidden(SUSectionPlaneToDrawingElement(plane), &state.hidden);
+    state.hidden = is_hidden(SUSectionPlaneToDrawingElement(plane));
     return state;
 }
 

@@ -2,6 +2,7 @@
 // part. Takes from the random numbers of the run.
 
 #include "qlw/qlw_globals.h"
+#include "tessaline/drawing_elements.h"
 #include "tessaline/layer_inheritance.h"
 #include "tessaline/model_text.h"
 #include "tessaline/plant_file.h"
@@ -24,9 +25,7 @@ struct plant_size {
 };
 
 bool is_shown(SUDrawingElementRef element, bool layer0_hidden) {
-    bool hidden = false;
-    SUDrawingElementGetHidden(element, &hidden);
-    return !hidden && (theApp.is_doing_animation || is_visible(layer_of(element, layer0_hidden).layer));
+    return !is_hidden(element) && (theApp.is_doing_animation || is_visible(layer_of(element, layer0_hidden).layer));
 }
 
 // Of the instance's box in the list that holds it; what lies outside that list does not scale it.
