@@ -17,7 +17,10 @@ void add_draw_hidden(std::vector<sketchup::attribute>& options) {
     const sketchup::attribute* objects = named(options, "DrawHiddenObjects");
     if (named(options, "DrawHidden") != nullptr || (geometry == nullptr && objects == nullptr))
         return;
-    const auto is_on = [](const sketchup::attribute* a) { return a != nullptr && std::get<bool>(a->value.data); };
+    const auto is_on = [](const sketchup::attribute* a) {
+        const bool* on = a != nullptr ? std::get_if<bool>(&a->value.data) : nullptr;
+        return on != nullptr && *on;
+    };
     options.push_back({"DrawHidden", {sketchup::value_code::boolean, is_on(geometry) || is_on(objects)}});
 }
 

@@ -9,7 +9,7 @@
 namespace skp {
 
 // Appends "DrawHidden", true if hidden geometry or hidden objects are drawn, to options that hold either and not the
-// old one itself.
+// old one itself. A value that is no boolean counts as off.
 void add_draw_hidden(std::vector<sketchup::attribute>& options);
 
 } // namespace skp
