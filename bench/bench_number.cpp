@@ -1,6 +1,6 @@
 // One number as "%.9g": the C library, the standard library's exact conversion, and ours, on the same values.
 
-#include "tessaline/write_number.h"
+#include "tessaline/stream/write_number.h"
 
 #include <benchmark/benchmark.h>
 

@@ -5,8 +5,8 @@
 #include "sketchup/model/model_builder.h"
 #include "sketchup/SketchUpAPI.h"
 #include "sketchup/skp/writer/classic_writer.h"
-#include "tessaline/run_state.h"
-#include "tessaline/SketchUpReader.h"
+#include "tessaline/state/run_state.h"
+#include "tessaline/walk/SketchUpReader.h"
 
 #include <benchmark/benchmark.h>
 

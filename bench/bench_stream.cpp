@@ -2,7 +2,7 @@
 // for each line, and constant text of the same length, which shows what the numbers cost. The sink is the null device,
 // so that the disk has no say, or a file in the temporary folder.
 
-#include "tessaline/geometry_stream.h"
+#include "tessaline/stream/geometry_stream.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 // How the program is started, and how it ends when it cannot work.
 
-#include "tessaline/usage.h"
+#include "tessaline/start/usage.h"
 #include "tests/batch/batch_runner.h"
 
 #include <gtest/gtest.h>

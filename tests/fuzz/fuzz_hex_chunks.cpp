@@ -2,7 +2,7 @@
 // say is put together and decoded.
 
 #include "skp_ruby/skp_ruby.h"
-#include "tessaline/edited_material.h"
+#include "tessaline/materials/edited_material.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // Takes any bytes as the name of a material: what is escaped is safe and comes back, and no file name leads away.
 
 #include "platform/platform.h"
-#include "tessaline/name_escaping.h"
-#include "tessaline/paths.h"
+#include "tessaline/files/paths.h"
+#include "tessaline/materials/name_escaping.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,9 +3,9 @@
 // empty line goes inside the object.
 
 #include "qlw/qlw_globals.h"
-#include "tessaline/lamps.h"
-#include "tessaline/run_state.h"
-#include "tessaline/SketchUpReader.h"
+#include "tessaline/state/run_state.h"
+#include "tessaline/walk/lamps.h"
+#include "tessaline/walk/SketchUpReader.h"
 #include "tests/support/temporary_folder.h"
 
 #include <algorithm>

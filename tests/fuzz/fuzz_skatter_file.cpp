@@ -1,7 +1,7 @@
 // Reads any bytes as the list of scattered components: each line that is counted gives one placement.
 
 #include "qlw/trimmed.h"
-#include "tessaline/skatter_file.h"
+#include "tessaline/plants/skatter_file.h"
 #include "tests/support/temporary_folder.h"
 
 #include <cstddef>

@@ -2,7 +2,7 @@
 // nothing.
 
 #include "qlw/text_format.h"
-#include "tessaline/view_file.h"
+#include "tessaline/reading/view_file.h"
 #include "tests/support/temporary_folder.h"
 
 #include <cstddef>

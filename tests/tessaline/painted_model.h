@@ -4,7 +4,7 @@
 
 #include "tests/tessaline/exported_pictures.h"
 
-#include "tessaline/texture_preload.h"
+#include "tessaline/materials/texture_preload.h"
 
 // A reader on a batch folder of the test's own, whose texture writer knows the model as that of a run does.
 class painted_model_test : public reader_test {

@@ -6,9 +6,9 @@
 #include "sketchup/api/handles.h"
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/link.h"
-#include "tessaline/handle_lists.h"
-#include "tessaline/run_state.h"
-#include "tessaline/SketchUpReader.h"
+#include "tessaline/model/handle_lists.h"
+#include "tessaline/state/run_state.h"
+#include "tessaline/walk/SketchUpReader.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/tessaline/stream_text.h"
 

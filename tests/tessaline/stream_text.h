@@ -2,7 +2,7 @@
 
 // The text of a stream, as a test wants to see it.
 
-#include "tessaline/geometry_stream.h"
+#include "tessaline/stream/geometry_stream.h"
 
 #include <fstream>
 #include <initializer_list>

@@ -1,0 +1,62 @@
+// The stack of parameters that is handed down the walk. set_layer reads the layer table and current_oparms.
+
+#include "tessaline/state/slp_oparms.h"
+
+#include "qlw/qlw_trace.h"
+#include "tessaline/state/run_state.h"
+
+#include <cstddef>
+#include <stdexcept>
+#include <utility>
+
+cl_slp_oparms* cl_oparms_array::push() {
+    std::unique_ptr<cl_slp_oparms> level = spare ? std::move(spare) : std::make_unique<cl_slp_oparms>();
+    if (levels.empty())
+        *level = {};
+    else
+        *level = *levels.back();
+    levels.push_back(std::move(level));
+    levels.back()->level = size() - 1;
+    return levels.back().get();
+}
+
+cl_slp_oparms* cl_oparms_array::pop() {
+    if (levels.size() > 1) {
+        spare = std::move(levels.back());
+        levels.pop_back();
+    } else {
+        cl_trace("slp_oparms", __LINE__, "cl_oparms_array::pop", 4, 0).report("Trying to pop first oparms");
+    }
+    return at(size() - 1);
+}
+
+void cl_oparms_array::forget_all_below(int pops_to_come) {
+    const std::size_t kept = static_cast<std::size_t>(pops_to_come) + 1;
+    if (levels.size() <= kept)
+        return;
+    const std::size_t count = levels.size() - kept;
+    levels.erase(levels.begin(), levels.begin() + static_cast<std::ptrdiff_t>(count));
+    forgotten += static_cast<int>(count);
+}
+
+cl_slp_oparms* cl_oparms_array::at(int index) const {
+    if (index < forgotten || index >= size())
+        throw std::invalid_argument("no parameter level of that index");
+    return levels[static_cast<std::size_t>(index - forgotten)].get();
+}
+
+void cl_oparms_array::clear() {
+    levels.clear();
+    forgotten = 0;
+}
+
+void set_layer(cl_slp_oparms& oparms, const std::string& layer_name) {
+    oparms.layer_name = layer_name;
+    if (!theApp.is_doing_animation)
+        return; // nobody asks for the chain, and levels that stay on the stack would let it grow without end
+    const int index = layers.index_of(layer_name);
+    if (index < 0)
+        return;
+    const std::string& above = current_oparms->layer_chain.str(); // of the enclosing object, or this level's copy of it
+    oparms.layer_chain = above.empty() ? std::to_string(index) : above + "," + std::to_string(index);
+}

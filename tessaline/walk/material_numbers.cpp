@@ -1,0 +1,178 @@
+// Which number a face's side gets for its material, and what the first side that shows a material sets going. Reads
+// the parameters of the level and the flags of the run; adds to its material tables and replaces its attribute list.
+
+#include "platform/platform.h"
+#include "qlw/qlw_trace.h"
+#include "qlw/whole_number.h"
+#include "tessaline/files/paths.h"
+#include "tessaline/materials/material_folders.h"
+#include "tessaline/materials/material_names.h"
+#include "tessaline/materials/material_records.h"
+#include "tessaline/parameters/attributes.h"
+#include "tessaline/state/run_state.h"
+#include "tessaline/walk/SketchUpReader.h"
+
+#include <stdexcept>
+
+namespace {
+
+void trace(int line, std::string_view format, auto... values) {
+    cl_trace("SketchUpReader", line, "SketchUpReader::get_material_number", 0, 0).report(format, values...);
+}
+
+// Whether the picture on a side of the face is distorted; no if the interface cannot tell.
+bool is_distorted(SUFaceRef face, bool is_front) {
+    bool affine = true;
+    const auto ask = is_front ? SUFaceIsFrontMaterialAffine : SUFaceIsBackMaterialAffine;
+    return ask(face, &affine) == SU_ERROR_NONE && !affine;
+}
+
+// The number that the texture writer knows the side's picture by; 0 if the picture is not the face's own.
+std::int32_t texture_id_of(SUFaceRef face, bool is_front) {
+    const bool is_heard = traces_are_heard();
+    if (is_heard) {
+        long told = 0;
+        SUTextureWriterGetTextureIdForFace(texture_writer, face, is_front, &told);
+        trace(__LINE__, "txtr id: %d, is_front: %d", told, is_front);
+    }
+    long front_id = 0;
+    long back_id = 0;
+    SUTextureWriterLoadFace(texture_writer, face, &front_id, &back_id);
+    if (is_heard)
+        trace(__LINE__, "textureId? %d  back_textureId: %d", front_id, back_id);
+    return static_cast<std::int32_t>(is_front ? front_id : back_id);
+}
+
+// The index under a name; -1 if there is none.
+int index_under(const std::string& name) {
+    const auto found = material_name_map.find(name);
+    return found == material_name_map.end() ? -1 : found->second;
+}
+
+int index_of_file(const std::string& file_name) {
+    const int index = index_under(file_name);
+    return index != -1 ? index : index_under('[' + file_name + ']');
+}
+
+// Adds the record and enters it in the maps; gives its index.
+int enter(cl_tsl_material record, const std::string& file_name) {
+    const int index = static_cast<int>(material_records.size());
+    material_id_map[record.material_id] = index;
+    material_name_map[file_name] = index;
+    material_name_map[record.name] = index;
+    material_records.push_back(std::move(record));
+    return index;
+}
+
+// What of the object's parameters a new material starts with: an object may ask for reflection.
+material_values start_values(double opacity) {
+    material_values start;
+    start.opacity = opacity;
+    if (current_oparms->reflection > 0) {
+        start.reflection = current_oparms->reflection * 0.01;
+        start.metallic = true;
+    }
+    return start;
+}
+
+} // namespace
+
+// A side of a face that asks for its material.
+struct SketchUpReader::material_request {
+    SUFaceRef face;
+    SUMaterialRef material;
+    SUEntityRef entity;
+    SUTextureRef texture;
+    std::int32_t material_id;
+    bool is_front;
+    bool counts_as_textured;
+    bool not_affine;
+    material_question question; // all that its file name depends on
+};
+
+int SketchUpReader::get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front,
+                                        bool& has_texture, bool& not_affine, bool& has_glow) {
+    if (SUIsInvalid(material))
+        return 0;
+    const SUEntityRef entity = SUMaterialToEntity(material);
+    std::int32_t id = -1;
+    SUEntityGetID(entity, &id);
+    if (id < 0)
+        return 0;
+    ready_material_folders();
+
+    SUTextureRef texture = SU_INVALID;
+    SUMaterialGetTexture(material, &texture);
+    has_texture = SUIsValid(texture);
+    const bool is_face = kind == "face";
+    material_question question{.material = material,
+                               .by_layer = theApp.color_by_layer,
+                               .is_face = is_face,
+                               .is_scattered = in_skatter_instances};
+    if (has_texture && SUIsValid(texture_writer)) {
+        not_affine = (not_affine || is_distorted(face, is_front)) && !in_skatter_instances;
+        question.texture_id = texture_id_of(face, is_front);
+    }
+    if (theApp.color_by_layer && current_oparms->reflection > 0)
+        question.layer_reflection = cut_toward_zero(current_oparms->reflection);
+
+    const bool counts_as_textured = has_texture || (!is_face && !theApp.color_by_layer);
+    const int index =
+        material_index({face, material, entity, texture, id, is_front, counts_as_textured, not_affine, question});
+    if (index <= -1)
+        return 0;
+    if (static_cast<std::size_t>(index) >= material_records.size())
+        throw std::invalid_argument("no material record of that index");
+    if (material_records[static_cast<std::size_t>(index)].has_glow)
+        has_glow = true;
+    return index + first_material_number;
+}
+
+// The index of the record, which is made if there is none.
+int SketchUpReader::material_index(const material_request& asked) {
+    const bool has_straight_picture = !(asked.counts_as_textured && asked.not_affine);
+    if (const material_answer* known = materials.find(asked.question, material_records.size())) {
+        if (!known->has_file || !has_straight_picture)
+            read_attributes(asked.entity);
+        return known->record;
+    }
+    const std::string name = working_name_of(get_material_name(asked.material));
+    const material_file_names names = file_names_of({.working_name = name,
+                                                     .material_id = asked.material_id,
+                                                     .texture_id = asked.question.texture_id,
+                                                     .is_face = asked.question.is_face,
+                                                     .is_textured = asked.counts_as_textured,
+                                                     .is_scattered = asked.question.is_scattered,
+                                                     .by_layer = asked.question.by_layer,
+                                                     .layer_reflection = asked.question.layer_reflection});
+    const bool has_file = platform::exists(joined_inside(material_folder_path, names.object_file));
+    const int found = index_of_file(names.file);
+    if (found == -1 || !has_file || !has_straight_picture)
+        read_attributes(asked.entity);
+    if (found == -1)
+        return add_material(asked, name, names, has_file);
+    materials.keep(asked.question, {found, has_file});
+    return found;
+}
+
+// Writes all that a new material leaves: picture, text file, edited file, and its lines in the stream.
+int SketchUpReader::add_material(const material_request& asked, const std::string& name,
+                                 const material_file_names& names, bool has_file) {
+    new_material made{.material_id = asked.material_id,
+                      .working_name = name,
+                      .base_file_name = names.base,
+                      .is_textured = asked.counts_as_textured,
+                      .opacity = 0,
+                      .texture = {},
+                      .evaluated = {}};
+    SUMaterialGetOpacity(asked.material, &made.opacity);
+    if (!has_file && asked.counts_as_textured)
+        made.texture = export_material_texture(asked.texture, asked.face, asked.is_front, asked.not_affine,
+                                               names.number, asked.material_id, names.encoded_name);
+    made.evaluated =
+        evaluate_material(start_values(made.opacity), name, asked.material, material_folder_path, names.file);
+    write_material_file(params_of(made), names.file, joined_inside(material_folder_path, names.object_file));
+    const int index = enter(record_of(made), names.file);
+    stream.write_material_declaration(names.file, index + first_material_number);
+    return index;
+}

@@ -1,0 +1,182 @@
+// Which groups and instances are entered, and what their levels say. Works on the parameter stack and the attribute
+// list of the run.
+
+#include "tessaline/walk/placements.h"
+
+#include "qlw/qlw_globals.h"
+#include "tessaline/files/lower_case.h"
+#include "tessaline/model/drawing_elements.h"
+#include "tessaline/model/local_transform.h"
+#include "tessaline/model/model_text.h"
+#include "tessaline/parameters/attributes.h"
+#include "tessaline/parameters/layer_inheritance.h"
+#include "tessaline/state/run_state.h"
+#include "tessaline/walk/lamps.h"
+#include "tessaline/walk/SketchUpReader.h"
+#include "tessaline/walk/walk_log.h"
+
+#include <string>
+
+namespace {
+
+// The level's own material covers the one that it inherited.
+void take_material(SUDrawingElementRef element) {
+    SUMaterialRef material = SU_INVALID;
+    SUDrawingElementGetMaterial(element, &material);
+    if (SUIsValid(material))
+        current_oparms->material = material;
+}
+
+bool always_faces_camera(SUComponentDefinitionRef definition) {
+    SUComponentBehavior behavior{};
+    SUComponentDefinitionGetBehavior(definition, &behavior);
+    return behavior.component_always_face_camera;
+}
+
+void turn_to_camera(transform16& transform) {
+    SUCameraRef camera = SU_INVALID;
+    SUModelGetCamera(open_model, &camera);
+    SUPoint3D eye{};
+    SUPoint3D target{};
+    SUVector3D up{};
+    SUCameraGetOrientation(camera, &eye, &target, &up);
+    face_camera(transform, {eye.x, eye.y, eye.z}, {target.x, target.y, target.z});
+}
+
+// The instance's name, or that of its definition if it has none.
+std::string name_of_instance(SUComponentInstanceRef instance, SUComponentDefinitionRef definition) {
+    std::string name = name_by(SUComponentInstanceGetName, instance);
+    return name.empty() ? name_by(SUComponentDefinitionGetName, definition) : name;
+}
+
+} // namespace
+
+bool SketchUpReader::is_let_in(SUDrawingElementRef element, SULayerRef layer, bool& invisible) const {
+    invisible = false;
+    if (is_hidden(element))
+        return false;
+    // Layers are switched at render time in an animation, so all of them are walked.
+    if (theApp.is_doing_animation || is_visible(layer))
+        return true;
+    invisible = get_global_bool("bvl_process_invisible_lights");
+    return invisible;
+}
+
+placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk& walk) {
+    const SUDrawingElementRef element = SUGroupToDrawingElement(group);
+    const element_layer layer = layer_of(element, layer0_hidden);
+    if (lower_case(layer.name).find("qlw_lamp_beams") != std::string::npos)
+        return placement_decision::leave_out;
+    bool invisible = false;
+    if (!is_let_in(element, layer.layer, invisible))
+        return placement_decision::leave_out;
+
+    walk.transform = composed(walk.transform, local_transform(SUGroupGetTransform, group));
+    SUGroupGetEntities(group, &walk.entities);
+    const SUEntityRef entity = SUGroupToEntity(group);
+    SUEntityGetID(entity, &walk.id);
+
+    cl_slp_oparms* const level = oparms_array.push();
+    set_layer(*level, std::string(layer.name)); // while the enclosing level still is the current one
+    current_oparms = level;
+    take_material(element);
+    read_attributes(entity);
+    current_oparms->store_attributes_in_oparms("Group");
+
+    walk.is_lamp_here = open_lamp(walk, "Group LGHT Lamp", invisible);
+    if (!lamp_block_open && invisible) {
+        oparms_array.forget_all_below(walk.depth); // each enclosing object pops one
+        return placement_decision::leave_out;      // the level stays: the siblings that follow inherit from it
+    }
+    if (extraction_log_is_on())
+        log_placement("Group", name_by(SUGroupGetName, group), layer.name, walk.transform, walk.depth);
+    return placement_decision::walk;
+}
+
+placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instance, placement_walk& walk) {
+    const SUDrawingElementRef element = SUComponentInstanceToDrawingElement(instance);
+    const element_layer layer = layer_of(element, layer0_hidden);
+    SUComponentDefinitionRef definition = SU_INVALID;
+    SUComponentInstanceGetDefinition(instance, &definition);
+    const SUEntityRef definition_entity = SUComponentDefinitionToEntity(definition);
+    const std::string name = name_of_instance(instance, definition);
+    bool invisible = false;
+    if (!is_let_in(element, layer.layer, invisible))
+        return placement_decision::leave_out;
+
+    walk.transform = composed(walk.transform, local_transform(SUComponentInstanceGetTransform, instance));
+    if (always_faces_camera(definition))
+        turn_to_camera(walk.transform);
+    SUComponentDefinitionGetEntities(definition, &walk.entities);
+    SUEntityGetID(definition_entity, &walk.id); // so two instances of one definition share a path
+    if (writes_stand_in(instance, definition_entity, invisible, walk.transform))
+        return placement_decision::leave_out;
+
+    const std::string layer_name(layer.name);
+    current_oparms = oparms_array.push();
+    set_layer(*current_oparms, layer_name);
+    take_material(element);
+    read_attributes(SUComponentInstanceToEntity(instance));
+    current_oparms->store_attributes_in_oparms("Component Instance - " + name);
+    if (SUIsValid(definition_entity)) {
+        read_attributes(definition_entity);
+        current_oparms->store_attributes_in_oparms("Component Definition");
+    }
+
+    // A lamp with beams is walked once more when its block has closed.
+    if (!lamp_block_open && !beam_pass_running && current_oparms->light.lamp_type == "spot_beams")
+        beam_pass_wanted = true;
+    walk.is_lamp_here = open_lamp(walk, "Instance Lamp", invisible);
+    if (!lamp_block_open && invisible) {
+        oparms_array.forget_all_below(walk.depth);
+        return placement_decision::leave_out; // the level stays, as for groups
+    }
+    log_placement("Instance", name, layer_name, walk.transform, walk.depth);
+    return placement_decision::walk;
+}
+
+bool SketchUpReader::writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
+                                     const transform16& transform) {
+    if (SUIsInvalid(definition))
+        return false;
+    read_attributes(definition);
+    rpc_description rpc;
+    const bool is_rpc = read_rpc_description(rpc);
+    plant_description plant;
+    const bool is_plant = read_plant_description(plant);
+    if (invisible)
+        return false;
+    if (is_rpc) {
+        write_rpc(instance, rpc, transform);
+        return true;
+    }
+    if (!is_plant || plant.render_as_2d_image || shows_plants_as_images())
+        return false;
+    Write_Zyn_plant(instance, plant, transform, {}, {});
+    return true;
+}
+
+bool SketchUpReader::open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden) {
+    if (lamp_block_open || beam_pass_running || !is_lamp(current_oparms->light))
+        return false;
+    const int lamp_number = current_oparms->light.add_lamp(*this, walk.transform);
+    ++lamp_count;
+    if (current_oparms->light.direct_light) {
+        write_direct_light(direct_label, lamp_number);
+        return false;
+    }
+    vertex_base = 0;
+    begin_lamp_mesh("Group Lamp", lamp_number, forced_hidden); // instances too: consumers know no other label
+    lamp_block_open = true;
+    lamp_block_depth = walk.depth;
+    return true;
+}
+
+void SketchUpReader::close_lamp(const transform16& transform) {
+    current_oparms->light.face_edge_vector = vector_image(transform, {0, 1, 0});
+    current_oparms->light.face_x_axis = vector_image(transform, {1, 0, 0});
+    end_mesh("END OF LAMP");
+    lamp_block_open = false;
+    lamp_block_depth = -1;
+    vertex_base = 0;
+}

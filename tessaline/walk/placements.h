@@ -1,0 +1,23 @@
+#pragma once
+
+// A group or an instance on its way into the walk.
+
+#include "sketchup/SketchUpAPI.h"
+#include "tessaline/model/transforms.h"
+
+#include <cstdint>
+
+// What is known of a placement once it has been looked at. One lives on the stack for each level of nesting, so it
+// holds nothing that is needed for a moment only.
+struct placement_walk {
+    transform16 transform{};             // accumulated, of the content
+    SUEntitiesRef entities = SU_INVALID; // the content
+    std::int32_t id = 0;                 // what the path names: the group's id, or that of the instance's definition
+    int depth = 0;                       // of the list that holds the placement
+    bool is_lamp_here = false;           // this placement has opened the lamp block
+};
+
+enum class placement_decision {
+    leave_out, // nothing of it is written and no level was pushed; or one was pushed and stays
+    walk,      // a level was pushed: walk the content and pop it
+};

@@ -1,0 +1,157 @@
+// What of the model is written, in which order, and under which transform. Works on the parameter stack of the run.
+
+#include "qlw/qlw_globals.h"
+#include "qlw/qlw_trace.h"
+#include "tessaline/faces/edge_choice.h"
+#include "tessaline/model/handle_lists.h"
+#include "tessaline/state/run_state.h"
+#include "tessaline/walk/progress_dlg.h"
+#include "tessaline/walk/SketchUpReader.h"
+#include "tessaline/walk/walk_log.h"
+
+#include <cstdint>
+#include <string>
+
+// A model may nest 4,096 deep, and each level costs the frames of ProcessEntities, process_groups and process_group (or
+// their like for instances): what a level needs for a moment only stays in the functions that these call and return
+// from.
+
+int SketchUpReader::ProcessEntities(SUEntitiesRef entities, const transform16& transform, std::string& path,
+                                    int depth) {
+    if (depth == 0)
+        current_oparms = oparms_array.push();
+    process_groups(entities, transform, path, depth);
+    process_instances(entities, transform, path, depth);
+    if (depth == 0)
+        process_skatter_instances();
+    process_faces(entities, transform, path);
+    process_images(entities, transform, path, depth);
+    process_edges(entities, transform, path);
+    if (depth == 0) {
+        process_section_planes(entities);
+        log_end_of_walk();
+    }
+    return 1;
+}
+
+void SketchUpReader::process_groups(SUEntitiesRef entities, const transform16& transform, std::string& path,
+                                    int depth) {
+    for (const SUGroupRef group : all_handles(SUEntitiesGetNumGroups, SUEntitiesGetGroups, entities))
+        process_group(group, transform, path, depth);
+}
+
+void SketchUpReader::process_group(SUGroupRef group, const transform16& outer, std::string& path, int depth) {
+    placement_walk walk;
+    walk.transform = outer;
+    walk.depth = depth;
+    if (enter_group(group, walk) == placement_decision::leave_out)
+        return;
+    walk_placement(walk, path);
+    if (walk.is_lamp_here && lamp_block_depth == depth)
+        close_lamp(walk.transform);
+    current_oparms = oparms_array.pop();
+}
+
+void SketchUpReader::process_instances(SUEntitiesRef entities, const transform16& transform, std::string& path,
+                                       int depth) {
+    for (const SUComponentInstanceRef instance :
+         all_handles(SUEntitiesGetNumInstances, SUEntitiesGetInstances, entities))
+        process_instance(instance, transform, path, depth);
+}
+
+void SketchUpReader::process_instance(SUComponentInstanceRef instance, const transform16& outer, std::string& path,
+                                      int depth) {
+    placement_walk walk;
+    walk.transform = outer;
+    walk.depth = depth;
+    if (enter_instance(instance, walk) == placement_decision::leave_out)
+        return;
+    walk_placement(walk, path);
+    if (walk.is_lamp_here && lamp_block_depth == depth) {
+        close_lamp(walk.transform);
+        walk_beams(walk, path);
+    }
+    current_oparms = oparms_array.pop();
+}
+
+void SketchUpReader::walk_placement(const placement_walk& walk, std::string& path) {
+    const std::size_t length = path.size();
+    path += std::to_string(walk.id);
+    path += '-';
+    ProcessEntities(walk.entities, walk.transform, path, walk.depth + 1);
+    path.resize(length);
+}
+
+// The beams of a spot lamp stand outside its block, as ordinary meshes.
+void SketchUpReader::walk_beams(const placement_walk& walk, std::string& path) {
+    if (beam_pass_wanted && !beam_pass_running) {
+        beam_pass_running = true;
+        walk_placement(walk, path);
+    }
+    beam_pass_wanted = false;
+    beam_pass_running = false;
+}
+
+void SketchUpReader::process_faces(SUEntitiesRef entities, const transform16& transform, const std::string& path) {
+    const auto faces = all_handles(SUEntitiesGetNumFaces, SUEntitiesGetFaces, entities);
+    if (faces.empty())
+        return;
+    in_illum_mesh = false;
+    const bool mirrored = is_mirrored(transform);
+    for (const SUFaceRef face : faces) {
+        current_oparms = oparms_array.push();
+        ProcessFace(face, transform, mirrored, path);
+        current_oparms = oparms_array.pop();
+        advance_progress();
+    }
+    if (!in_illum_mesh)
+        return;
+    end_mesh("END OF ILLUM material");
+    ++mesh_count;
+    in_illum_mesh = false;
+    lamp_block_open = false;
+    lamp_block_depth = -1;
+    vertex_base = 0;
+}
+
+void SketchUpReader::process_images(SUEntitiesRef entities, const transform16& transform, const std::string& path,
+                                    int depth) {
+    if (beam_pass_running)
+        return;
+    for (const SUImageRef image : all_handles(SUEntitiesGetNumImages, SUEntitiesGetImages, entities)) {
+        cl_trace("traversal", __LINE__, "SketchUpReader::ProcessEntities", 0, 0).report("before ProcessImage");
+        log_image_step(depth);
+        ProcessImage(image, transform, path);
+        advance_progress();
+    }
+}
+
+void SketchUpReader::process_edges(SUEntitiesRef entities, const transform16& transform, const std::string& path) {
+    const int edge_lines = get_global_int("ivl_edge_lines");
+    if (edge_lines == no_edges || beam_pass_running)
+        return;
+    cl_trace("traversal", __LINE__, "SketchUpReader::ProcessEntities", 0, 0).report("before Edge Lines");
+    for (const SUEdgeRef edge : edges_of(entities, edge_lines == stand_alone_edges)) {
+        ProcessEdge(edge, transform, path);
+        advance_progress();
+    }
+}
+
+void SketchUpReader::process_section_planes(SUEntitiesRef entities) {
+    for (const SUSectionPlaneRef plane :
+         all_handles(SUEntitiesGetNumSectionPlanes, SUEntitiesGetSectionPlanes, entities))
+        process_section_plane(plane);
+}
+
+void SketchUpReader::advance_progress() {
+    constexpr int items_between_updates = 100;
+    ++items_done;
+    // A second reading of a process may not count what it walks, so the total can be 0 here.
+    if (items_done % items_between_updates != 0 || total_items == 0)
+        return;
+    const int percent = static_cast<int>(std::int64_t{100} * items_done / total_items);
+    if (percent == last_percent)
+        return;
+    last_percent = percent;
+    update_progress(percent);
+}

@@ -1,0 +1,139 @@
+// How a run starts: whole runs from a command line.
+
+#include "tests/tessaline/run_fixture.h"
+
+#include "platform/platform.h"
+#include "tessaline/state/application.h"
+
+namespace {
+
+using sketchup::model_builder;
+
+class StartUp : public run_fixture {
+protected:
+    std::string saved_model(const std::string& inside) {
+        model_builder m;
+        return save(m, inside);
+    }
+
+    // What a run with that command line prints to standard error.
+    static std::string told_by(const std::string& command_line) {
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(theApp.InitInstance(command_line)); // there is no message loop to enter
+        return testing::internal::GetCapturedStderr();
+    }
+};
+
+TEST_F(StartUp, the_application_starts_with_the_values_that_parents_rely_on) {
+    const CTessalineApp app;
+    EXPECT_EQ(app.xml_options.switches, (std::array<bool, 7>{true, true, true, true, false, true, true}));
+    EXPECT_EQ(app.extract_mode, "Tessaline");
+    EXPECT_EQ(app.lights_folder, "ZynBatch_Lights");
+    EXPECT_EQ(app.materials_folder, "ZynBatch_Materials");
+    EXPECT_EQ(app.textures_folder, "Batch_SketchUp_Textures");
+    EXPECT_EQ(app.images_folder, "");
+    EXPECT_FALSE(app.color_by_layer);
+    EXPECT_FALSE(app.is_doing_animation);
+}
+
+TEST_F(StartUp, one_quoted_path_in_a_folder_with_a_blank_writes_the_stream_beside_it_over_an_old_one) {
+    const std::string model = saved_model("a b/geometry.qlm");
+    batch.write("a b/batch_file.txt", "old");
+    told_by("tessaline \"" + model + "\"");
+    EXPECT_EQ(theApp.input_path, model);
+    EXPECT_EQ(theApp.output_path, batch / "a b/batch_file.txt");
+    EXPECT_THAT(batch.read("a b/batch_file.txt"), testing::EndsWith("END;\r\n"));
+}
+
+TEST_F(StartUp, one_unquoted_model_word_does_the_same) {
+    const std::string model = saved_model("geometry.qlm");
+    told_by("tessaline " + model);
+    EXPECT_EQ(theApp.input_path, model);
+    EXPECT_EQ(theApp.output_path, batch / "batch_file.txt");
+    EXPECT_THAT(batch.read("batch_file.txt"), testing::EndsWith("END;\r\n"));
+}
+
+TEST_F(StartUp, two_words_are_model_and_stream) {
+    const std::string model = saved_model("house.skp");
+    told_by("tessaline " + model + ' ' + batch / "out.txt");
+    EXPECT_THAT(batch.read("out.txt"), testing::EndsWith("END;\r\n"));
+    EXPECT_EQ(theApp.output_folder, batch.name());
+    EXPECT_EQ(theApp.batch_folder, batch.name());
+}
+
+TEST_F(StartUp, switches_reach_the_application) {
+    const std::string model = saved_model("house.skp");
+    told_by("tessaline \"" + model + "\" \"" + batch / "out.txt" +
+            "\" -load_all_layers -incl_edge_lines -incl_views -all_atts -is_animation -progress 77");
+    EXPECT_TRUE(theApp.load_all_layers);
+    EXPECT_TRUE(theApp.incl_edge_lines);
+    EXPECT_TRUE(theApp.incl_views);
+    EXPECT_TRUE(theApp.is_doing_animation);
+    EXPECT_EQ(theApp.progress_argument, "77");
+    EXPECT_THAT(batch.read("out.txt"), testing::HasSubstr("LYNM;Layer0\r\n"));
+}
+
+TEST_F(StartUp, doubled_separators_of_both_paths_are_folded) {
+    saved_model("house.skp");
+    told_by("tessaline " + batch / "/house.skp " + batch / "/out.txt");
+    EXPECT_EQ(theApp.input_path, batch / "house.skp");
+    EXPECT_EQ(theApp.output_path, batch / "out.txt");
+}
+
+TEST_F(StartUp, a_model_word_of_another_name_removes_its_own_input) {
+    const std::string model = saved_model("house.qlm");
+    const std::string told = told_by("tessaline " + model);
+    EXPECT_FALSE(batch.has("house.qlm"));
+    EXPECT_THAT(told, testing::HasSubstr("Could not find input filename " + model + "."));
+}
+
+TEST_F(StartUp, a_missing_input_is_reported_and_nothing_is_written_or_deleted) {
+    batch.write("out.txt", "old");
+    const std::string told = told_by("tessaline " + batch / "missing.skp " + batch / "out.txt");
+    EXPECT_THAT(told, testing::HasSubstr("Could not find input filename " + batch / "missing.skp."));
+    EXPECT_EQ(batch.read("out.txt"), "old");
+}
+
+TEST_F(StartUp, an_unknown_output_is_reported) {
+    theApp.input_path = saved_model("house.skp");
+    trace_capture trace;
+    EXPECT_FALSE(theApp.paths_are_usable());
+    EXPECT_THAT(trace.text(), testing::HasSubstr("Could not parse output filename passed to SKP conversion routine."));
+}
+
+TEST_F(StartUp, arguments_without_an_input_path_print_the_usage_and_delete_nothing) {
+    const std::string model = saved_model("house.skp");
+    EXPECT_THAT(told_by("tessaline " + model), testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
+    EXPECT_TRUE(batch.has("house.skp"));
+    EXPECT_THAT(told_by("tessaline -is_animation"), testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
+}
+
+TEST_F(StartUp, without_arguments_and_without_a_terminal_the_usage_is_printed) {
+    if (platform::can_ask_for_file())
+        GTEST_SKIP() << "somebody is there to be asked";
+    EXPECT_THAT(told_by("\"tessaline\""), testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
+}
+
+TEST_F(StartUp, the_marker_in_the_temporary_folder_shows_the_command_line_and_both_paths) {
+    const std::string model = saved_model("geometry.qlm");
+    const with_environment temporary("TMPDIR", batch / "tmp");
+    batch.write("tmp/qlw_show_command_line", "");
+    const std::string line = "tessaline \"" + model + "\"";
+    const std::string told = told_by("  " + line + " ");
+    const std::size_t first = told.find("TEMP/qlw_show_command_line found: " + line);
+    const std::size_t second = told.find("sin: " + model);
+    const std::size_t third = told.find("sout: " + batch / "batch_file.txt");
+    EXPECT_LT(first, second);
+    EXPECT_LT(second, third);
+    EXPECT_NE(third, std::string::npos) << told;
+    EXPECT_TRUE(batch.has("batch_file.txt")); // the run goes on
+}
+
+TEST_F(StartUp, a_progress_argument_has_no_visible_effect) {
+    const std::string model = saved_model("house.skp");
+    told_by("tessaline " + model + ' ' + batch / "plain.txt");
+    told_by("tessaline " + model + ' ' + batch / "with.txt -progress 12");
+    EXPECT_EQ(batch.read("plain.txt"), batch.read("with.txt"));
+}
+
+} // namespace

@@ -1,0 +1,85 @@
+// A run whose user wants the report of every error.
+
+#include "tessaline/start/support_answers.h"
+
+#include "platform/platform.h"
+#include "qlw/letter_case.h"
+#include "qlw/qlw_trace.h"
+#include "tests/run_program.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/support/trace_capture.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+// Runs the program; what it prints to standard error goes to a file of the folder.
+program_result run_tessaline(const std::string& arguments, const temporary_folder& folder) {
+    return run_program("SOURCE_DATE_EPOCH=951782400 XDG_CONFIG_HOME=" + shell_quoted(folder / "config") + ' ' +
+                       shell_quoted(TESSALINE_PROGRAM) + ' ' + arguments + " 2>" + shell_quoted(folder / "told.txt"));
+}
+
+TEST(SupportAnswers, show_the_dialog_behind_more_and_print_its_report) {
+    const trace_capture capture;
+    const cl_support_answers answers;
+    testing::internal::CaptureStderr();
+    testing::internal::CaptureStdout();
+    cl_trace("source", 12, "function", 2, 0).report("No such\nfolder");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Tessaline - Error: No such\nfolder\n\n    (VER: SC26w - " +
+                                                          in_capitals(platform::computer_name()) +
+                                                          ")\n         (Error occurred in source line: 12)\n");
+    const std::string report = testing::internal::GetCapturedStdout();
+    EXPECT_THAT(report, StartsWith("No such\nfolder\n\n     (Error occurred in source line: 12)\n\n     #Date: '"));
+    EXPECT_THAT(report, EndsWith("     #SU Version: ''\n"));
+}
+
+TEST(SupportAnswers, end_with_their_life) {
+    const trace_capture capture;
+    { const cl_support_answers answers; }
+    testing::internal::CaptureStderr();
+    cl_trace("source", 12, "function", 2, 0).report("text");
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("Click More to send message to Support."));
+}
+
+TEST(SupportReportProgram, prints_the_report_and_ends_with_status_0) {
+    const temporary_folder folder;
+    const program_result run = run_tessaline("--support-report", folder);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.output, StartsWith("     #Date: 'Tuesday, February 29, 2000'\n"
+                                       "     #Computer: '" +
+                                       in_capitals(platform::computer_name()) +
+                                       "'\n"
+                                       "     #Product: 'Tessaline'\n"
+                                       "     #Version: 'SC26w'\n"
+                                       "     #Build: 'SC26w Tuesday, March 26, 2019'\n"
+                                       "     #Base: 'Tessaline'\n"));
+    EXPECT_THAT(run.output, EndsWith("     #TL: 'zql'\n"
+                                     "     #TC: 'zql'\n"
+                                     "     #VC: '10'\n"
+                                     "     #Windows: '" +
+                                     platform::system_version().description +
+                                     "'\n"
+                                     "     #SU Version: ''\n"));
+    EXPECT_EQ(folder.read("told.txt"), "");
+}
+
+TEST(SupportReportProgram, in_front_of_a_run_prints_the_place_of_its_errors_and_their_report) {
+    const temporary_folder folder;
+    const std::string missing = folder / "missing.skp";
+    const program_result run =
+        run_tessaline("--support-report " + shell_quoted(missing) + ' ' + shell_quoted(folder / "out.txt"), folder);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(folder.read("told.txt"), StartsWith("Tessaline - Error: Could not find input filename " + missing +
+                                                    ".\n\n\n    (VER: SC26w - "));
+    EXPECT_THAT(folder.read("told.txt"), HasSubstr("\n         (Error occurred in Tessaline line: "));
+    EXPECT_THAT(run.output, StartsWith("Could not find input filename " + missing +
+                                       ".\n\n\n     (Error occurred in Tessaline line: "));
+    EXPECT_THAT(run.output, HasSubstr("     #Date: 'Tuesday, February 29, 2000'\n"));
+}
+
+} // namespace
