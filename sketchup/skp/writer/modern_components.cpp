@@ -1,8 +1,11 @@
 // Entity lists, definitions and placements in the archive container.
 
 #include "sketchup/skp/modern/formats.h"
+#include "sketchup/skp/writer/definition_order.h"
 #include "sketchup/skp/writer/modern_bodies.h"
 #include "sketchup/skp/writer/modern_tags.h"
+#include "sketchup/skp/writer/usual_settings.h"
+#include "sketchup/skp/writer/written_guids.h"
 #include "sketchup/skp/writer/written_lists.h"
 
 #include <unordered_map>
@@ -19,14 +22,15 @@ using sketchup::no_index;
 
 namespace {
 
-void write_placement(modern_output& o, const sketchup::placement& p) {
+void write_placement(modern_output& o, index at) {
     record_sink& out = o.out;
+    const sketchup::placement& p = o.model.placements[at];
     out.record(tag::placement, [&] {
         write_drawing_element(o, p, o.ids.of(&p), {false, false, p.locked});
         out.text(tag::placement_name, p.name);
         out.doubles(tag::placement_transform, sketchup::transform_to_file(p.transform));
         out.id(tag::placement_definition, o.ids.of(&o.model.definitions[p.definition]));
-        out.raw(tag::placement_guid, p.guid);
+        out.raw(tag::placement_guid, written_guid(p.guid, guid_owner::placement, at));
     });
 }
 
@@ -162,7 +166,7 @@ void write_glue(modern_output& o, const entity_list& list) {
 }
 
 void write_placements(modern_output& o, const entity_list& list) {
-    const auto bare = [&](index one) { write_placement(o, o.model.placements[one]); };
+    const auto bare = [&](index one) { write_placement(o, one); };
     const auto within = [&](std::uint16_t number) {
         return [&o, bare, number](index one) { o.out.record(number, [&] { bare(one); }); };
     };
@@ -173,17 +177,18 @@ void write_placements(modern_output& o, const entity_list& list) {
     write_list(o, tag::entities_images, list.images, within(tag::image));
 }
 
-void write_definition(modern_output& o, const sketchup::component_definition& d) {
+void write_definition(modern_output& o, index at) {
     record_sink& out = o.out;
+    const sketchup::component_definition& d = o.model.definitions[at];
     out.record(tag::definition, [&] {
         write_entities(o, d.entities, d, o.ids.of(&d));
-        out.raw(tag::definition_guid, d.guid);
+        out.raw(tag::definition_guid, written_guid(d.guid, guid_owner::definition, at));
         out.text(tag::definition_name, d.name);
         out.text(tag::definition_description, d.description);
         out.text(tag::definition_path, d.path);
         out.boolean(tag::definition_modified, false);
         out.u32(tag::definition_kind, static_cast<std::uint32_t>(d.what));
-        out.u32(tag::definition_time, d.time);
+        out.u32(tag::definition_time, d.time == 0 ? usual_time : d.time);
         write_behavior(o, d.behavior);
     });
 }
@@ -202,8 +207,8 @@ void write_definitions(modern_output& o) {
             begin();
             out.record(tag::definition_list, [&] {
                 begin();
-                for (const sketchup::component_definition& d : o.model.definitions)
-                    write_definition(o, d);
+                for (const index one : definitions_children_first(o.model))
+                    write_definition(o, one);
             });
         });
     });

@@ -4,6 +4,7 @@
 #include "sketchup/skp/modern/option_fields.h"
 #include "sketchup/skp/writer/modern_bodies.h"
 #include "sketchup/skp/writer/modern_tags.h"
+#include "sketchup/skp/writer/written_cameras.h"
 #include "sketchup/skp/writer/written_lists.h"
 
 #include <vector>
@@ -113,8 +114,9 @@ void write_scene(modern_output& o, const sketchup::scene& s) {
 
 } // namespace
 
-void write_camera(modern_output& o, const sketchup::camera& camera) {
+void write_camera(modern_output& o, const sketchup::camera& view) {
     record_sink& out = o.out;
+    const sketchup::camera camera = written_camera(view);
     out.record(tag::camera, [&] {
         out.v3(tag::camera_eye, camera.eye);
         out.v3(tag::camera_target, camera.target);

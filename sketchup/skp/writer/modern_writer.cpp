@@ -6,6 +6,7 @@
 #include "sketchup/skp/text_encoding.h"
 #include "sketchup/skp/writer/modern_bodies.h"
 #include "sketchup/skp/writer/modern_tags.h"
+#include "sketchup/skp/writer/written_guids.h"
 #include "sketchup/skp/writer/zip_archive.h"
 
 #include <string_view>
@@ -57,7 +58,7 @@ std::vector<std::uint8_t> summary(const sketchup::model& m, const stamp& s) {
         out.u16(tag::summary_minor, 0);
         out.u16(tag::summary_lowest_reader, lowest_reader);
         out.u16(tag::summary_format, s.format);
-        out.raw(tag::summary_guid, m.guid);
+        out.raw(tag::summary_guid, written_guid(m.guid, guid_owner::model));
     });
     return out.take();
 }

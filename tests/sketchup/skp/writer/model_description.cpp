@@ -1,8 +1,10 @@
 #include "tests/sketchup/skp/writer/model_description.h"
 
+#include "sketchup/skp/writer/definition_order.h"
 #include "tests/sketchup/skp/writer/description_text.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 
 namespace {
@@ -12,7 +14,8 @@ using sketchup::no_index;
 
 class describer {
 public:
-    describer(const sketchup::model& m, const std::set<std::string>& left_out) : m_(m), left_out_(left_out) {}
+    describer(const sketchup::model& m, const std::set<std::string>& left_out)
+        : m_(m), definitions_(skp::definitions_children_first(m)), left_out_(left_out) {}
 
     std::vector<std::string> describe();
 
@@ -68,7 +71,12 @@ private:
     }
     std::string name_of_layer(index layer) const { return text_of(m_.layers[layer].name); }
 
+    std::ptrdiff_t number_of_definition(index definition) const {
+        return std::ranges::find(definitions_, definition) - definitions_.begin();
+    }
+
     const sketchup::model& m_;
+    const std::vector<index> definitions_; // children first, as files list them
     const std::set<std::string>& left_out_;
     std::vector<std::string> lines_;
     std::size_t depth_ = 0;
@@ -257,7 +265,8 @@ void describer::placements(const std::string& what, const std::vector<index>& pl
         under(what, [&] {
             const sketchup::placement& p = m_.placements[one];
             drawing(p, "id of a placement");
-            say("of definition " + std::to_string(p.definition) + " kind " + std::to_string(static_cast<int>(p.kind)));
+            say("of definition " + std::to_string(number_of_definition(p.definition)) + " kind " +
+                std::to_string(static_cast<int>(p.kind)));
             say("transform " + text_of(std::span(p.transform)) + ", locked " + text_of(p.locked));
             say("name " + text_of(p.name));
             tells("guid of a placement", text_of(p.guid));
@@ -376,8 +385,8 @@ std::vector<std::string> describer::describe() {
     shadows(m_.shadow_info);
     materials();
     layers();
-    for (const sketchup::component_definition& d : m_.definitions)
-        definition(d);
+    for (const index one : definitions_)
+        definition(m_.definitions[one]);
     under("model", [&] {
         entity(m_.root, "id of the model");
         entities(m_.root);

@@ -1,6 +1,7 @@
 #include "tests/sketchup/skp/writer/random_model.h"
 
 #include "sketchup/model/model_builder.h"
+#include "sketchup/model/vector_math.h"
 #include "sketchup/skp/classic/option_fields.h"
 #include "tests/sketchup/skp/writer/random_values.h"
 
@@ -247,10 +248,11 @@ camera generator::view() {
     camera c;
     c.eye = random_.point();
     c.target = random_.point();
-    c.up = {0, 0.6, 0.8};
+    const vec3 view = c.target - c.eye; // up stands across it
+    c.up = normalized_or(vec3{-view.y, view.x, 0}, {0, 0, 1});
     c.perspective = random_.chance(2);
     c.field_of_view = 20 + random_.below(80);
-    c.height = random_.figure();
+    c.height = 1 + random_.below(1000);
     c.aspect = random_.figure();
     c.fov_is_vertical = random_.chance(2);
     c.two_dimensional = random_.chance(2);
