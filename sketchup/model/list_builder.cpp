@@ -176,6 +176,10 @@ entity_place list_builder::place(entity_kind kind, index definition, const trans
     return {kind, builder_->add(builder_->model_->placements, std::move(p))};
 }
 
+void list_builder::glue(entity_place placement, entity_place to) {
+    entities().glue.push_back({{to.kind, to.at}, {placement.kind, placement.at}});
+}
+
 list_builder list_builder::group(std::string_view name, const transform& where) {
     const index made = builder_->add_definition("Group#" + std::to_string(builder_->model_->definitions.size() + 1),
                                                 definition_kind::group);

@@ -131,6 +131,7 @@ struct face : drawing_element {
     index_range loops; // in model::loops; the first is the outline, counter-clockwise against the normal
     index back_material = no_index;
     index texture_mapping = no_index; // in model::texture_mappings
+    index_range cutters; // in model::cutters: what cuts openings into it, in the order of the file; filled by link()
 };
 
 // A group, a component instance or a placed image, told apart by `kind`.
@@ -165,6 +166,20 @@ struct annotation : drawing_element {
     annotation_kind what = annotation_kind::text;
 };
 
+// A face, or a placement of the kind that it says.
+struct glue_end {
+    entity_kind kind = entity_kind::face;
+    index at = no_index;
+    friend bool operator==(const glue_end&, const glue_end&) = default;
+};
+
+// That a placement lies on a face, or on another placement, and moves with it.
+struct glue_relation {
+    glue_end base;
+    glue_end glued;
+    friend bool operator==(const glue_relation&, const glue_relation&) = default;
+};
+
 // The content of the model or of one definition. Its own dictionaries are those of the model or the definition.
 struct entity_list : entity {
     entity_list() : entity(entity_kind::entities) {}
@@ -177,7 +192,7 @@ struct entity_list : entity {
     std::vector<index> section_planes;
     std::vector<index> annotations;
     index active_section_plane = no_index;
-    index glued = 0; // how many elements of this list are glued to another
+    std::vector<glue_relation> glue; // both ends are there, though a damaged file may name those of another list
 };
 
 enum class definition_kind : std::uint8_t { component = 0, group = 1, image = 2 };
@@ -350,6 +365,7 @@ struct model : entity {
     std::vector<sketchup::camera> cameras; // of scenes
     std::vector<attribute_dictionary> dictionaries;
     std::vector<index> faces_of_edges; // filled by link()
+    std::vector<index> cutters;        // in placements; filled by link()
 
     // The next entity id. Ids begin at 1 and follow the reading order, so that a file always gives the same ones.
     std::int32_t give_id() { return ++last_id; }

@@ -85,6 +85,10 @@ public:
     // A placement of an image made by model_builder::image_definition.
     entity_place image(index image_definition, const transform& where = identity_transform);
 
+    // Glues a placement to a face, or to another placement, of this list. The transform of the placement is left as it
+    // is: one that is to cut an opening has its plane z = 0 in the face's plane.
+    void glue(entity_place placement, entity_place to);
+
     // The group through which this list was made. Only for groups.
     entity_place placement() const { return placement_; }
     // The list itself: the model's or the definition's attributes hang on it.

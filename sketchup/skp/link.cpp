@@ -13,6 +13,7 @@ namespace skp {
 namespace {
 
 using sketchup::index;
+using sketchup::index_range;
 using sketchup::no_index;
 
 [[noreturn]] void refuse(const std::string& reason) {
@@ -91,6 +92,69 @@ void set_faces_of_edges(sketchup::model& m) {
         sketchup::index_range& faces = m.edges[e].faces;
         m.faces_of_edges[faces.first + faces.count++] = f;
     });
+}
+
+// What relations of a list say about cutting: only a face and a group or instance that both stand in it count.
+class cutting_relations {
+public:
+    explicit cutting_relations(const sketchup::model& m)
+        : m_(m), list_of_face_(m.faces.size(), no_list), list_of_placement_(m.placements.size(), no_list) {}
+
+    void add(const sketchup::entity_list& list) {
+        if (list.glue.empty())
+            return;
+        ++list_;
+        for (const index face : list.faces)
+            list_of_face_[face] = list_;
+        for (const std::vector<index>* placed : {&list.groups, &list.instances})
+            for (const index placement : *placed)
+                list_of_placement_[placement] = list_;
+        for (const sketchup::glue_relation& one : list.glue)
+            if (is_of_this_list(one) && cuts(m_.placements[one.glued.at]))
+                found_.push_back({one.base.at, one.glued.at});
+    }
+
+    void put_into(sketchup::model& m) {
+        std::ranges::stable_sort(found_, {}, &cut::face);
+        for (const cut& one : found_) {
+            index_range& cutters = m.faces[one.face].cutters;
+            if (cutters.count++ == 0)
+                cutters.first = static_cast<index>(m.cutters.size());
+            m.cutters.push_back(one.placement);
+        }
+    }
+
+private:
+    struct cut {
+        index face;
+        index placement;
+    };
+    static constexpr index no_list = 0;
+
+    bool is_of_this_list(const sketchup::glue_relation& one) const {
+        return one.base.kind == sketchup::entity_kind::face && list_of_face_[one.base.at] == list_ &&
+               list_of_placement_[one.glued.at] == list_;
+    }
+    bool cuts(const sketchup::placement& p) const {
+        return p.definition != no_index && m_.definitions[p.definition].behavior.cuts_opening;
+    }
+
+    const sketchup::model& m_;
+    std::vector<index> list_of_face_; // by a number given to each list with relations, from 1
+    std::vector<index> list_of_placement_;
+    index list_ = no_list;
+    std::vector<cut> found_;
+};
+
+void set_cutters(sketchup::model& m) {
+    const auto has_glue = [](const sketchup::component_definition& d) { return !d.entities.glue.empty(); };
+    if (m.root.glue.empty() && std::ranges::none_of(m.definitions, has_glue))
+        return;
+    cutting_relations relations(m);
+    for (const sketchup::component_definition& d : m.definitions)
+        relations.add(d.entities);
+    relations.add(m.root);
+    relations.put_into(m);
 }
 
 void set_materials_of_textures(sketchup::model& m) {
@@ -202,6 +266,7 @@ void link(sketchup::model& m) {
     nesting_check(m).run();
     set_owners(m);
     set_faces_of_edges(m);
+    set_cutters(m);
     set_materials_of_textures(m);
 }
 

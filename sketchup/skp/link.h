@@ -14,7 +14,8 @@ namespace skp {
 inline constexpr int deepest_nesting = 4096;
 inline constexpr long long most_flattened_entities = 2147483647;
 
-// Sets the owner of every entity, the faces of every edge and the material of every texture. No array of the model may
+// Sets the owner of every entity, the faces of every edge, what cuts openings into every face and the material of every
+// texture. No array of the model may
 // grow afterwards. Every index must be in range or no_index, which the readers see to.
 // Throws format_error if definitions contain themselves, or a limit above is exceeded.
 void link(sketchup::model& m);

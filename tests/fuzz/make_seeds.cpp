@@ -37,6 +37,14 @@ void add_faces(model_builder& m) {
     m.attribute(m.root().list(), "qlw_globals", "ivl_2_sided_faces", whole_number(1));
 }
 
+void add_opening(model_builder& m) {
+    list_builder window = m.component("window");
+    window.square(2);
+    m.definition(window).behavior.cuts_opening = true;
+    const entity_place wall = m.root().square(10);
+    m.root().glue(m.root().instance(window, moved({4, 4, 0})), wall);
+}
+
 void add_placements(model_builder& m) {
     list_builder group = m.root().group("group", moved({5, 0, 0}));
     m.element(group.placement()).layer = m.layer("Hidden", false);
@@ -46,7 +54,7 @@ void add_placements(model_builder& m) {
     component.polyline_curve(points);
     group.instance(component, scaled(2, 2, -1), "mirrored");
     m.root().image(m.image_definition({'B', 'M', 0, 0}, "picture.bmp", 16, 16));
-    m.model().root.glued = 1;
+    add_opening(m);
 }
 
 void add_annotations(model_builder& m) {

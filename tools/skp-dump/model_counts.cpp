@@ -102,7 +102,7 @@ private:
         result.edges += list.edges.size();
         result.section_planes += list.section_planes.size();
         result.active_section_planes += list.active_section_plane != no_index ? 1 : 0;
-        result.glued += list.glued;
+        result.glued += list.glue.size();
         for (const index at : list.annotations)
             count_annotation(m.annotations[at].what);
     }

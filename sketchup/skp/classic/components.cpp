@@ -43,6 +43,20 @@ std::vector<sketchup::index>& list_of(sketchup::entity_list& list, object_class 
     }
 }
 
+// Of what may be glued or glued to.
+sketchup::entity_kind kind_of(object_class what) {
+    switch (what) {
+    case object_class::group:
+        return sketchup::entity_kind::group;
+    case object_class::component_instance:
+        return sketchup::entity_kind::component_instance;
+    case object_class::image:
+        return sketchup::entity_kind::image;
+    default:
+        return sketchup::entity_kind::face;
+    }
+}
+
 } // namespace
 
 // CComponent. A definition's own materials, layers and definitions are read for the slots they take; it has none of
@@ -81,18 +95,30 @@ void model_reader::read_entity_list(sketchup::entity_list& list) {
     }
 }
 
-// CRelationshipMap
+// CRelationshipMap. A relation that lacks an end says nothing.
 void model_reader::read_relationships(sketchup::entity_list& list) {
-    list.glued = list_count();
-    for (std::uint32_t i = 0; i < list.glued; ++i)
-        required_ref(object_class::relationship);
+    const std::uint32_t count = list_count();
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const sketchup::glue_relation& found = relations_[required_ref(object_class::relationship).place];
+        if (found.base.at != sketchup::no_index && found.glued.at != sketchup::no_index)
+            list.glue.push_back(found);
+    }
 }
 
-// CRelationship: the second is glued to the first.
-void model_reader::read_relationship(std::uint32_t) {
+// CRelationship: the second is glued to the first. Either may be introduced here, with relations inside.
+void model_reader::read_relationship(std::uint32_t slot) {
+    const std::size_t place = relations_.size();
+    in_.set_place(slot, static_cast<index>(place));
+    relations_.emplace_back();
     skip_entity();
-    ref(placements | object_class::face);
-    ref(placements);
+    const sketchup::glue_end base = glue_end_ref(placements | object_class::face);
+    const sketchup::glue_end glued = glue_end_ref(placements);
+    relations_[place] = {base, glued};
+}
+
+sketchup::glue_end model_reader::glue_end_ref(class_set accepted) {
+    const object found = ref(accepted);
+    return {kind_of(found.what), found.place};
 }
 
 // CComponentDefinition. What is on the stack here is there once for each level of nesting, hence the second function.

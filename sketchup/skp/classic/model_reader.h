@@ -156,6 +156,7 @@ private:
     void read_entity_list(sketchup::entity_list& list);
     void read_relationships(sketchup::entity_list& list);
     void read_relationship(std::uint32_t slot);
+    sketchup::glue_end glue_end_ref(class_set accepted);
     void read_component_definition(std::uint32_t slot);
     void read_definition_rest(sketchup::component_definition& d);
     sketchup::component_behavior read_component_behavior();
@@ -244,8 +245,9 @@ private:
     std::vector<sketchup::attribute_dictionary> open_dictionaries_; // of unfinished containers, the innermost's last
     std::vector<stored_picture> stored_pictures_;
     std::vector<sketchup::camera> cameras_; // every camera of the file; a few become those of the model and its scenes
-    std::vector<index> definition_order_;   // as the root lists them
-    std::vector<index> layer_order_;        // as the root lists them
+    std::vector<sketchup::glue_relation> relations_;
+    std::vector<index> definition_order_; // as the root lists them
+    std::vector<index> layer_order_;      // as the root lists them
 };
 
 } // namespace skp

@@ -39,17 +39,13 @@ bool may_be_of_entities(std::uint16_t number) {
     return number > tag::entities && number < tag::entities + numbers_of_a_class;
 }
 
-std::size_t glue_relations(byte_cursor in) {
-    const std::optional<byte_cursor> list = descend(in, {tag::glue_manager, tag::glue_list});
-    return list ? count_of(*list, tag::glue) : 0;
-}
-
 } // namespace
 
 // 5000. base: takes the fields that the list holds for its owner.
 void model_data_reader::read_entities(byte_cursor in, sketchup::drawing_element& base, entity_list& list) {
     in.set_where("entities");
     std::array<std::optional<byte_cursor>, list_rows> lists;
+    std::vector<byte_cursor> glue;
     std::vector<byte_cursor> unknown;
     list.id = m_.give_id();
     for (const record& r : records(in)) {
@@ -59,13 +55,14 @@ void model_data_reader::read_entities(byte_cursor in, sketchup::drawing_element&
         else if (r.tag == tag::drawing_element)
             read_drawing_element(r.payload, base);
         else if (r.tag == tag::entities_glue)
-            list.glued = static_cast<index>(glue_relations(r.payload));
+            glue.push_back(r.payload);
         else if (may_be_of_entities(r.tag) && !is_known_but_unused(r.tag))
             unknown.push_back(r.payload);
     }
     list.dictionaries = base.dictionaries;
     list.persistent_id = base.persistent_id;
     read_lists(lists, list);
+    read_glue(glue, list);
     read_unknown_lists(unknown, list);
 }
 

@@ -89,6 +89,9 @@ private:
     void read_text(byte_cursor in, sketchup::entity_list& list);
     void read_linear_dimension(byte_cursor in, sketchup::entity_list& list);
 
+    // glue.cpp
+    void read_glue(const std::vector<byte_cursor>& managers, sketchup::entity_list& list);
+
     // section_planes.cpp
     void read_unknown_lists(const std::vector<byte_cursor>& unknown, sketchup::entity_list& list);
     void read_possible_section_plane(byte_cursor in, sketchup::entity_list& list);

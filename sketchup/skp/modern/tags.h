@@ -167,6 +167,8 @@ inline constexpr number dimension = 23000;
 inline constexpr number linear_dimension = 23500;
 
 inline constexpr number glue = 25500;
+inline constexpr number glue_base = 25501;
+inline constexpr number glue_glued = 25502;
 inline constexpr number glue_manager = 25503;
 inline constexpr number glue_list = 25504;
 

@@ -72,7 +72,7 @@ void write_entities(classic_output& c, const sketchup::entity_list& list) {
         mention_annotation(c, annotation);
 }
 
-void mention_glue_end(classic_output& c, const glue_end& end) {
+void mention_glue_end(classic_output& c, const sketchup::glue_end& end) {
     if (end.kind == sketchup::entity_kind::face)
         mention_face(c, end.at);
     else
@@ -81,9 +81,8 @@ void mention_glue_end(classic_output& c, const glue_end& end) {
 
 void write_relationships(classic_output& c, const sketchup::entity_list& list) {
     object_archive& out = c.out;
-    const std::vector<glue_relation> relations = glue_relations(c.model, list);
-    out.size(relations.size());
-    for (const glue_relation& one : relations)
+    out.size(list.glue.size());
+    for (const sketchup::glue_relation& one : list.glue)
         out.object("CRelationship", [&] {
             write_plain_entity(c);
             mention_glue_end(c, one.base);

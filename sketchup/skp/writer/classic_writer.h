@@ -17,8 +17,7 @@ inline constexpr int deepest_open_definitions = 1200;
 // The bytes of a whole file. m: need not be linked; a name or text that is no UTF-8 gets U+FFFD for each wrong byte.
 // The file is stamped 6.0.1, 8.0.1, 17.0.1 or 20.0.1, whatever m's own version is. What the version has no room for
 // (persistent ids before 17, layer folders before 20 …) is left out, and so are attributes with an empty key.
-// Where annotations lie is not known, so they are written at the origin; which elements are glued to which likewise, so
-// the first placements of a list are, to its first face.
+// Where annotations lie is not known, so they are written at the origin.
 // Throws std::length_error beyond deepest_open_definitions, format_error if a picture cannot be loaded.
 std::vector<std::uint8_t> write_classic(const sketchup::model& m, classic_version version);
 

@@ -142,20 +142,19 @@ std::vector<std::uint64_t> order_of(const modern_output& o, const entity_list& l
     return order;
 }
 
-std::uint64_t id_of(const modern_output& o, const glue_end& end) {
+std::uint64_t id_of(const modern_output& o, const sketchup::glue_end& end) {
     return end.kind == sketchup::entity_kind::face ? o.ids.of(&o.model.faces[end.at])
                                                    : o.ids.of(&o.model.placements[end.at]);
 }
 
 void write_glue(modern_output& o, const entity_list& list) {
     record_sink& out = o.out;
-    const std::vector<glue_relation> relations = glue_relations(o.model, list);
-    if (relations.empty())
+    if (list.glue.empty())
         return;
     out.record(tag::entities_glue, [&] {
         out.record(tag::glue_manager, [&] {
             out.record(tag::glue_list, [&] {
-                for (const glue_relation& one : relations)
+                for (const sketchup::glue_relation& one : list.glue)
                     out.record(tag::glue, [&] {
                         out.id(tag::glue_base, id_of(o, one.base));
                         out.id(tag::glue_glued, id_of(o, one.glued));

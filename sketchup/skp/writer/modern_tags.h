@@ -106,9 +106,6 @@ inline constexpr number dimension_defaults = 24500;
 inline constexpr number option_manager = 25000;
 inline constexpr number option_providers = 25001;
 
-inline constexpr number glue_base = 25501;
-inline constexpr number glue_glued = 25502;
-
 inline constexpr number style_manager = 27000;
 inline constexpr number style_list = 27001;
 inline constexpr number style_is_changed = 27004;

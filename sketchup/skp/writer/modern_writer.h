@@ -18,7 +18,7 @@ enum class modern_version { v21, v25 };
 // fresh one above all others. Left out is what the container has no room for: the alpha of materials, attributes of
 // materials that are no scalars, the attributes and ids of textures, the ids of dictionaries and edge uses, insertion
 // points. So are radial dimensions and polylines, whose layout is not known; that of section planes is not either, they
-// are written in a form that skp::read_model understands and others skip. Annotations and glue as in write_classic.
+// are written in a form that skp::read_model understands and others skip. Annotations as in write_classic.
 // Throws format_error if a picture cannot be loaded, std::runtime_error if the archive cannot be made.
 std::vector<std::uint8_t> write_modern(const sketchup::model& m, modern_version version);
 

@@ -45,18 +45,4 @@ sketchup::material plain_layer_material(const sketchup::layer& layer) {
     return shown;
 }
 
-std::vector<glue_relation> glue_relations(const sketchup::model& m, const sketchup::entity_list& list) {
-    std::vector<glue_end> placed;
-    for (const std::vector<index>* placements : {&list.instances, &list.groups, &list.images})
-        for (const index placement : *placements)
-            placed.push_back({m.placements[placement].kind, placement});
-    std::vector<glue_relation> relations;
-    for (index i = 0; i < list.glued && !placed.empty(); ++i) {
-        const glue_end base =
-            list.faces.empty() ? placed.front() : glue_end{sketchup::entity_kind::face, list.faces.front()};
-        relations.push_back({base, placed[std::min<std::size_t>(i, placed.size() - 1)]});
-    }
-    return relations;
-}
-
 } // namespace skp

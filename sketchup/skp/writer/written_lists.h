@@ -33,18 +33,4 @@ std::vector<sketchup::index> materials_of_list(const sketchup::model& m);
 // What stands for a layer's material where the layer has none of its own.
 sketchup::material plain_layer_material(const sketchup::layer& layer);
 
-struct glue_end {
-    sketchup::entity_kind kind = sketchup::entity_kind::face; // face or a kind of placement
-    sketchup::index at = 0;
-};
-
-struct glue_relation {
-    glue_end base;
-    glue_end glued;
-};
-
-// As many relations as the list says, as far as it has placements. A model does not keep which element is glued to
-// which: the first face, or the first placement where there is none, stands in as the base of all.
-std::vector<glue_relation> glue_relations(const sketchup::model& m, const sketchup::entity_list& list);
-
 } // namespace skp

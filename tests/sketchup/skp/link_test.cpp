@@ -61,6 +61,93 @@ TEST(Link, an_edge_knows_each_of_its_faces_once) {
     EXPECT_EQ(faces_of(m, 3), (std::vector<sketchup::index>{}));
 }
 
+namespace {
+
+// Two faces, a definition that cuts openings and one that does not, and in the model's list an instance of each.
+void make_wall(sketchup::model& m) {
+    m.faces.resize(2);
+    m.root.faces = {0, 1};
+    m.definitions.resize(2);
+    m.definitions[0].behavior.cuts_opening = true;
+    place(m, m.root, 0);
+    place(m, m.root, 1);
+}
+
+void glue(sketchup::entity_list& list, sketchup::glue_end base, sketchup::index placement) {
+    list.glue.push_back({base, {sketchup::entity_kind::component_instance, placement}});
+}
+
+std::vector<sketchup::index> cutters_of(const sketchup::model& m, sketchup::index face) {
+    const sketchup::index_range range = m.faces[face].cutters;
+    const auto first = m.cutters.begin() + range.first;
+    return {first, first + range.count};
+}
+
+constexpr sketchup::glue_end face_0 = {sketchup::entity_kind::face, 0};
+constexpr sketchup::glue_end face_1 = {sketchup::entity_kind::face, 1};
+using indices = std::vector<sketchup::index>;
+
+} // namespace
+
+TEST(Link, a_face_knows_what_cuts_it_in_the_order_of_the_file) {
+    sketchup::model m;
+    make_wall(m);
+    place(m, m.root, 0);
+    glue(m.root, face_1, 2);
+    glue(m.root, face_0, 2);
+    glue(m.root, face_1, 0);
+    skp::link(m);
+    EXPECT_EQ(cutters_of(m, 0), (indices{2}));
+    EXPECT_EQ(cutters_of(m, 1), (indices{2, 0}));
+}
+
+TEST(Link, what_is_glued_without_cutting_is_no_cutter) {
+    sketchup::model m;
+    make_wall(m);
+    glue(m.root, face_0, 1);
+    skp::link(m);
+    EXPECT_EQ(cutters_of(m, 0), indices{});
+}
+
+TEST(Link, what_is_glued_to_a_placement_cuts_no_face) {
+    sketchup::model m;
+    make_wall(m);
+    glue(m.root, {sketchup::entity_kind::component_instance, 1}, 0);
+    skp::link(m);
+    EXPECT_EQ(m.cutters, indices{});
+}
+
+TEST(Link, a_face_of_another_list_is_not_cut) {
+    sketchup::model m;
+    make_wall(m);
+    glue(m.root, face_0, 0);
+    m.definitions[1].entities.faces = {0};
+    m.root.faces = {1};
+    skp::link(m);
+    EXPECT_EQ(cutters_of(m, 0), indices{});
+}
+
+TEST(Link, a_placement_of_another_list_does_not_cut) {
+    sketchup::model m;
+    make_wall(m);
+    glue(m.root, face_0, 0);
+    m.definitions[1].entities.instances = {0};
+    m.root.instances = {1};
+    skp::link(m);
+    EXPECT_EQ(cutters_of(m, 0), indices{});
+}
+
+TEST(Link, a_placed_image_does_not_cut) {
+    sketchup::model m;
+    make_wall(m);
+    m.placements[0].kind = sketchup::entity_kind::image;
+    m.root.images = {0};
+    m.root.instances = {1};
+    m.root.glue.push_back({face_0, {sketchup::entity_kind::image, 0}});
+    skp::link(m);
+    EXPECT_EQ(cutters_of(m, 0), indices{});
+}
+
 TEST(Link, everything_knows_its_model) {
     sketchup::model m;
     m.edges.resize(1);

@@ -65,7 +65,7 @@ json content_figures(const sketchup::model& m) {
     j["section_planes"] = sum_over_lists(m, [](const auto& list) { return list.section_planes.size(); });
     j["section_planes_active"] = sum_over_lists(
         m, [](const auto& list) { return static_cast<std::size_t>(list.active_section_plane != sketchup::no_index); });
-    j["glued"] = sum_over_lists(m, [](const auto& list) { return std::size_t{list.glued}; });
+    j["glued"] = sum_over_lists(m, [](const auto& list) { return list.glue.size(); });
     using sketchup::annotation_kind;
     j["guides"] = annotations_of(m, {annotation_kind::guide_line, annotation_kind::guide_point});
     j["texts"] = annotations_of(m, {annotation_kind::text});

@@ -1,4 +1,4 @@
-// Annotations and glue relations of the archive container, and section planes as far as they can be guessed.
+// Annotations of the archive container, and section planes as far as they can be guessed.
 
 #include "tests/sketchup/skp/modern/record_bytes.h"
 
@@ -34,12 +34,6 @@ TEST(ModernAnnotations, guides_texts_and_dimensions_are_kept_as_what_they_are) {
 TEST(ModernAnnotations, one_without_its_drawing_fields_is_left_out) {
     const auto m = read_parts(content(rec(5009, rec(17001, rec(17000))) + rec(5016, rec(22000))));
     EXPECT_TRUE(m->annotations.empty());
-}
-
-TEST(ModernGlue, relations_are_counted) {
-    const bytes relation = rec(25500, rec(25501, id(1)) + rec(25502, id(2)));
-    const auto m = read_parts(content(rec(5019, rec(25503, rec(25504, rec(99, i32(0)) + relation + relation)))));
-    EXPECT_EQ(m->root.glued, 2u);
 }
 
 TEST(ModernSectionPlanes, a_plane_in_a_list_of_unknown_number_is_found) {

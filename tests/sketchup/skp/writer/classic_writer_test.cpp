@@ -80,18 +80,3 @@ TEST(ClassicWriter, attributes_with_an_empty_key_are_left_out) {
     ASSERT_EQ(read->dictionaries.size(), 1u);
     EXPECT_EQ(read->dictionaries[0].entries, (std::vector<attribute>{{"kept", whole_number(2)}}));
 }
-
-TEST(ClassicWriter, more_glued_elements_than_placements_are_all_counted) {
-    model_builder m;
-    m.root().square(9);
-    m.root().group("glued");
-    m.model().root.glued = 3;
-    EXPECT_EQ(round_trip(*m.finish())->root.glued, 3u);
-}
-
-TEST(ClassicWriter, what_no_placement_stands_for_is_not_glued) {
-    model_builder m;
-    m.root().square(9);
-    m.model().root.glued = 3;
-    EXPECT_EQ(round_trip(*m.finish())->root.glued, 0u);
-}

@@ -49,6 +49,7 @@ private:
     void layers();
     void folders(index parent);
 
+    void glue(const sketchup::entity_list& list);
     void entities(const sketchup::entity_list& list);
     void edges(const sketchup::entity_list& list);
     void vertex(const std::string& which, index at);
@@ -296,6 +297,20 @@ void describer::annotations(const sketchup::entity_list& list) {
     }
 }
 
+// Each end by its kind and its place in the list of its kind.
+void describer::glue(const sketchup::entity_list& list) {
+    const auto name = [&list](const sketchup::glue_end& end) {
+        const std::vector<index>& listed = end.kind == sketchup::entity_kind::face    ? list.faces
+                                           : end.kind == sketchup::entity_kind::group ? list.groups
+                                           : end.kind == sketchup::entity_kind::image ? list.images
+                                                                                      : list.instances;
+        const auto place = std::ranges::find(listed, end.at) - listed.begin();
+        return "kind " + std::to_string(static_cast<int>(end.kind)) + " number " + std::to_string(place);
+    };
+    for (const sketchup::glue_relation& one : list.glue)
+        say(name(one.glued) + " is glued to " + name(one.base));
+}
+
 void describer::entities(const sketchup::entity_list& list) {
     edges(list);
     faces(list);
@@ -304,7 +319,7 @@ void describer::entities(const sketchup::entity_list& list) {
     placements("image", list.images);
     section_planes(list);
     annotations(list);
-    say("glued " + std::to_string(list.glued));
+    glue(list);
 }
 
 void describer::definition(const sketchup::component_definition& d) {

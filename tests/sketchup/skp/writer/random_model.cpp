@@ -27,6 +27,7 @@ private:
     void add_curves(list_builder& list);
     void add_annotations(list_builder& list);
     void add_placements(list_builder& list, std::uint32_t placeable);
+    void glue_things(list_builder& list);
     void add_scenes();
     void set_view();
     void paint(face& f);
@@ -176,8 +177,24 @@ void generator::fill(list_builder list, std::uint32_t placeable) {
     add_curves(list);
     add_annotations(list);
     add_placements(list, placeable);
-    entity_list& made = list.definition() == no_index ? builder_.model().root : builder_.definition(list).entities;
-    made.glued = random_.below(1 + size(made.groups) + size(made.instances) + size(made.images));
+    glue_things(list);
+}
+
+// To faces mostly, to other placements at times.
+void generator::glue_things(list_builder& list) {
+    const entity_list& made =
+        list.definition() == no_index ? builder_.model().root : builder_.definition(list).entities;
+    std::vector<entity_place> placed;
+    for (const std::vector<sketchup::index>* some : {&made.groups, &made.instances, &made.images})
+        for (const sketchup::index one : *some)
+            placed.push_back({builder_.model().placements[one].kind, one});
+    for (std::uint32_t i = placed.empty() ? 0 : random_.below(4); i > 0; --i) {
+        const entity_place glued = placed[random_.below(size(placed))];
+        if (!made.faces.empty() && !random_.chance(3))
+            list.glue(glued, {entity_kind::face, made.faces[random_.below(size(made.faces))]});
+        else
+            list.glue(glued, placed[random_.below(size(placed))]);
+    }
 }
 
 void generator::add_definitions() {
