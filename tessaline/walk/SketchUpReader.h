@@ -4,12 +4,12 @@
 // the file that holds them.
 
 #include "sketchup/SketchUpAPI.h"
+#include "tessaline/blocks/block_writer.h"
 #include "tessaline/faces/face_mesh.h"
 #include "tessaline/faces/face_sides.h"
 #include "tessaline/lamps/light_record.h"
 #include "tessaline/materials/known_materials.h"
 #include "tessaline/model/transforms.h"
-#include "tessaline/plants/ground_cover.h"
 #include "tessaline/plants/plants.h"
 #include "tessaline/state/camera_view.h"
 #include "tessaline/state/edge_record.h"
@@ -20,27 +20,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-// What a face passes to begin_mesh about its block.
-struct mesh_head {
-    std::string_view label{};
-    bool casts_shadows = true;
-    std::string_view groundcover_file{}; // empty: none
-    int groundcover_orientation = -1;
-    bool invisible = false;
-    bool hide = false;
-    std::string_view layer_name{};
-};
-
-// What a pass of a face passes to write_mesh_state.
-struct mesh_state {
-    std::string_view layer_name{};
-    bool two_sided = false;
-    face_pass pass = face_pass::front;
-    int front_material = 0;
-    int back_material = 0;
-    bool uses_uv = false;
-};
 
 // A face where the walk meets it.
 struct face_in_walk {
@@ -63,12 +42,11 @@ struct edge_block_state {
 struct image_quad {
     std::string_view layer_name{};
     int material = 0;
-    fpt origin;           // the corner of the picture's lower left
-    fpt corner_y;         // at its height
-    fpt corner_x;         // at its width
-    fpt corner_xy;        // at both
-    fpt normal;           // unit
-    bool in_lamp = false; // a lamp block is open, and takes the quad
+    fpt origin;    // the corner of the picture's lower left
+    fpt corner_y;  // at its height
+    fpt corner_x;  // at its width
+    fpt corner_xy; // at both
+    fpt normal;    // unit
     bool casts_shadows = true;
 };
 
@@ -100,8 +78,8 @@ public:
     placement_decision enter_instance(SUComponentInstanceRef instance, placement_walk& walk);
     // Whether an element may be entered at all; invisible: its layer is off and only a lamp is let through.
     bool is_let_in(SUDrawingElementRef element, SULayerRef layer, bool& invisible) const;
-    // Makes the level a lamp if its parameters say so. Gives whether a block was opened for it.
-    bool open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden);
+    // Makes the level a lamp if its parameters say so.
+    void open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden);
     void close_lamp(const transform16& transform);
 
     // skatter_instances.cpp: components that a scattering tool has placed.
@@ -133,7 +111,6 @@ public:
     // Writes nothing if no edge was kept. Needs no model. The view decides how thick a line is, and which edges are too
     // short to show; a view without a pixel height takes that of the setting "ivl_resy", and keeps it.
     void write_edge_lines();
-    void begin_edge_mesh(std::string_view layer_name);
     // One edge as a beam without caps. start, end: metres. b, a: half its width, square to it and to one another.
     // local_vertices: number of its first vertex in the block; grows by 16.
     void write_edge_box(const fpt& start, const fpt& end, const fpt& b, const fpt& a, int& local_vertices);
@@ -149,17 +126,6 @@ public:
     // record, its files and its lines in the stream. Gives 0 for no pixels and for a picture that cannot be read, else
     // 10 or above.
     int get_image_material_number(SUImageRef image);
-
-    // mesh_blocks.cpp: what opens and closes a block and what stands at its head.
-    void begin_mesh(const mesh_head& head);
-    void write_mesh_state(const mesh_state& state);
-    void write_layer_list(std::string_view layer_name);
-    void end_mesh(std::string_view label);
-    void begin_lamp_mesh(std::string_view label, int lamp_number, bool forced_hidden);
-    void begin_face_lamp_mesh(int lamp_number, bool hide, bool invisible);
-    void begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material, int back_material,
-                          bool hide, bool invisible);
-    void write_direct_light(std::string_view label, int lamp_number);
 
     // face_meshing.cpp: which side of a face becomes which block, and what stands in it.
     // Writes one face of the list that is being walked, on the parameter level that was pushed for it.
@@ -180,26 +146,15 @@ public:
 
     geometry_stream stream; // closed until the run opens it; drops all lines while closed
 
-    // Mesh block state.
-    int vertex_base = 0;            // added to a mesh's own vertex numbers; 0 in every block that gathers nothing
-    bool lamp_block_open = false;   // a group or instance lamp block is open
-    int lamp_block_depth = -1;      // the depth at which it opened
-    bool in_illum_mesh = false;     // an illuminated block is open
-    int illum_material = -1;        // its material number
-    int mesh_count = 0;             // illuminated blocks closed so far
-    int lamp_count = 0;             // lamps met so far
-    bool beam_pass_wanted = false;  // the current lamp is of the type "spot_beams"
-    bool beam_pass_running = false; // its entities are being walked a second time
-    int ilights_saved = 0;          // number of the next lamp
+    block_writer blocks{stream}; // what is open in the stream, and all that opens and closes there
+
+    int ilights_saved = 0; // number of the next lamp
 
     // lamps.cpp: the lamps written so far, by number. The record of the run; nothing reads it back.
     std::vector<cl_lp_light> lights;
 
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
-
-    // Where the ground cover of the objects at hand lies.
-    ground_cover cover;
 
     // Answers about materials, so that a face asks neither for names nor for files.
     known_materials materials;
@@ -257,7 +212,6 @@ private:
                      bool has_file);
 
     // face_meshing.cpp
-    void leave_illum_mesh();
     bool begins_face_lamp() const;
     void begin_face_lamp(const transform16& matrix);
     void end_face_lamp(SUFaceRef face);

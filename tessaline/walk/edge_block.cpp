@@ -1,6 +1,6 @@
 // How the collected edges become geometry at the end of the stream: beams for a rendering, which knows only triangles,
-// and true lines for a 3D document. Works on the table of edges and the view alone: the model is closed by then. Sets
-// and clears block_seen.
+// and true lines for a 3D document. Works on the table of edges and the view alone: the model is closed by
+// then.
 
 #include "qlw/qlw_globals.h"
 #include "tessaline/faces/edge_geometry.h"
@@ -13,10 +13,6 @@
 
 namespace {
 
-constexpr std::string_view label_of_closing = "Edges";
-constexpr std::string_view layer_of_lines = "Edges";
-constexpr std::string_view layer_of_beams = "Layer0"; // whatever layers the edges are on
-constexpr int edge_material = 1;
 constexpr int edges_of_a_block = 1000;
 
 constexpr double inches_per_metre = 39.37007874015748;
@@ -51,10 +47,8 @@ void SketchUpReader::write_edge_lines() {
         else
             write_edge_as_beam(edge, state);
     }
-    if (as_lines || !block_seen)
-        return;
-    end_mesh(label_of_closing);
-    block_seen = false;
+    if (!as_lines)
+        blocks.end_edge_meshes();
 }
 
 // The sizes mix units: the distance is in metres and the line in inches here, and a field of view is taken as degrees
@@ -73,13 +67,9 @@ void SketchUpReader::write_edge_as_line(const cl_tsl_edge& edge, double pixels) 
         return;
     fpt normal = frame_of(line).b;
     normal.make_unit(1);
-    stream.write_comment("");
-    stream.write_mesh_opening();
-    stream.write_line_mark();
-    stream.write_layer_name(layer_of_lines);
+    blocks.begin_line_mesh();
     stream.write_line(start, end, normal);
-    end_mesh({});
-    vertex_base = 0;
+    blocks.end_line_mesh();
 }
 
 void SketchUpReader::write_edge_as_beam(const cl_tsl_edge& edge, edge_block_state& state) {
@@ -104,31 +94,14 @@ void SketchUpReader::write_edge_as_beam(const cl_tsl_edge& edge, edge_block_stat
     write_edge_box(start, end, frame.b, frame.a, state.local_vertices);
 }
 
-// A close goes ahead of every block if any block was ever opened, be it closed or not: consumers count on it.
 void SketchUpReader::change_edge_block(int layer, edge_block_state& state) {
-    if (block_seen)
-        end_mesh(label_of_closing);
+    blocks.change_edge_mesh();
     state.last_layer = layer;
-    if (!lamp_block_open) {
-        vertex_base = 0;
-        begin_edge_mesh(layer_of_beams);
-        block_seen = true;
-    }
     state.local_vertices = 0;
 }
 
-void SketchUpReader::begin_edge_mesh(std::string_view layer_name) {
-    stream.write_comment("MESH for Edges");
-    stream.write_mesh_opening();
-    stream.write_layer_name(layer_name);
-    if (theApp.is_doing_animation)
-        write_layer_list(layer_name);
-    stream.write_culling(false);
-    stream.write_front_material(edge_material);
-    stream.write_back_material(edge_material);
-}
-
 void SketchUpReader::write_edge_box(const fpt& start, const fpt& end, const fpt& b, const fpt& a, int& local_vertices) {
+    const int vertex_base = blocks.state().vertex_base;
     fpt unit_a = a;
     fpt unit_b = b;
     unit_a.make_unit(1);

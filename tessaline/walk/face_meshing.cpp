@@ -97,7 +97,7 @@ int SketchUpReader::ProcessFace(SUFaceRef face, const transform16& matrix, bool 
     const SUDrawingElementRef element = SUFaceToDrawingElement(face);
     const element_layer layer = layer_of(element, layer0_hidden);
     set_lower_case(scratch.lower_layer_name, layer.name);
-    if (is_gated_by_beam(scratch.lower_layer_name, lamp_block_open, beam_pass_running)) {
+    if (is_gated_by_beam(scratch.lower_layer_name, blocks.state().lamp_block_open, blocks.state().beam_pass_running)) {
         --items_done;
         return 0;
     }
@@ -121,15 +121,11 @@ int SketchUpReader::ProcessFace(SUFaceRef face, const transform16& matrix, bool 
 }
 
 int SketchUpReader::write_face_sides(const face_in_walk& walked, const face_side& front, const face_side& back) {
-    if (in_illum_mesh && front.number != illum_material && back.number != illum_material)
-        leave_illum_mesh();
-    const bool begins_illum = !lamp_block_open && !in_illum_mesh && (front.glows || back.glows);
-    if (begins_illum) {
-        vertex_base = 0;
-        in_illum_mesh = true;
-        begin_illum_mesh(walked.layer_name, front.glows, front.number, back.number, current_oparms->light.hide,
-                         current_oparms->invisible);
-    }
+    blocks.leave_illum_mesh_unless(front.number, back.number);
+    const bool begins_illum = blocks.takes_glow() && (front.glows || back.glows);
+    if (begins_illum)
+        blocks.begin_illum_mesh(walked.layer_name, front.glows, front.number, back.number, current_oparms->light.hide,
+                                current_oparms->invisible);
     const face_plan plan = plan_for(front, back, get_global_int("ivl_2_sided_faces"), !begins_illum);
     const bool face_lamp = begins_face_lamp();
     if (face_lamp)
@@ -140,36 +136,25 @@ int SketchUpReader::write_face_sides(const face_in_walk& walked, const face_side
         return 0;
     if (plan.two_sided && !write_face_pass(walked, plan, face_pass::back, face_lamp))
         return 0;
-    if (face_lamp && !in_illum_mesh)
+    if (face_lamp)
         end_face_lamp(walked.face);
     return 1;
 }
 
-void SketchUpReader::leave_illum_mesh() {
-    end_mesh("");
-    vertex_base = 0;
-    ++mesh_count;
-    illum_material = -1;
-    in_illum_mesh = false;
-}
-
 bool SketchUpReader::begins_face_lamp() const {
-    return !lamp_block_open && !beam_pass_running && !in_illum_mesh && !current_oparms->light.direct_light &&
+    return blocks.takes_lamps() && !blocks.state().in_illum_mesh && !current_oparms->light.direct_light &&
            is_lamp(current_oparms->light);
 }
 
 void SketchUpReader::begin_face_lamp(const transform16& matrix) {
-    vertex_base = 0;
     const int lamp_number = current_oparms->light.add_lamp(*this, matrix);
-    begin_face_lamp_mesh(lamp_number, current_oparms->light.hide, current_oparms->invisible);
-    ++lamp_count;
+    blocks.begin_face_lamp_mesh(lamp_number, current_oparms->light.hide, current_oparms->invisible);
 }
 
 void SketchUpReader::end_face_lamp(SUFaceRef face) {
     current_oparms->light.face_edge_vector = longest_edge_vector(edges_of(face));
     current_oparms->light.face_x_axis = {1, 0, 0};
-    end_mesh("END OF LAMP");
-    vertex_base = 0;
+    blocks.end_face_lamp();
 }
 
 // One side of the face. False, with nothing written, if the face has no triangles.
@@ -183,40 +168,27 @@ bool SketchUpReader::write_face_pass(const face_in_walk& walked, const face_plan
     begin_face_pass(walked, plan, pass);
     write_face_vertices(walked.matrix, plan, pass, uv);
     write_face_triangles(walked.flip != (pass == face_pass::back)); // turned round twice is not turned round
-    if (lamp_block_open || face_lamp || in_illum_mesh) {
-        vertex_base += static_cast<int>(scratch.points.size()); // the next face of the block numbers on
-    } else {
-        end_mesh("");
-        vertex_base = 0;
-    }
+    blocks.end_face_pass(static_cast<int>(scratch.points.size()), face_lamp);
     return true;
 }
 
 void SketchUpReader::begin_face_pass(const face_in_walk& walked, const face_plan& plan, face_pass pass) {
     // The faces of a lamp without geometry get no block of their own: the consumer has always been given them bare.
-    const bool lamp_has_the_block = !beam_pass_running && is_lamp(current_oparms->light);
-    if (!lamp_block_open && !in_illum_mesh && !lamp_has_the_block) {
-        // block_seen tells that any block was opened before, not that one is open now; the extra close is part of the
-        // format.
-        if (block_seen)
-            end_mesh("Face");
-        block_seen = true;
-        begin_mesh({.label = "ProcessFace MESH",
-                    .casts_shadows = walked.casts_shadows,
-                    .groundcover_file = current_oparms->groundcover_file,
-                    .groundcover_orientation = current_oparms->groundcover_orientation,
-                    .invisible = current_oparms->invisible,
-                    .hide = current_oparms->light.hide,
-                    .layer_name = walked.layer_name});
-        vertex_base = 0;
-    }
-    if (!in_illum_mesh)
-        write_mesh_state({.layer_name = walked.layer_name,
-                          .two_sided = plan.two_sided,
-                          .pass = pass,
-                          .front_material = plan.front.number,
-                          .back_material = plan.back.number,
-                          .uses_uv = plan.uses_uv()});
+    const bool bare = !blocks.state().beam_pass_running && is_lamp(current_oparms->light);
+    blocks.begin_face_pass({.label = "ProcessFace MESH",
+                            .casts_shadows = walked.casts_shadows,
+                            .groundcover_file = current_oparms->groundcover_file,
+                            .groundcover_orientation = current_oparms->groundcover_orientation,
+                            .invisible = current_oparms->invisible,
+                            .hide = current_oparms->light.hide,
+                            .layer_name = walked.layer_name},
+                           {.layer_name = walked.layer_name,
+                            .two_sided = plan.two_sided,
+                            .pass = pass,
+                            .front_material = plan.front.number,
+                            .back_material = plan.back.number,
+                            .uses_uv = plan.uses_uv()},
+                           bare);
 }
 
 void SketchUpReader::write_face_vertices(const transform16& matrix, const face_plan& plan, face_pass pass,
@@ -225,6 +197,7 @@ void SketchUpReader::write_face_vertices(const transform16& matrix, const face_p
     const bool back_side = source == uvq_source::back;
     const uv_scale inherited = inherited_scale(plan, back_side);
     const uv_scale of_layer = layer_material_scale(plan);
+    const int vertex_base = blocks.state().vertex_base;
     scratch.world.resize(scratch.points.size());
     for (std::size_t i = 0; i != scratch.points.size(); ++i) {
         const SUPoint3D& point = scratch.points[i];
@@ -244,6 +217,7 @@ void SketchUpReader::write_face_vertices(const transform16& matrix, const face_p
 }
 
 void SketchUpReader::write_face_triangles(bool reversed) {
+    const int vertex_base = blocks.state().vertex_base;
     for (std::size_t i = 0; i + 2 < scratch.indices.size(); i += 3) {
         std::size_t a = scratch.indices[i];
         const std::size_t b = scratch.indices[i + 1];

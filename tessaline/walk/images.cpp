@@ -49,26 +49,16 @@ int SketchUpReader::ProcessImage(SUImageRef image, const transform16& matrix, co
 
     image_quad quad;
     quad.layer_name = layer.name;
-    quad.in_lamp = lamp_block_open;
     quad.casts_shadows = casts_shadows(element);
     quad.material = get_image_material_number(image);
     place(quad, image, composed(matrix, local_transform(SUImageGetTransform, image)));
     write_image_quad(quad);
-    vertex_base = lamp_block_open ? vertex_base + corners_of_quad : 0;
     return 1;
 }
 
 void SketchUpReader::write_image_quad(const image_quad& quad) {
-    stream.write_comment("");
-    if (quad.in_lamp) {
-        stream.write_comment("INSERT IMAGE IN LAMP");
-    } else {
-        stream.write_comment("NEW MESH for Image");
-        stream.write_image_mesh_opening();
-    }
-    stream.write_layer_name(quad.layer_name);
-    if (theApp.is_doing_animation)
-        write_layer_list(quad.layer_name);
+    blocks.begin_image_mesh();
+    blocks.write_layer(quad.layer_name);
     stream.write_culling(false);
     if (!quad.casts_shadows)
         stream.write_no_shadow();
@@ -83,11 +73,11 @@ void SketchUpReader::write_image_quad(const image_quad& quad) {
     };
     const corner corners[corners_of_quad] = {
         {{0, 0, 0}, quad.origin}, {{1, 0, 0}, quad.corner_x}, {{1, 1, 0}, quad.corner_xy}, {{0, 1, 0}, quad.corner_y}};
-    int number = vertex_base;
+    const int first = blocks.state().vertex_base;
+    int number = first;
     for (const corner& c : corners)
         stream.write_vertex(number++, quad.normal, &c.uvq, c.position);
-    stream.write_image_face(vertex_base, vertex_base + 1, vertex_base + 2);
-    stream.write_image_face(vertex_base + 2, vertex_base + 3, vertex_base);
-    if (!quad.in_lamp)
-        stream.write_mesh_closing("");
+    stream.write_image_face(first, first + 1, first + 2);
+    stream.write_image_face(first + 2, first + 3, first);
+    blocks.end_image_mesh(corners_of_quad);
 }

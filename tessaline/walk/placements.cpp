@@ -83,8 +83,8 @@ placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk&
     read_attributes(entity);
     current_oparms->store_attributes_in_oparms("Group");
 
-    walk.is_lamp_here = open_lamp(walk, "Group LGHT Lamp", invisible);
-    if (!lamp_block_open && invisible) {
+    open_lamp(walk, "Group LGHT Lamp", invisible);
+    if (!blocks.state().lamp_block_open && invisible) {
         oparms_array.forget_all_below(walk.depth); // each enclosing object pops one
         return placement_decision::leave_out;      // the level stays: the siblings that follow inherit from it
     }
@@ -124,10 +124,10 @@ placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instanc
     }
 
     // A lamp with beams is walked once more when its block has closed.
-    if (!lamp_block_open && !beam_pass_running && current_oparms->light.lamp_type == "spot_beams")
-        beam_pass_wanted = true;
-    walk.is_lamp_here = open_lamp(walk, "Instance Lamp", invisible);
-    if (!lamp_block_open && invisible) {
+    if (current_oparms->light.lamp_type == "spot_beams")
+        blocks.want_beam_pass();
+    open_lamp(walk, "Instance Lamp", invisible);
+    if (!blocks.state().lamp_block_open && invisible) {
         oparms_array.forget_all_below(walk.depth);
         return placement_decision::leave_out; // the level stays, as for groups
     }
@@ -156,27 +156,18 @@ bool SketchUpReader::writes_stand_in(SUComponentInstanceRef instance, SUEntityRe
     return true;
 }
 
-bool SketchUpReader::open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden) {
-    if (lamp_block_open || beam_pass_running || !is_lamp(current_oparms->light))
-        return false;
+void SketchUpReader::open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden) {
+    if (!blocks.takes_lamps() || !is_lamp(current_oparms->light))
+        return;
     const int lamp_number = current_oparms->light.add_lamp(*this, walk.transform);
-    ++lamp_count;
-    if (current_oparms->light.direct_light) {
-        write_direct_light(direct_label, lamp_number);
-        return false;
-    }
-    vertex_base = 0;
-    begin_lamp_mesh("Group Lamp", lamp_number, forced_hidden); // instances too: consumers know no other label
-    lamp_block_open = true;
-    lamp_block_depth = walk.depth;
-    return true;
+    if (current_oparms->light.direct_light)
+        blocks.write_direct_light(direct_label, lamp_number);
+    else
+        blocks.open_lamp_block(lamp_number, forced_hidden, walk.depth);
 }
 
 void SketchUpReader::close_lamp(const transform16& transform) {
     current_oparms->light.face_edge_vector = vector_image(transform, {0, 1, 0});
     current_oparms->light.face_x_axis = vector_image(transform, {1, 0, 0});
-    end_mesh("END OF LAMP");
-    lamp_block_open = false;
-    lamp_block_depth = -1;
-    vertex_base = 0;
+    blocks.close_lamp_block();
 }

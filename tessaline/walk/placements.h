@@ -14,7 +14,6 @@ struct placement_walk {
     SUEntitiesRef entities = SU_INVALID; // the content
     std::int32_t id = 0;                 // what the path names: the group's id, or that of the instance's definition
     int depth = 0;                       // of the list that holds the placement
-    bool is_lamp_here = false;           // this placement has opened the lamp block
 };
 
 enum class placement_decision {

@@ -47,7 +47,7 @@ void SketchUpReader::process_group(SUGroupRef group, const transform16& outer, s
     if (enter_group(group, walk) == placement_decision::leave_out)
         return;
     walk_placement(walk, path);
-    if (walk.is_lamp_here && lamp_block_depth == depth)
+    if (blocks.has_lamp_of_depth(depth))
         close_lamp(walk.transform);
     current_oparms = oparms_array.pop();
 }
@@ -67,7 +67,7 @@ void SketchUpReader::process_instance(SUComponentInstanceRef instance, const tra
     if (enter_instance(instance, walk) == placement_decision::leave_out)
         return;
     walk_placement(walk, path);
-    if (walk.is_lamp_here && lamp_block_depth == depth) {
+    if (blocks.has_lamp_of_depth(depth)) {
         close_lamp(walk.transform);
         walk_beams(walk, path);
     }
@@ -84,19 +84,15 @@ void SketchUpReader::walk_placement(const placement_walk& walk, std::string& pat
 
 // The beams of a spot lamp stand outside its block, as ordinary meshes.
 void SketchUpReader::walk_beams(const placement_walk& walk, std::string& path) {
-    if (beam_pass_wanted && !beam_pass_running) {
-        beam_pass_running = true;
+    if (blocks.begin_beam_pass())
         walk_placement(walk, path);
-    }
-    beam_pass_wanted = false;
-    beam_pass_running = false;
+    blocks.end_beam_pass();
 }
 
 void SketchUpReader::process_faces(SUEntitiesRef entities, const transform16& transform, const std::string& path) {
     const auto faces = all_handles(SUEntitiesGetNumFaces, SUEntitiesGetFaces, entities);
     if (faces.empty())
         return;
-    in_illum_mesh = false;
     const bool mirrored = is_mirrored(transform);
     for (const SUFaceRef face : faces) {
         current_oparms = oparms_array.push();
@@ -104,19 +100,12 @@ void SketchUpReader::process_faces(SUEntitiesRef entities, const transform16& tr
         current_oparms = oparms_array.pop();
         advance_progress();
     }
-    if (!in_illum_mesh)
-        return;
-    end_mesh("END OF ILLUM material");
-    ++mesh_count;
-    in_illum_mesh = false;
-    lamp_block_open = false;
-    lamp_block_depth = -1;
-    vertex_base = 0;
+    blocks.end_face_list();
 }
 
 void SketchUpReader::process_images(SUEntitiesRef entities, const transform16& transform, const std::string& path,
                                     int depth) {
-    if (beam_pass_running)
+    if (blocks.state().beam_pass_running)
         return;
     for (const SUImageRef image : all_handles(SUEntitiesGetNumImages, SUEntitiesGetImages, entities)) {
         cl_trace("traversal", __LINE__, "SketchUpReader::ProcessEntities", 0, 0).report("before ProcessImage");
@@ -128,7 +117,7 @@ void SketchUpReader::process_images(SUEntitiesRef entities, const transform16& t
 
 void SketchUpReader::process_edges(SUEntitiesRef entities, const transform16& transform, const std::string& path) {
     const int edge_lines = get_global_int("ivl_edge_lines");
-    if (edge_lines == no_edges || beam_pass_running)
+    if (edge_lines == no_edges || blocks.state().beam_pass_running)
         return;
     cl_trace("traversal", __LINE__, "SketchUpReader::ProcessEntities", 0, 0).report("before Edge Lines");
     for (const SUEdgeRef edge : edges_of(entities, edge_lines == stand_alone_edges)) {

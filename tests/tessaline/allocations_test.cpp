@@ -17,11 +17,11 @@ TEST_F(Allocations, the_second_thousand_vertices_and_faces_of_the_stream_add_non
     const auto write_thousand = [this] {
         const fpt uvq{0.25, 0.5, 1};
         for (int i = 0; i != 1000; ++i) {
-            reader.begin_mesh({.label = "ProcessFace MESH", .layer_name = "A layer with a name that is long"});
-            reader.write_mesh_state({.layer_name = "A layer with a name that is long", .uses_uv = true});
+            reader.blocks.begin_mesh({.label = "ProcessFace MESH", .layer_name = "A layer with a name that is long"});
+            reader.blocks.write_mesh_state({.layer_name = "A layer with a name that is long", .uses_uv = true});
             reader.stream.write_vertex(i, {0, 0, 1}, &uvq, {i * 0.0254, 1.0 / 3, 0});
             reader.stream.write_face(i, i + 1, i + 2);
-            reader.end_mesh("");
+            reader.blocks.end_mesh("");
         }
     };
     write_thousand();

@@ -64,6 +64,9 @@ protected:
         return result;
     }
 
+    // Opens the block of a lamp at the top of the walk; the stream then holds lamp_head.
+    void open_lamp_block() { reader.blocks.open_lamp_block(0, false, 0); }
+
     // What the stream holds; it is closed afterwards.
     std::string stream_text() {
         reader.stream.close();
@@ -75,6 +78,9 @@ protected:
     SketchUpReader reader;
     sketchup::model_builder builder;
 };
+
+// What opens the block of the first lamp.
+inline const std::string lamp_head = lines({"#; Process Group Lamp", "MESH;", "LITE;0"});
 
 // The vertices of a square of 100 inches in the plane z = 0 and its two triangles, in the order of the host.
 inline const std::string square_without_uvq =

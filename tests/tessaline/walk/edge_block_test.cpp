@@ -96,9 +96,9 @@ TEST_F(EdgeBlock, a_block_that_was_opened_before_is_closed_once_more) {
     look_in_parallel();
     keep_level_edge();
     block_seen = true;
-    reader.vertex_base = 77;
+    reader.blocks.end_face_pass(77, true); // a lamp of its own that could not be ended
     EXPECT_EQ(written(), beginning + close + head + level_beam() + close);
-    EXPECT_EQ(reader.vertex_base, 0);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 0);
 }
 
 TEST_F(EdgeBlock, a_perspective_view_makes_lines_as_thick_as_they_are_far) {
@@ -260,9 +260,9 @@ TEST_F(EdgeBlock, in_an_animation_the_head_lists_the_layer) {
 
 TEST_F(EdgeBlock, inside_an_open_lamp_no_block_opens) {
     look_in_parallel();
-    reader.lamp_block_open = true;
+    open_lamp_block();
     keep_level_edge();
-    EXPECT_EQ(written(), beginning + level_beam());
+    EXPECT_EQ(written(), lamp_head + beginning + level_beam());
 }
 
 // ---- true lines
@@ -280,12 +280,12 @@ TEST_F(EdgeBlockOfDocument, each_edge_is_a_block_of_its_own) {
     keep_level_edge();
     keep({10, 20, 30}, {10, 20, 130});
     block_seen = true;
-    reader.vertex_base = 77;
+    reader.blocks.end_face_pass(77, true); // a lamp of its own that could not be ended
     EXPECT_EQ(written(), beginning + lines({"#;", "MESH;", "EDGE;1", "TLAY;Edges", "EDG1;(0, 0, 0)", "EDG2;(100, 0, 0)",
                                             "EDGN;(0, 0, -1)", "EMSH;", "#;", "MESH;", "EDGE;1", "TLAY;Edges",
                                             "EDG1;(10, 20, 30)", "EDG2;(10, 20, 130)", "EDGN;(-1, 0, 0)", "EMSH;"}));
     EXPECT_TRUE(block_seen);
-    EXPECT_EQ(reader.vertex_base, 0);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 0);
 }
 
 // From 2.54 / 2 m to the eye 4,200 m: 0.5 x 4200 x 2 / 420 = 10, which is compared with inches.

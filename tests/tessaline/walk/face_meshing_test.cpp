@@ -66,7 +66,7 @@ TEST_F(FaceMeshing, a_second_face_is_preceded_by_a_stray_close_and_counts_from_z
                          "NORM;(0,0,1)", "VERT;(0,0,2.54)", "ADDV;2", "NORM;(0,0,1)", "VERT;(2.54,2.54,2.54)", "ADDV;3",
                          "FACE;0,1,2", "FACE;1,0,3"}) +
                   end_of_block);
-    EXPECT_EQ(reader.vertex_base, 0);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 0);
 }
 
 TEST_F(FaceMeshing, a_mirroring_transform_turns_the_triangles) {
@@ -222,8 +222,8 @@ TEST_F(FaceMeshing, faces_of_one_glowing_material_share_a_block_and_number_on) {
                                     "MATL;10", "MPU2;1", "MAT2;10"}) +
                                  square_from(0) + square_from(4) + square_from(8) + end_of_block + plain_head +
                                  square_from(0) + end_of_block);
-    EXPECT_EQ(reader.mesh_count, 1);
-    EXPECT_EQ(reader.illum_material, -1);
+    EXPECT_EQ(reader.blocks.state().mesh_count, 1);
+    EXPECT_EQ(reader.blocks.state().illum_material, -1);
 }
 
 TEST_F(FaceMeshing, a_lamp_face_of_a_glowing_material_glows_and_is_no_lamp) {
@@ -235,16 +235,16 @@ TEST_F(FaceMeshing, a_lamp_face_of_a_glowing_material_glows_and_is_no_lamp) {
                                     "MATL;10", "MPU2;1", "MAT2;10"}) +
                                  square_from(0)); // what follows the faces of the list ends the block
     EXPECT_EQ(reader.ilights_saved, 0);
-    EXPECT_EQ(reader.vertex_base, 4);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 4);
 }
 
 TEST_F(FaceMeshing, a_glowing_face_inside_a_lamp_block_is_a_face_of_the_lamp) {
     builder.root().square(100);
     open();
-    reader.lamp_block_open = true;
+    open_lamp_block();
     EXPECT_EQ(write_first_face(glowing(10), side(0)), 1);
-    EXPECT_EQ(stream_text(), lines({"TLAY;Layer0", "CULL;0", "MATL;10", "MAT2;10"}) + square_from(0));
-    EXPECT_FALSE(reader.in_illum_mesh);
+    EXPECT_EQ(stream_text(), lamp_head + lines({"TLAY;Layer0", "CULL;0", "MATL;10", "MAT2;10"}) + square_from(0));
+    EXPECT_FALSE(reader.blocks.state().in_illum_mesh);
 }
 
 // The glow has a block, although the other faces of such a light have none.
@@ -259,7 +259,7 @@ TEST_F(FaceMeshing, a_glowing_face_of_a_direct_light_has_a_block) {
                                     "MATL;10", "MPU2;1", "MAT2;10"}) +
                                  square_from(0) + end_of_block + lines({"TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"}) +
                                  square_from(0) + end_of_block);
-    EXPECT_EQ(reader.mesh_count, 1);
+    EXPECT_EQ(reader.blocks.state().mesh_count, 1);
 }
 
 // The second face shows both its sides without a word of their materials; the first of a block never does.
@@ -268,22 +268,22 @@ TEST_F(FaceMeshing, the_face_that_opens_a_glowing_block_has_one_pass_and_those_b
     builder.root().square(100);
     open();
     write_first_face(glowing(10), side(11));
-    EXPECT_EQ(reader.vertex_base, 4);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 4);
     write_first_face(glowing(10), side(11));
-    EXPECT_EQ(reader.vertex_base, 12);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 12);
 }
 
 TEST_F(FaceMeshing, a_face_inside_a_lamp_block_repeats_the_state_lines_and_numbers_on) {
     builder.root().square(100);
     open();
     current_oparms->light.lamp_type = "rect_glow";
-    reader.lamp_block_open = true;
+    open_lamp_block();
     process_faces();
     process_faces();
     const std::string state = lines({"TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"});
-    EXPECT_EQ(stream_text(), state + square_from(0) + state + square_from(4));
-    EXPECT_EQ(reader.vertex_base, 8);
-    EXPECT_EQ(reader.lamp_count, 0) << "a lamp inside a lamp is none";
+    EXPECT_EQ(stream_text(), lamp_head + state + square_from(0) + state + square_from(4));
+    EXPECT_EQ(reader.blocks.state().vertex_base, 8);
+    EXPECT_EQ(reader.blocks.state().lamp_count, 1) << "a lamp inside a lamp is none";
 }
 
 TEST_F(FaceMeshing, a_face_that_is_a_lamp_gets_a_block_of_its_own) {
@@ -298,8 +298,8 @@ TEST_F(FaceMeshing, a_face_that_is_a_lamp_gets_a_block_of_its_own) {
                   lines({"NORM;(0,0,1)", "VERT;(2.54,0,0)", "ADDV;4", "NORM;(0,0,1)", "VERT;(0,2.54,0)", "ADDV;5",
                          "NORM;(0,0,1)", "VERT;(0,0,0)", "ADDV;6", "NORM;(0,0,1)", "VERT;(2.54,2.54,0)", "ADDV;7",
                          "FACE;6,5,4", "FACE;7,4,5", "EMSH; END OF LAMP"}));
-    EXPECT_EQ(reader.lamp_count, 1);
-    EXPECT_EQ(reader.vertex_base, 0);
+    EXPECT_EQ(reader.blocks.state().lamp_count, 1);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 0);
     EXPECT_EQ(current_oparms->light.face_x_axis, (fpt{1, 0, 0}));
 }
 
@@ -320,7 +320,8 @@ TEST_F(FaceMeshing, the_beam_pass_writes_lamp_faces_as_ordinary_meshes) {
     builder.element(face).layer = glow;
     open();
     current_oparms->light.lamp_type = "spot_beams";
-    reader.beam_pass_running = true;
+    reader.blocks.want_beam_pass();
+    reader.blocks.begin_beam_pass();
     EXPECT_EQ(process_faces(), 1);
     EXPECT_EQ(stream_text(),
               lines({"#; ProcessFace MESH", "MESH;", "TLAY;QLW_Lamp_Beam_Glow", "CULL;0", "MATL;0", "MAT2;0"}) +
@@ -332,17 +333,18 @@ TEST_F(FaceMeshing, a_beam_glow_face_in_its_lamps_block_is_skipped_and_not_count
     const auto face = builder.root().square(100);
     builder.element(face).layer = glow;
     open();
-    reader.lamp_block_open = true;
+    open_lamp_block();
     reader.items_done = 7;
     EXPECT_EQ(process_faces(), 0);
     EXPECT_EQ(reader.items_done, 6);
-    EXPECT_EQ(stream_text(), "");
+    EXPECT_EQ(stream_text(), lamp_head);
 }
 
 TEST_F(FaceMeshing, an_ordinary_face_in_the_beam_pass_is_skipped_and_not_counted) {
     builder.root().square(100);
     open();
-    reader.beam_pass_running = true;
+    reader.blocks.want_beam_pass();
+    reader.blocks.begin_beam_pass();
     EXPECT_EQ(process_faces(), 0);
     EXPECT_EQ(reader.items_done, -1);
     EXPECT_EQ(stream_text(), "");

@@ -33,10 +33,12 @@ protected:
                                    "");
     }
 
-    // The stream without the three lines that declare the image's material.
+    // What declares the image's material.
+    const std::string declaration = lines({"MATF;IMAGE_TX_Tree_88.png.OrnMaterial", "MTX2;1", "MATI;10"});
+
+    // The stream without it.
     std::string block() {
         const std::string text = stream_text();
-        const std::string declaration = lines({"MATF;IMAGE_TX_Tree_88.png.OrnMaterial", "MTX2;1", "MATI;10"});
         EXPECT_EQ(text.substr(0, declaration.size()), declaration);
         return text.substr(declaration.size());
     }
@@ -93,19 +95,20 @@ TEST_F(Images, a_picture_that_casts_no_shadow_says_so_behind_the_culling) {
 
 TEST_F(Images, in_a_lamp_block_no_mesh_is_opened_or_closed) {
     place(640, 480);
-    reader.lamp_block_open = true;
+    open_lamp_block();
     EXPECT_EQ(process(), 1);
-    EXPECT_EQ(block(), lines({"#;", "#;INSERT IMAGE IN LAMP", "TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10", "MPU2;1",
-                              "MAT2;10"}) +
-                           quad_640_480);
+    EXPECT_EQ(stream_text(), lamp_head + declaration +
+                                 lines({"#;", "#;INSERT IMAGE IN LAMP", "TLAY;Layer0", "CULL;0", "MPUV;1", "MATL;10",
+                                        "MPU2;1", "MAT2;10"}) +
+                                 quad_640_480);
 }
 
 TEST_F(Images, in_a_lamp_block_what_follows_is_numbered_4_higher) {
     place(640, 480);
-    reader.lamp_block_open = true;
-    reader.vertex_base = 7;
+    open_lamp_block();
+    reader.blocks.end_face_pass(7, false);
     process();
-    EXPECT_EQ(reader.vertex_base, 11);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 11);
     const std::string text = stream_text();
     EXPECT_TRUE(text.ends_with(lines({"ADDV;10", "FACE;7, 8, 9", "FACE;9, 10, 7"}))) << text;
 }
@@ -113,7 +116,7 @@ TEST_F(Images, in_a_lamp_block_what_follows_is_numbered_4_higher) {
 TEST_F(Images, outside_a_lamp_block_what_follows_is_numbered_from_0) {
     place(2, 2);
     process();
-    EXPECT_EQ(reader.vertex_base, 0);
+    EXPECT_EQ(reader.blocks.state().vertex_base, 0);
 }
 
 TEST_F(Images, a_picture_opens_no_face_block) {

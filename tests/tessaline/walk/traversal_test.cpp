@@ -158,7 +158,7 @@ TEST_F(Traversal, a_lamp_inside_a_lamp_is_part_of_it) {
     EXPECT_THAT(tagged(lines, "LITE"), ElementsAre("LITE;0"));
     EXPECT_THAT(tagged(lines, "EMSH"), ElementsAre("EMSH; END OF LAMP"));
     EXPECT_EQ(lines.back(), "EMSH; END OF LAMP");
-    EXPECT_EQ(reader.lamp_count, 1);
+    EXPECT_EQ(reader.blocks.state().lamp_count, 1);
 }
 
 TEST_F(Traversal, a_lamp_block_is_numbered_through_and_the_next_block_starts_anew) {
@@ -227,8 +227,8 @@ TEST_F(Traversal, the_beams_of_a_spot_lamp_follow_its_block_as_ordinary_meshes) 
     ASSERT_NE(end_of_lamp, lines.end());
     EXPECT_THAT(std::vector<std::string>(end_of_lamp + 1, end_of_lamp + 4),
                 ElementsAre("#; ProcessFace MESH", "MESH;", "TLAY;QLW_Lamp_Beam_Glow"));
-    EXPECT_FALSE(reader.beam_pass_wanted);
-    EXPECT_FALSE(reader.beam_pass_running);
+    EXPECT_FALSE(reader.blocks.state().beam_pass_wanted);
+    EXPECT_FALSE(reader.blocks.state().beam_pass_running);
 }
 
 // Only the end of the lamp's own block begins its second walk, and what is placed inside the lamp does not end it.

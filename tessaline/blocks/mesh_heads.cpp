@@ -1,15 +1,17 @@
-// What opens and closes a block, and what stands at its head. Reads the parameters of the level, the layer table and
-// the run's folders; sets block_seen.
+// What stands at the head of each block. Reads the parameters of the level, the layer table and the run's folders.
+
+#include "tessaline/blocks/block_writer.h"
 
 #include "qlw/qlw_globals.h"
 #include "tessaline/files/lower_case.h"
 #include "tessaline/state/run_state.h"
-#include "tessaline/walk/SketchUpReader.h"
 
 namespace {
 
 // Faces on this layer are what one sees of a lamp's light: they stay visible when the lamp's own shape is hidden.
 constexpr std::string_view beam_glow_layer = "qlw_lamp_beam_glow";
+
+constexpr int edge_material = 1; // of every edge
 
 bool shows_head(const mesh_head& head) {
     return !head.invisible && (!head.hide || lower_case(head.layer_name) == beam_glow_layer);
@@ -21,7 +23,7 @@ bool shows_bulb(bool hide, bool invisible) {
 
 } // namespace
 
-void SketchUpReader::begin_mesh(const mesh_head& head) {
+void block_writer::begin_mesh(const mesh_head& head) {
     stream.write_block_label(head.label);
     stream.write_mesh_opening();
     if (!head.casts_shadows)
@@ -33,10 +35,8 @@ void SketchUpReader::begin_mesh(const mesh_head& head) {
         stream.write_invisible();
 }
 
-void SketchUpReader::write_mesh_state(const mesh_state& state) {
-    stream.write_layer_name(state.layer_name);
-    if (theApp.is_doing_animation)
-        write_layer_list(state.layer_name);
+void block_writer::write_mesh_state(const mesh_state& state) {
+    write_layer(state.layer_name);
     stream.write_culling(state.two_sided);
     if (state.two_sided) {
         stream.write_front_material(state.pass == face_pass::front ? state.front_material : state.back_material);
@@ -53,7 +53,7 @@ void SketchUpReader::write_mesh_state(const mesh_state& state) {
     stream.write_back_material(state.front_material);
 }
 
-void SketchUpReader::write_layer_list(std::string_view layer_name) {
+void block_writer::write_layer_list(std::string_view layer_name) {
     const int index = layers.index_of(std::string(layer_name));
     if (index < 0)
         return;
@@ -63,11 +63,17 @@ void SketchUpReader::write_layer_list(std::string_view layer_name) {
     stream.write_layer_chain(chain + std::to_string(index));
 }
 
-void SketchUpReader::end_mesh(std::string_view label) {
+void block_writer::write_layer(std::string_view layer_name) {
+    stream.write_layer_name(layer_name);
+    if (theApp.is_doing_animation)
+        write_layer_list(layer_name);
+}
+
+void block_writer::end_mesh(std::string_view label) {
     stream.write_mesh_closing(label);
 }
 
-void SketchUpReader::begin_lamp_mesh(std::string_view label, int lamp_number, bool forced_hidden) {
+void block_writer::begin_lamp_mesh(std::string_view label, int lamp_number, bool forced_hidden) {
     stream.write_stream_line("#; Process %s", label);
     stream.write_mesh_opening();
     stream.write_lamp_shape(lamp_number);
@@ -75,12 +81,11 @@ void SketchUpReader::begin_lamp_mesh(std::string_view label, int lamp_number, bo
         stream.write_invisible();
 }
 
-void SketchUpReader::begin_face_lamp_mesh(int lamp_number, bool hide, bool invisible) {
-    // block_seen tells that any block was opened before, not that one is open now; the extra close is part of the
-    // format.
-    if (block_seen)
-        end_mesh("Close for new Face Lamp MESH");
+void block_writer::begin_face_lamp_mesh(int lamp_number, bool hide, bool invisible) {
+    close_if_any_was_seen("Close for new Face Lamp MESH");
     block_seen = true;
+    now.vertex_base = 0;
+    ++now.lamp_count;
     stream.write_comment(" Process Face Lamp MESH");
     stream.write_mesh_opening();
     stream.write_lamp_shape(lamp_number);
@@ -88,17 +93,29 @@ void SketchUpReader::begin_face_lamp_mesh(int lamp_number, bool hide, bool invis
         stream.write_invisible();
 }
 
-void SketchUpReader::begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material,
-                                      int back_material, bool hide, bool invisible) {
+void block_writer::begin_illum_mesh(std::string_view layer_name, bool front_is_illuminated, int front_material,
+                                    int back_material, bool hide, bool invisible) {
     stream.write_comment(" Process Material Illum MESH");
     stream.write_mesh_opening();
     if (!shows_bulb(hide, invisible))
         stream.write_invisible();
-    illum_material = front_is_illuminated ? front_material : back_material;
-    write_mesh_state({.layer_name = layer_name, .front_material = illum_material, .uses_uv = true});
+    now.vertex_base = 0;
+    now.in_illum_mesh = true;
+    now.illum_material = front_is_illuminated ? front_material : back_material;
+    write_mesh_state({.layer_name = layer_name, .front_material = now.illum_material, .uses_uv = true});
 }
 
-void SketchUpReader::write_direct_light(std::string_view label, int lamp_number) {
+void block_writer::begin_edge_mesh(std::string_view layer_name) {
+    stream.write_comment("MESH for Edges");
+    stream.write_mesh_opening();
+    write_layer(layer_name);
+    stream.write_culling(false);
+    stream.write_front_material(edge_material);
+    stream.write_back_material(edge_material);
+}
+
+void block_writer::write_direct_light(std::string_view label, int lamp_number) {
+    ++now.lamp_count;
     stream.write_stream_line("#; Process %s Direct Light", label);
     stream.write_direct_light(lamp_number);
 }
