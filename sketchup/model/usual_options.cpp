@@ -88,11 +88,28 @@ const std::vector<attribute> usual = {
     flag("SectionCutDrawEdges", true),
 };
 
+// Soft: below 20 degrees between two faces an edge counts as soft.
+const std::vector<attribute> settings = {
+    flag("line style edges", true), number("fog hint", 1),
+    flag("soft edges", true),       real("soft limit", 0.34906585039886595),
+    flag("smooth edges", true),     real("X-ray opacity", 0.65),
+    flag("photo background", true), real("photo background opacity", 1),
+    flag("photo overlay", true),    real("photo overlay opacity", 0.8),
+};
+
+const typed_value* value_named(const std::vector<attribute>& values, std::string_view name) {
+    const auto found = std::ranges::find(values, name, &attribute::key);
+    return found == values.end() ? nullptr : &found->value;
+}
+
 } // namespace
 
 const typed_value* usual_option(std::string_view name) {
-    const auto found = std::ranges::find(usual, name, &attribute::key);
-    return found == usual.end() ? nullptr : &found->value;
+    return value_named(usual, name);
+}
+
+const typed_value* usual_setting(std::string_view name) {
+    return value_named(settings, name);
 }
 
 } // namespace sketchup

@@ -5,12 +5,14 @@ namespace {
 
 using enum option_type;
 
+constexpr int always = std::numeric_limits<int>::max(); // in every layout since
+
 constexpr option_field fields[] = {
     {"RenderMode", integer},
     {"ModelTransparency", boolean},
     {"MaterialTransparency", boolean},
     {"JitterEdges", boolean},
-    {nullptr, boolean, 38}, // line-style edges
+    {nullptr, boolean, 38, always, "line style edges"},
     {"EdgeDisplayMode", integer},
     {"BackgroundColor", color},
     {"ForegroundColor", color},
@@ -45,7 +47,7 @@ constexpr option_field fields[] = {
     {"FogUseBkColor", boolean, 29},
     {"FogStartDist", real, 29},
     {"FogEndDist", real, 29},
-    {nullptr, integer, 30}, // fog hint
+    {nullptr, integer, 30, always, "fog hint"},
     {"EdgeType", integer, 31},
     {"DisplaySketchAxes", boolean, 31},
     {"DisplayText", boolean, 31},
@@ -66,19 +68,19 @@ constexpr option_field fields[] = {
     {"SectionDefaultFillColor", color, 37},
     {"SectionCutFilled", boolean, 37},
     {"TransparencySort", integer},
-    {nullptr, boolean},         // draws soft edges
-    {nullptr, real},            // soft limit, radians
-    {nullptr, boolean},         // draws smooth edges
+    {nullptr, boolean, 0, always, "soft edges"},
+    {nullptr, real, 0, always, "soft limit"},
+    {nullptr, boolean, 0, always, "smooth edges"},
     {nullptr, boolean, 23, 24}, // mipmapping
     {nullptr, boolean, 33, 33},
     {"LockedColor", color, 27},
     {"DisplayWatermarks", boolean, 32},
-    {nullptr, real, 35}, // X-ray opacity
+    {nullptr, real, 35, always, "X-ray opacity"},
     {"DrawBackEdges", boolean, 36},
-    {nullptr, boolean, 36}, // photo background shown
-    {nullptr, real, 36},    // its opacity
-    {nullptr, boolean, 36}, // photo overlay shown
-    {nullptr, real, 36},    // its opacity
+    {nullptr, boolean, 36, always, "photo background"},
+    {nullptr, real, 36, always, "photo background opacity"},
+    {nullptr, boolean, 36, always, "photo overlay"},
+    {nullptr, real, 36, always, "photo overlay opacity"},
 };
 
 } // namespace

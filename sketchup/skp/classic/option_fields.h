@@ -25,6 +25,7 @@ struct option_field {
     option_type type;
     int from = 0; // the layouts that have the field
     int until = std::numeric_limits<int>::max();
+    const char* setting = nullptr; // what model/usual_options.h calls a field without a name, if it has a usual value
 
     bool is_in(int layout) const { return layout >= from && layout <= until; }
 };

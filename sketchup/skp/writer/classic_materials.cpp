@@ -22,15 +22,17 @@ void write_picture(classic_output& c, const sketchup::picture& picture) {
         out.u32(picture.quality);
 }
 
-void write_texture(classic_output& c, const sketchup::texture& texture) {
+// Of a material that has one.
+void write_texture(classic_output& c, const sketchup::material& m) {
     object_archive& out = c.out;
+    const sketchup::texture& texture = c.model.textures[m.texture];
     write_entity(c, texture);
     const sketchup::picture* picture = texture.picture == no_index ? nullptr : &c.model.pictures[texture.picture];
     out.object("CDib", picture, [&] { write_picture(c, *picture); });
     out.f64(texture.width);
     out.f64(texture.height);
     out.str(texture.file_name);
-    out.rgba(texture.average_color);
+    out.rgba(written_average_color(c.model, m));
 }
 
 void write_layer(classic_output& c, const sketchup::layer& layer) {
@@ -79,7 +81,7 @@ void write_material(classic_output& c, const sketchup::material& m) {
     out.str(m.name);
     out.boolean(m.texture != no_index);
     if (m.texture != no_index)
-        write_texture(c, c.model.textures[m.texture]);
+        write_texture(c, m);
     out.boolean(m.is_private);
     out.rgba(m.color);
     out.str({});

@@ -3,6 +3,7 @@
 #include "sketchup/skp/writer/classic_bodies.h"
 
 #include "sketchup/skp/classic/option_fields.h"
+#include "sketchup/skp/writer/written_cameras.h"
 #include "sketchup/skp/writer/written_lists.h"
 
 namespace skp {
@@ -56,7 +57,7 @@ void write_scene(classic_output& c, const sketchup::scene& scene) {
     }
 }
 
-// The value of an option of that type: the model's, else the usual one, else zero.
+// The value of an option of that type: the model's, else the usual one, else zero. name: null gives zero.
 template<class T>
 T option_value(const sketchup::rendering_options& options, const char* name) {
     const sketchup::typed_value* value = name == nullptr ? nullptr : written_option(options, name);
@@ -66,18 +67,19 @@ T option_value(const sketchup::rendering_options& options, const char* name) {
 
 void write_option(object_archive& out, const option_field& field, const sketchup::rendering_options& options,
                   const sketchup::shadow_info& shadows) {
+    const char* name = field.name != nullptr ? field.name : field.setting;
     switch (field.type) {
     case option_type::integer:
-        out.u32(static_cast<std::uint32_t>(option_value<std::int64_t>(options, field.name)));
+        out.u32(static_cast<std::uint32_t>(option_value<std::int64_t>(options, name)));
         break;
     case option_type::boolean:
-        out.boolean(option_value<bool>(options, field.name));
+        out.boolean(option_value<bool>(options, name));
         break;
     case option_type::color:
-        out.rgba(option_value<sketchup::rgba>(options, field.name));
+        out.rgba(option_value<sketchup::rgba>(options, name));
         break;
     case option_type::real:
-        out.f64(option_value<double>(options, field.name));
+        out.f64(option_value<double>(options, name));
         break;
     case option_type::shadows:
         out.boolean(shadows.display_shadows);
@@ -91,8 +93,9 @@ void write_option(object_archive& out, const option_field& field, const sketchup
 
 } // namespace
 
-void write_camera(classic_output& c, const sketchup::camera& camera) {
+void write_camera(classic_output& c, const sketchup::camera& of_model) {
     object_archive& out = c.out;
+    const sketchup::camera camera = written_camera(of_model);
     out.v3(camera.eye);
     out.v3(camera.target);
     out.v3(camera.up);

@@ -23,8 +23,13 @@ inline constexpr std::uint32_t scene_keeps_section_planes = 64;
 // a list of layers or planes also when it is not empty.
 std::uint32_t written_flags(const sketchup::scene& scene);
 
-// The value of a rendering option: the one that is set, else the usual one, else null.
+// The value of a rendering option: the one that is set, else the usual one, else null. name: that of the interface, or
+// of a setting that it does not show (model/usual_options.h).
 const sketchup::typed_value* written_option(const sketchup::rendering_options& options, std::string_view name);
+
+// The average colour of the material's texture: the one that is set, else that of the picture as it is shown, else,
+// where the picture cannot be decoded, the material's own. Never zero. material: has a texture.
+sketchup::rgba written_average_color(const sketchup::model& m, const sketchup::material& material);
 
 // The materials of the model's list: those of the host's list in its order, then the private ones of images, which the
 // program does not show. Those of layers are stored with their layers.
