@@ -2,12 +2,12 @@
 
 #include "tessaline/materials/material_file.h"
 
+#include "tests/support/page_examples.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/tessaline/stream_text.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
 
@@ -143,24 +143,13 @@ TEST(MaterialFile, of_a_record_that_nobody_filled_has_the_defaults) {
                                }));
 }
 
-// The indented lines of the page.
-std::string example_in(const std::string& page) {
-    std::istringstream text(page);
-    std::string example;
-    for (std::string line; std::getline(text, line);)
-        if (line.starts_with("    "))
-            example += line.substr(4) + "\r\n";
-    return example;
-}
-
 TEST(MaterialFile, of_a_plain_material_is_the_example_of_the_documentation) {
     cl_material_params params;
     params.display_name = params.orig_name = "R&D";
     params.color = 200U | 100U << 8U | 50U << 16U;
     params.refraction = 1;
     params.color_strength = params.bump_strength = 0;
-    EXPECT_EQ(file_of(params, "COL%3a0012_R%26D.OrnMaterial"),
-              example_in(text_of_file(std::string(TESSALINE_SOURCE_DIR) + "/docs/material-file.md")));
+    EXPECT_EQ(file_of(params, "COL%3a0012_R%26D.OrnMaterial"), page_examples("material-file.md", "## Lines").at(0));
 }
 
 TEST(MaterialFile, a_glow_of_a_quarter_has_425_lumens_whatever_else_was_said) {

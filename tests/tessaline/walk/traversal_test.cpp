@@ -4,6 +4,7 @@
 
 #include "sketchup/api/handles.h"
 #include "sketchup/skp/link.h"
+#include "tests/support/page_examples.h"
 
 #include <algorithm>
 #include <utility>
@@ -30,6 +31,15 @@ TEST_F(Traversal, an_empty_model_gives_eleven_lines) {
     EXPECT_THAT(stream_lines(),
                 ElementsAre("#;Tessaline Geometry, new extractor", "#;01/01/1970  00:00:00 GMT", "DFFC;ffffff",
                             "DFBC;ffffff", "DFEC;000000", "#;", "#;", "PASS;0", "#;", "#;", "END;"));
+}
+
+TEST_F(Traversal, a_square_in_a_group_is_the_example_of_the_documentation) {
+    model_builder m;
+    m.root().group().square(10);
+    std::string body_text;
+    for (const std::string& line : body_of(m))
+        body_text += line + "\r\n";
+    EXPECT_EQ(body_text, page_examples("geometry-stream.md").at(0));
 }
 
 TEST_F(Traversal, groups_come_before_instances_and_instances_before_faces) {
