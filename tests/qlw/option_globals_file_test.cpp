@@ -3,6 +3,7 @@
 #include "qlw/option_globals_file.h"
 
 #include "settings_fixture.h"
+#include "tests/support/page_examples.h"
 #include "tests/support/temporary_folder.h"
 
 namespace {
@@ -267,6 +268,27 @@ TEST_F(OptionGlobalsFile, a_file_that_is_not_open_is_reported) {
                 testing::StartsWith("Tessaline - Error: Options Global FIle not found\n\n    (VER: "));
     EXPECT_THAT(trace.take(), ElementsAre(traced_line{"qlw_globals", "write_option_globals_to_open_file",
                                                       "*** ERROR: Options Global FIle not found"}));
+}
+
+TEST_F(OptionGlobalsFile, the_example_of_the_documentation_is_read_and_written_as_it_says) {
+    const std::vector<std::string> examples = page_examples("option-file.md");
+    ASSERT_EQ(examples.size(), 2u);
+    EXPECT_TRUE(changes(examples[0]));
+    EXPECT_EQ(get_global_int("ivl_resy"), 600);
+    EXPECT_FALSE(get_global_bool("bvl_show_bulbs"));
+    EXPECT_EQ(get_global_double("rvl_edge_line_width"), 1.5);
+    EXPECT_EQ(get_global_COLORREF("cvl_layer_color"), 255u);
+    EXPECT_EQ(get_global_string("scomm_note"), "C:\\rooms; attic");
+    EXPECT_EQ(get_global_fpt("pcomm_origin"), (fpt{1, 2.5, -3}));
+
+    const std::string text = "\r\n" + written();
+    std::size_t at = 0;
+    std::istringstream wanted(examples[1]);
+    for (std::string line; std::getline(wanted, line);) {
+        const std::size_t found = text.find("\r\n" + line + '\n', at);
+        ASSERT_NE(found, std::string::npos) << line << " does not follow";
+        at = found + line.size();
+    }
 }
 
 } // namespace
