@@ -2,6 +2,7 @@
 
 #include "tessaline/plants/skatter_file.h"
 
+#include "tests/support/page_examples.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/trace_capture.h"
 
@@ -79,6 +80,17 @@ TEST_F(SkatterFile, one_that_cannot_be_opened_has_no_lines_and_nobody_is_told) {
     EXPECT_FALSE(is_used);
     EXPECT_EQ(skatter_line_count(batch / "missing.txt"), 0u);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(SkatterFile, the_example_of_the_documentation_is_read_as_it_says) {
+    const auto placements = read(page_examples("scatter-file.md").at(0));
+    ASSERT_EQ(placements.size(), 3u);
+    EXPECT_EQ(placements[0].definition_name, "Tuft");
+    EXPECT_EQ(placements[0].transform, (transform16{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 30, 40, 0, 1}));
+    EXPECT_EQ(placements[1].definition_name, "Tuft");
+    EXPECT_EQ(placements[1].transform, (transform16{2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 1}));
+    EXPECT_EQ(placements[2].definition_name, "Pebble; grey");
+    EXPECT_EQ(placements[2].transform, (transform16{1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0.5, 1}));
 }
 
 } // namespace

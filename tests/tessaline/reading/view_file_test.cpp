@@ -4,6 +4,8 @@
 
 #include "tests/tessaline/run_fixture.h"
 
+#include "tests/support/page_examples.h"
+
 namespace {
 
 using sketchup::model_builder;
@@ -168,6 +170,18 @@ TEST(ViewFile, a_file_that_cannot_be_read_gives_no_view) {
     batch.make_folder("zyn_view.txt");
     batch.write("zyn_pages.txt", "FOV;45\n"); // not asked: the other one exists
     EXPECT_EQ(read_view_file(batch.name()).field_of_view, 0);
+}
+
+TEST(ViewFile, the_example_of_the_documentation_is_read_as_it_says) {
+    temporary_folder batch;
+    batch.write("zyn_view.txt", page_examples("view-file.md").at(0));
+    const camera_view view = read_view_file(batch.name());
+    EXPECT_EQ(view.camera_type, "perspective");
+    EXPECT_EQ(view.eye, (fpt{7.62, -7.62, 5.08}));
+    EXPECT_EQ(view.target, (fpt{7.62, 6.096, 0.508}));
+    EXPECT_EQ(view.field_of_view, 40);
+    EXPECT_EQ(view.pixel_width, 600);
+    EXPECT_EQ(view.pixel_height, 420);
 }
 
 class ViewOfARun : public run_fixture {};
