@@ -2,6 +2,7 @@
 #include "sketchup/skp/format_error.h"
 #include "sketchup/skp/read_model.h"
 #include "tests/sketchup/skp/classic/classic_bytes.h"
+#include "tests/support/page_examples.h"
 
 #include <gtest/gtest.h>
 
@@ -198,4 +199,22 @@ TEST(ClassicGeometry, every_cut_of_a_face_is_refused) {
         EXPECT_THROW(skp::read_model({file.begin(), file.begin() + static_cast<std::ptrdiff_t>(size)}),
                      skp::format_error)
             << size;
+}
+
+TEST(ClassicGeometry, the_edge_of_the_documentation_is_read_as_it_says) {
+    constexpr int with_persistent_ids = 5;
+    small_model small(with_persistent_ids);
+    small.entities.bytes = page_bytes("skp-classic.md");
+    const auto m = skp::read_model(small.file());
+    ASSERT_EQ(m->root.edges.size(), 1u);
+    const sketchup::edge& e = m->edges[m->root.edges[0]];
+    EXPECT_EQ(e.persistent_id, 298);
+    EXPECT_FALSE(e.hidden);
+    EXPECT_TRUE(e.casts_shadows);
+    EXPECT_TRUE(e.receives_shadows);
+    EXPECT_TRUE(e.soft);
+    EXPECT_TRUE(e.smooth);
+    EXPECT_EQ(e.curve, sketchup::no_index);
+    EXPECT_EQ(m->vertices[e.start].position, (sketchup::vec3{0, 0, 0}));
+    EXPECT_EQ(m->vertices[e.end].position, (sketchup::vec3{1, 0, 0}));
 }

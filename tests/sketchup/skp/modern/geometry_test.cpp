@@ -1,6 +1,7 @@
 // Vertices, edges, curves and faces of the archive container.
 
 #include "tests/sketchup/skp/modern/record_bytes.h"
+#include "tests/support/page_examples.h"
 
 #include <gtest/gtest.h>
 
@@ -212,4 +213,18 @@ TEST(ModernGeometry, ids_follow_the_order_of_the_file) {
     EXPECT_EQ(m->vertices[3].id, m->vertices[0].id + 3);
     EXPECT_EQ(m->edges[0].id, m->vertices[3].id + 1);
     EXPECT_EQ(m->faces[0].id, m->edges[3].id + 1);
+}
+
+TEST(ModernGeometry, the_edge_of_the_documentation_is_read_as_it_says) {
+    const auto m = read_lists(page_bytes("skp-modern.md"));
+    ASSERT_EQ(m->root.edges.size(), 1u);
+    const sketchup::edge& e = m->edges[m->root.edges[0]];
+    EXPECT_EQ(e.persistent_id, 298);
+    EXPECT_FALSE(e.hidden);
+    EXPECT_TRUE(e.casts_shadows);
+    EXPECT_TRUE(e.receives_shadows);
+    EXPECT_TRUE(e.soft);
+    EXPECT_TRUE(e.smooth);
+    EXPECT_EQ(m->vertices[e.start].position, (vec3{0, 0, 0}));
+    EXPECT_EQ(m->vertices[e.end].position, (vec3{1, 0, 0}));
 }
