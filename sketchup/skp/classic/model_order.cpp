@@ -1,4 +1,8 @@
 // The body of a classic file from the version map to the last byte: which part follows which, and since when.
+//
+// The numbers of CSketchUpModel and the releases that write them: 10 is SketchUp 3, 12 is said to be 4 and 5, 18 is 6,
+// 21 and 22 are 7, 22 is 8 and 2013, 24 is 2014 and 2015, 25 is 2016, 26 is 2017, 28 is 2018, 29 is 2019 and 2020. No
+// release is known for the others, so a condition here may lie anywhere between two of these.
 
 #include "sketchup/skp/classic/model_reader.h"
 

@@ -1,5 +1,10 @@
 // What the drawing looks like beyond the rendering options: styles, watermarks, backgrounds, options of the units and
 // the like. Nothing of it is kept; it is read for the slots that its objects take.
+//
+// Numbers and releases: CTextStyle is 4 in SketchUp 3 and 5 since 6. CDimensionStyle is 4, CWatermark 1 and
+// CSchemaZipFile, which came with 2014, 1 in all of them. CSkpStyle, which came with 6, is 1, and 2 in some files of
+// 2020, with one layout; the form that each style states for itself is 3 in all files at hand, that of sketchy edges 2.
+// CBackgroundImage is 1 in 6, 6 or 9 in 7 and 10 since 8; what is read is 10.
 
 #include "sketchup/skp/classic/model_reader.h"
 #include "sketchup/skp/classic/typed_values.h"
