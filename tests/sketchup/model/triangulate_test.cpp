@@ -4,6 +4,7 @@
 #include "sketchup/model/face_area.h"
 #include "sketchup/model/loop_corners.h"
 #include "sketchup/model/vector_math.h"
+#include "tests/sketchup/model/print_points.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,10 +16,6 @@
 #include <random>
 
 namespace sketchup {
-
-void PrintTo(const vec3& p, std::ostream* out) {
-    *out << "(" << p.x << ", " << p.y << ", " << p.z << ")";
-}
 
 namespace {
 
