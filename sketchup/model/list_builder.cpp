@@ -1,5 +1,6 @@
 // How geometry and placements enter an entity list that is being built.
 
+#include "sketchup/model/area_vector.h"
 #include "sketchup/model/model_builder.h"
 #include "sketchup/model/vector_math.h"
 
@@ -10,19 +11,6 @@
 namespace sketchup {
 
 namespace {
-
-// Newell's sum: twice the area vector of a closed polygon.
-vec3 area_vector(std::span<const vec3> points) {
-    vec3 sum;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const vec3& p = points[i];
-        const vec3& q = points[(i + 1) % points.size()];
-        sum.x += (p.y - q.y) * (p.z + q.z);
-        sum.y += (p.z - q.z) * (p.x + q.x);
-        sum.z += (p.x - q.x) * (p.y + q.y);
-    }
-    return sum;
-}
 
 plane plane_of(std::span<const vec3> outline) {
     const vec3 normal = normalized_or(area_vector(outline), {0, 0, 1});
