@@ -5,12 +5,11 @@
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/walk/SketchUpReader.h"
+#include "tests/support/temporary_folder.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -38,11 +37,7 @@ std::vector<std::uint8_t> tiny_bmp() {
 
 class painted_batch {
 public:
-    explicit painted_batch(paint kind)
-        : folder((std::filesystem::temp_directory_path() /
-                  ("tessaline_bench_materials_" + std::to_string(static_cast<int>(kind))))
-                     .string()) {
-        std::filesystem::create_directories(folder);
+    explicit painted_batch(paint kind) {
         sketchup::model_builder m;
         m.attribute(m.root().list(), "qlw_globals", "ivl_2_sided_faces", sketchup::whole_number(0));
         const std::vector<sketchup::index> materials = materials_of(m, kind);
@@ -60,17 +55,10 @@ public:
                 }
         }
         const auto bytes = skp::write_classic(*m.finish(), skp::classic_version::v17);
-        std::ofstream(folder + "/geometry.qlm", std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        folder.write("geometry.qlm", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     }
-    ~painted_batch() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
-    }
-    painted_batch(const painted_batch&) = delete;
-    painted_batch& operator=(const painted_batch&) = delete;
 
-    const std::string folder;
+    const temporary_folder folder;
 
 private:
     static std::vector<sketchup::index> materials_of(sketchup::model_builder& m, paint kind) {
@@ -89,7 +77,7 @@ void convert(benchmark::State& state, paint kind) {
     for (auto _ : state) {
         reset_process();
         SketchUpReader reader;
-        benchmark::DoNotOptimize(reader.ReadSkpFile(made.folder + "/geometry.qlm", made.folder + "/batch_file.txt"));
+        benchmark::DoNotOptimize(reader.ReadSkpFile(made.folder / "geometry.qlm", made.folder / "batch_file.txt"));
     }
 }
 

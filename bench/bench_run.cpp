@@ -7,12 +7,12 @@
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/walk/SketchUpReader.h"
+#include "tests/support/temporary_folder.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 namespace {
@@ -22,23 +22,15 @@ constexpr int groups = 833; // of 100 boxes of 12 triangles: 999,600
 constexpr double spacing = 30;
 
 struct batch_folder {
-    batch_folder() : name((std::filesystem::temp_directory_path() / "tessaline_bench_run").string()) {
-        std::filesystem::create_directories(name);
-        model = name + "/geometry.qlm";
+    batch_folder() {
         if (const char* named = std::getenv("TESSALINE_BENCH_MODEL"))
             std::filesystem::copy_file(named, model, std::filesystem::copy_options::overwrite_existing);
         else
             write_boxes();
     }
-    ~batch_folder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(name, ignored);
-    }
-    batch_folder(const batch_folder&) = delete;
-    batch_folder& operator=(const batch_folder&) = delete;
 
-    std::string name;
-    std::string model;
+    const temporary_folder folder;
+    const std::string model = folder / "geometry.qlm";
 
 private:
     void write_boxes() const {
@@ -49,8 +41,7 @@ private:
                 group.box({b * spacing, 0, 0}, {b * spacing + 10.5, 11.25, 12.125});
         }
         const auto bytes = skp::write_classic(*m.finish(), skp::classic_version::v17);
-        std::ofstream(model, std::ios::binary)
-            .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        folder.write("geometry.qlm", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     }
 };
 
@@ -82,13 +73,13 @@ void read_into(benchmark::State& state, const std::string& stream) {
 }
 
 void open_and_walk(benchmark::State& state) {
-    read_into(state, batch().name + "/no such folder/batch_file.txt");
+    read_into(state, batch().folder / "no such folder/batch_file.txt");
 }
 
 void open_walk_and_write(benchmark::State& state) {
-    read_into(state, batch().name + "/batch_file.txt");
+    read_into(state, batch().folder / "batch_file.txt");
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
-                            static_cast<std::int64_t>(std::filesystem::file_size(batch().name + "/batch_file.txt")));
+                            static_cast<std::int64_t>(std::filesystem::file_size(batch().folder / "batch_file.txt")));
 }
 
 BENCHMARK(open_only)->Unit(benchmark::kMillisecond);

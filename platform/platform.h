@@ -169,6 +169,10 @@ bool make_folder(const std::string& name); // the parent must exist; false also 
 bool delete_file(const std::string& name); // a file or a link itself, never a folder
 bool rename_replacing(const std::string& from, const std::string& to); // atomic; an old file `to` is replaced
 
+// Makes a folder that nobody else has or gets, however many ask at once, and that only this user may enter. Its name is
+// `beginning`, a full name whose parent must exist, and six characters more. Gives the name; nothing on failure.
+std::optional<std::string> make_unique_folder(const std::string& beginning);
+
 struct folder_entry {
     std::string name;       // without folder
     bool is_folder = false; // false for a link, whatever it leads to

@@ -73,6 +73,11 @@ bool make_folder(const std::string& name) {
     return mkdir(name.c_str(), 0777) == 0; // the user's mask takes its share
 }
 
+std::optional<std::string> make_unique_folder(const std::string& beginning) {
+    std::string name = beginning + "XXXXXX"; // the call puts its own characters there
+    return mkdtemp(name.data()) ? std::optional(name) : std::nullopt;
+}
+
 bool delete_file(const std::string& name) {
     return unlink(name.c_str()) == 0;
 }

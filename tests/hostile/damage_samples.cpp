@@ -5,6 +5,7 @@
 // with its seed and keeps its input, from which it can be repeated.
 
 #include "platform/platform.h"
+#include "tests/support/temporary_folder.h"
 #include "tools/batch_reading/stream_reader.h"
 
 #include <algorithm>
@@ -73,9 +74,9 @@ std::string wait_for(pid_t child) {
 }
 
 // Runs the program on geometry.qlm of the folder with its messages in the file "messages".
-std::string run(const std::string& program, const fs::path& folder) {
-    const std::string model = (folder / "geometry.qlm").string();
-    const std::string messages = (folder / "messages").string();
+std::string run(const std::string& program, const temporary_folder& folder) {
+    const std::string model = folder / "geometry.qlm";
+    const std::string messages = folder / "messages";
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
@@ -90,8 +91,8 @@ std::string run(const std::string& program, const fs::path& folder) {
     return error != 0 ? "cannot be started" : wait_for(child);
 }
 
-std::string fault_of_stream(const fs::path& folder) {
-    const auto stream = platform::read_file((folder / "batch_file.txt").string(), largest_model * 8);
+std::string fault_of_stream(const temporary_folder& folder) {
+    const auto stream = platform::read_file(folder / "batch_file.txt", largest_model * 8);
     if (!stream)
         return "";
     stream_visitor nothing;
@@ -105,29 +106,35 @@ struct tally {
     std::size_t failed = 0;
 };
 
+// Keeps a file whose conversion failed; gives its new name.
+std::string kept_copy(const std::string& file) {
+    const std::string beginning = platform::absolute_name(platform::temporary_folder()) + "/damaged_model_";
+    const auto made = platform::make_unique_folder(beginning);
+    if (!made)
+        return "nothing: no folder can be made: " + beginning;
+    const std::string kept = *made + "/geometry.qlm";
+    fs::copy_file(file, kept);
+    return kept;
+}
+
 void try_one(const std::string& program, const std::string& what, const bytes& damaged, tally& count) {
-    const fs::path folder = fs::temp_directory_path() / ("damage." + std::to_string(getpid()));
-    fs::remove_all(folder);
-    fs::create_directories(folder);
-    std::ofstream(folder / "geometry.qlm", std::ios::binary)
-        .write(reinterpret_cast<const char*>(damaged.data()), static_cast<std::streamsize>(damaged.size()));
+    const temporary_folder folder;
+    const std::string model =
+        folder.write("geometry.qlm", {reinterpret_cast<const char*>(damaged.data()), damaged.size()});
     std::string fault = run(program, folder);
     if (fault.empty())
         fault = fault_of_stream(folder);
     ++count.runs;
-    count.opened += fs::exists(folder / "batch_file.txt") ? 1 : 0;
+    count.opened += folder.has("batch_file.txt") ? 1 : 0;
     if (!fault.empty()) {
         ++count.failed;
-        const fs::path kept = fs::temp_directory_path() / ("damaged-" + std::to_string(count.failed) + ".skp");
-        fs::copy_file(folder / "geometry.qlm", kept, fs::copy_options::overwrite_existing);
-        std::printf("%s: %s; kept as %s\n", what.c_str(), fault.c_str(), kept.c_str());
+        std::printf("%s: %s; kept as %s\n", what.c_str(), fault.c_str(), kept_copy(model).c_str());
         std::ifstream messages(folder / "messages");
         std::string line;
         for (int i = 0; i < 12 && std::getline(messages, line); ++i)
             std::printf("    %s\n", line.c_str());
         std::fflush(stdout);
     }
-    fs::remove_all(folder);
 }
 
 } // namespace

@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <thread>
+
 namespace {
 
 using testing::ElementsAre;
@@ -67,6 +70,38 @@ TEST(FileSystem, makes_one_folder_at_a_time) {
     EXPECT_FALSE(platform::make_folder(folder / "a"));
     EXPECT_TRUE(platform::make_folder(folder / "a/b"));
     EXPECT_TRUE(platform::is_folder(folder / "a/b"));
+}
+
+TEST(FileSystem, a_unique_folder_is_new_empty_and_for_this_user_only) {
+    const temporary_folder folder;
+    const auto first = platform::make_unique_folder(folder / "a_");
+    const auto second = platform::make_unique_folder(folder / "a_");
+    ASSERT_TRUE(first && second);
+    EXPECT_NE(*first, *second);
+    for (const std::string& name : {*first, *second}) {
+        EXPECT_TRUE(name.starts_with(folder / "a_"));
+        EXPECT_EQ(name.size(), (folder / "a_").size() + 6);
+        EXPECT_EQ(platform::list_folder(name)->size(), 0u);
+        EXPECT_EQ(std::filesystem::status(name).permissions(), std::filesystem::perms::owner_all);
+    }
+    EXPECT_FALSE(platform::make_unique_folder(folder / "missing/a_").has_value());
+}
+
+TEST(FileSystem, unique_folders_that_come_and_go_at_once_never_fail_one_another) {
+    const temporary_folder folder;
+    std::atomic<int> made = 0;
+    const auto make_and_remove = [&] {
+        for (int i = 0; i < 300; ++i)
+            if (const auto name = platform::make_unique_folder(folder / "a_"))
+                made += std::filesystem::remove(*name) ? 1 : 0;
+    };
+    {
+        std::vector<std::jthread> makers;
+        for (int i = 0; i < 4; ++i)
+            makers.emplace_back(make_and_remove);
+    }
+    EXPECT_EQ(made, 4 * 300);
+    EXPECT_TRUE(platform::list_folder(folder.name())->empty());
 }
 
 TEST(FileSystem, deletes_files_and_links_but_no_folders) {

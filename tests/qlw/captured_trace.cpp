@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
 #include <ostream>
-#include <random>
 
 namespace {
 
@@ -31,8 +29,7 @@ void PrintTo(const traced_line& line, std::ostream* out) {
     *out << line.source << ", " << line.function << ": " << line.text;
 }
 
-captured_trace::captured_trace()
-    : log_name(testing::TempDir() + "captured_trace_" + std::to_string(std::random_device()()) + ".txt") {
+captured_trace::captured_trace() {
     empty_file(log_name);
     cl_trace_state& state = trace_state();
     state.trace_enabled = true;
@@ -49,7 +46,6 @@ captured_trace::~captured_trace() {
     state.log_always = false;
     state.log_file_is_new = true;
     state.log_file_name.clear();
-    std::remove(log_name.c_str());
 }
 
 std::vector<traced_line> captured_trace::take() {

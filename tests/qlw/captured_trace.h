@@ -2,6 +2,8 @@
 
 // What was reported while the object lives: tracing is enabled and every line goes to a log file of the test's own.
 
+#include "tests/support/temporary_folder.h"
+
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -27,5 +29,6 @@ public:
     std::vector<traced_line> take();
 
 private:
-    std::string log_name;
+    const temporary_folder folder;
+    const std::string log_name = folder / "trace.txt";
 };

@@ -137,7 +137,7 @@ TEST_F(ClearFolder, a_bare_word_is_refused_even_if_it_names_a_folder) {
 constexpr const char* guard_ending = ".tessaline_guard";
 
 TEST_F(ClearFolder, the_root_and_a_folder_in_it_are_refused) {
-    const std::string top = *platform::real_name(std::filesystem::temp_directory_path().string());
+    const std::string top = *platform::real_name(folder.name());
     const std::string below_root = top.substr(0, top.find('/', 1));
     folder.write("a.tessaline_guard", "");
     for (const std::string& name : {std::string("/"), below_root, below_root + "/", below_root + "/.."})

@@ -2,9 +2,12 @@
 
 // A folder of its own for each test, and files in it.
 
+#include "platform/platform.h"
+
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -17,11 +20,13 @@ inline std::string text_of_file(const std::string& path) {
 
 class temporary_folder {
 public:
+    // Throws if the folder cannot be made: no test can go on without it.
     temporary_folder() {
-        const std::string base = std::filesystem::temp_directory_path().string() + "/tessaline_test_";
-        for (unsigned number = 0; folder.empty(); number++)
-            if (std::filesystem::create_directory(base + std::to_string(number)))
-                folder = base + std::to_string(number);
+        const std::string beginning = platform::absolute_name(platform::temporary_folder()) + "/tessaline_test_";
+        const auto made = platform::make_unique_folder(beginning);
+        if (!made)
+            throw std::runtime_error("no folder can be made: " + beginning);
+        folder = *made;
     }
     temporary_folder(const temporary_folder&) = delete;
     temporary_folder& operator=(const temporary_folder&) = delete;

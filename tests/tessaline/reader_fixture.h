@@ -70,11 +70,12 @@ protected:
     // What the stream holds; it is closed afterwards.
     std::string stream_text() {
         reader.stream.close();
-        return file_text(stream_name);
+        return text_of_file(stream_name);
     }
 
-    const std::string stream_name = test_file_name();
-    temporary_folder batch; // where lamps, materials and pictures go
+    temporary_folder batch;   // where lamps, materials and pictures go
+    temporary_folder outside; // for what does not belong among them
+    const std::string stream_name = outside / "stream.txt";
     SketchUpReader reader;
     sketchup::model_builder builder;
 };

@@ -204,7 +204,7 @@ TEST_F(TextureExport, the_picture_of_a_distorted_side_is_the_straightened_one) {
     EXPECT_NE(straightened, gradient(16, 8));
     const std::string wanted = (batch / "wanted.png");
     SUTextureWriterWriteTexture(texture_writer, 1, wanted.c_str(), false);
-    EXPECT_EQ(file_text(wanted), file_text(picture("TX0007_Brick.PNG")));
+    EXPECT_EQ(text_of_file(wanted), text_of_file(picture("TX0007_Brick.PNG")));
 }
 
 TEST_F(TextureExport, the_straightening_is_traced) {
@@ -220,7 +220,7 @@ TEST_F(TextureExport, a_straightened_picture_falls_back_to_a_straightened_jpeg) 
     EXPECT_EQ(format_of_picture("TX0012.jpg"), picture_format::jpeg);
     const std::string wanted = (batch / "wanted.jpg");
     SUTextureWriterWriteTexture(texture_writer, 1, wanted.c_str(), false);
-    EXPECT_EQ(file_text(wanted), file_text(picture("TX0012.jpg")));
+    EXPECT_EQ(text_of_file(wanted), text_of_file(picture("TX0012.jpg")));
 }
 
 TEST_F(TextureExport, a_distorted_side_without_a_writer_leaves_the_last_path) {

@@ -10,6 +10,8 @@
 #include <filesystem>
 #include <utility>
 
+#include <sys/stat.h>
+
 namespace {
 
 using sketchup::model_builder;
@@ -45,6 +47,7 @@ protected:
 
     std::vector<std::string> messages_of_run_without_rights() {
         set_writable(false);
+        chmod(batch.name().c_str(), 0555);
         const ordinary_user nobody;
         return messages_of_run();
     }

@@ -213,12 +213,12 @@ TEST(GeometryStream, a_closed_stream_drops_all_records) {
     write_one_of_each(stream);
     stream.write_stream_line("%d", 1);
     stream.write_plant({});
-    const std::string name = test_file_name();
-    stream.open(name.c_str(), "Tessaline");
+    const temporary_folder folder;
+    stream.open((folder / "stream.txt").c_str(), "Tessaline");
     stream.write_end();
     stream.close();
     stream.write_end();
-    EXPECT_EQ(file_text(name), lines({"#;", "END;"}));
+    EXPECT_EQ(folder.read("stream.txt"), lines({"#;", "END;"}));
 }
 
 TEST(GeometryStream, the_mode_AcMarevo_makes_an_empty_file) {
@@ -228,14 +228,19 @@ TEST(GeometryStream, the_mode_AcMarevo_makes_an_empty_file) {
 }
 
 TEST(GeometryStream, an_old_file_of_that_name_is_replaced) {
-    written_by(write_one_of_each);
-    EXPECT_EQ(written_by([](geometry_stream& s) { s.write_end(); }), lines({"#;", "END;"}));
+    const temporary_folder folder;
+    const std::string name = folder.write("stream.txt", "a stream that is longer than the new one");
+    geometry_stream stream;
+    stream.open(name.c_str(), "Tessaline");
+    stream.write_end();
+    stream.close();
+    EXPECT_EQ(folder.read("stream.txt"), lines({"#;", "END;"}));
 }
 
 TEST(GeometryStream, a_file_that_cannot_be_made_leaves_the_stream_closed) {
     geometry_stream stream;
-    const std::string name = testing::TempDir() + "no_such_folder/stream.txt";
-    stream.open(name.c_str(), "Tessaline");
+    const temporary_folder folder;
+    stream.open((folder / "no_such_folder/stream.txt").c_str(), "Tessaline");
     EXPECT_FALSE(stream.is_open());
     write_one_of_each(stream);
     stream.close();

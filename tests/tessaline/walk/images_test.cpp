@@ -263,7 +263,7 @@ TEST_F(Images, the_extraction_log_names_picture_layer_and_place) {
     trace_state().extraction_log.open(log_name, quiet_open);
     place(2, 2, moved({1, 2, 3}));
     process();
-    EXPECT_EQ(file_text(log_name), "Image: Tree.png,  layer: Layer0, loc: (1, 2, 3.5)\r\n") << "it was flushed";
+    EXPECT_EQ(text_of_file(log_name), "Image: Tree.png,  layer: Layer0, loc: (1, 2, 3.5)\r\n") << "it was flushed";
     trace_state().extraction_log.close();
 }
 
@@ -273,7 +273,7 @@ TEST_F(Images, the_extraction_log_stays_empty_while_its_setting_is_off) {
     trace_state().extraction_log.open(log_name, quiet_open);
     place(2, 2);
     process();
-    EXPECT_EQ(file_text(log_name), "");
+    EXPECT_EQ(text_of_file(log_name), "");
     trace_state().extraction_log.close();
 }
 
