@@ -186,9 +186,9 @@ std::optional<std::vector<folder_entry>> list_folder(const std::string& name);
 // ---- files (file.cpp)
 
 enum class open_mode {
-    read,   // must exist and be no folder
-    write,  // made or emptied
-    append, // made if missing, positioned at the end
+    read,   // must exist and be a plain file: a pipe or a device could keep the reader for ever
+    write,  // made or emptied; a device is written to
+    append, // made if missing, positioned at the end; a device is written to
 };
 
 // An open file of plain bytes: no buffer, no line ends changed. Where the system knows sharing modes, others may read
@@ -202,7 +202,8 @@ public:
     file& operator=(const file&) = delete;
     ~file();
 
-    // Closes what was open and opens another file. False on failure, with the system's words in failure().
+    // Closes what was open and opens another file. Never waits: a pipe that nobody reads cannot be opened for writing.
+    // False on failure, with the system's words in failure(), or "Not a plain file".
     bool open(const std::string& name, open_mode mode);
     bool is_open() const { return handle != closed; }
 

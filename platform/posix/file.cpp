@@ -34,12 +34,20 @@ std::string words_for(int error) {
     return std::generic_category().message(error);
 }
 
-// 0, or the error number that says why the descriptor is of no use: reading a folder opens without complaint.
-int error_of_folder(int descriptor) {
+// Why the descriptor is of no use for the mode; empty if it is of use.
+std::string fault_of(int descriptor, open_mode mode) {
     struct stat status;
     if (fstat(descriptor, &status) != 0)
-        return errno;
-    return S_ISDIR(status.st_mode) ? EISDIR : 0;
+        return words_for(errno);
+    if (S_ISDIR(status.st_mode))
+        return words_for(EISDIR); // reading one opens without complaint
+    return mode == open_mode::read && !S_ISREG(status.st_mode) ? "Not a plain file" : "";
+}
+
+// Only opening must not wait: bytes for a pipe may wait until its reader has taken those before.
+bool let_writing_wait(int descriptor) {
+    const int flags = fcntl(descriptor, F_GETFL);
+    return flags >= 0 && fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) == 0;
 }
 
 } // namespace
@@ -65,14 +73,16 @@ bool file::open(const std::string& name, open_mode mode) {
     failure_text.clear();
     int descriptor = -1;
     do {
-        descriptor = ::open(name.c_str(), flags_of(mode) | O_CLOEXEC, 0666);
+        descriptor = ::open(name.c_str(), flags_of(mode) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
     } while (descriptor < 0 && errno == EINTR);
     if (descriptor < 0) {
         failure_text = words_for(errno);
         return false;
     }
-    if (const int error = error_of_folder(descriptor)) {
-        failure_text = words_for(error);
+    failure_text = fault_of(descriptor, mode);
+    if (failure_text.empty() && !let_writing_wait(descriptor))
+        failure_text = words_for(errno);
+    if (!failure_text.empty()) {
         ::close(descriptor);
         return false;
     }

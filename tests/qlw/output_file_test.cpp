@@ -130,16 +130,20 @@ TEST(OutputFile, the_write_test_finds_a_file_that_cannot_be_opened_again) {
     EXPECT_FALSE(file.is_open());
 }
 
+// The file of the process's own name keeps 15 bytes; what is written for the test is longer.
 TEST(OutputFile, the_write_test_finds_a_file_that_forgets_what_is_written) {
+    const std::string name = "/proc/self/comm";
+    const std::string before = text_of_file(name);
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open("/dev/null", write_test)); }),
-              "Tessaline - Error: Cannot create file: '/dev/null'. Unable to write to, and then re-read file\n\nMake "
-              "sure that the file path exists and that the file is not in use by another program.");
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(name, write_test)); }),
+              "Tessaline - Error: Cannot create file: '/proc/self/comm'. Unable to write to, and then re-read file\n\n"
+              "Make sure that the file path exists and that the file is not in use by another program.");
     EXPECT_FALSE(file.is_open());
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#):: *** ERROR: Cannot create file: '/dev/null'. Unable to write to, and then re-read "
+              "qlw_std(#):: *** ERROR: Cannot create file: '/proc/self/comm'. Unable to write to, and then re-read "
               "file\n\nMake sure that the file path exists and that the file is not in use by another program.\n");
+    std::ofstream(name) << before;
 }
 
 TEST(OutputFile, formatted_text_ends_its_lines_with_cr_lf) {
