@@ -52,6 +52,7 @@ typedef struct { void* ptr; } SUTextureRef;
 typedef struct { void* ptr; } SUTextureWriterRef;
 typedef struct { void* ptr; } SUUVHelperRef;
 typedef struct { void* ptr; } SUMeshHelperRef;
+typedef struct { void* ptr; } SUOpeningRef;
 typedef struct { void* ptr; } SUAttributeDictionaryRef;
 typedef struct { void* ptr; } SUTypedValueRef;
 typedef struct { void* ptr; } SUCameraRef;
@@ -360,6 +361,17 @@ enum SUResult SUFaceGetArea(SUFaceRef face, double* area);
 // that the writer writes for that side.
 enum SUResult SUFaceGetUVHelper(SUFaceRef face, bool front, bool back, SUTextureWriterRef writer,
                                 SUUVHelperRef* helper);
+
+// The holes that groups and component instances which cut openings make in the face that they are glued to, in the
+// order of the file: whole outlines, also where they reach over the face. Hidden ones, and those on a layer that is
+// off, make none. Each opening handed out is the caller's to release, and lasts till then.
+enum SUResult SUFaceGetNumOpenings(SUFaceRef face, size_t* count);
+enum SUResult SUFaceGetOpenings(SUFaceRef face, size_t len, SUOpeningRef openings[], size_t* count);
+
+// The corners of an opening in the space of the face's list, the last not repeated, running against the face's outline.
+enum SUResult SUOpeningGetNumPoints(SUOpeningRef opening, size_t* count);
+enum SUResult SUOpeningGetPoints(SUOpeningRef opening, size_t len, struct SUPoint3D points[], size_t* count);
+enum SUResult SUOpeningRelease(SUOpeningRef* opening);
 
 // ---- Texture coordinates ----------------------------------------------------------------------------------------
 

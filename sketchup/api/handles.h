@@ -69,6 +69,7 @@ template<> struct handle_traits<SUStringRef> : provider_handle<string_object> {}
 template<> struct handle_traits<SUTypedValueRef> : provider_handle<typed_value_object> {};
 template<> struct handle_traits<SUUVHelperRef> : provider_handle<uv_helper> {};
 template<> struct handle_traits<SUMeshHelperRef> : provider_handle<mesh_helper> {};
+template<> struct handle_traits<SUOpeningRef> : provider_handle<opening_object> {};
 template<> struct handle_traits<SUTextureWriterRef> : provider_handle<texture_writer> {};
 // clang-format on
 

@@ -17,7 +17,15 @@
 namespace sketchup::api {
 
 // Stands where the structs of a model have their entity_kind, with numbers that no entity has.
-enum class object_kind : unsigned char { released = 0x80, string, typed_value, uv_helper, mesh_helper, texture_writer };
+enum class object_kind : unsigned char {
+    released = 0x80,
+    string,
+    typed_value,
+    uv_helper,
+    mesh_helper,
+    texture_writer,
+    opening
+};
 static_assert(static_cast<unsigned char>(entity_kind::shadow_info) < 0x80);
 
 struct provider_object {
@@ -66,6 +74,12 @@ struct mesh_helper : provider_object {
         back.reset();
         normals.clear();
     }
+};
+
+struct opening_object : provider_object {
+    static constexpr object_kind live_kind = object_kind::opening;
+    std::vector<vec3> points;
+    void clear() { points.clear(); }
 };
 
 // The textures that a caller has loaded, by id. An id is a position in `loaded` plus 1.

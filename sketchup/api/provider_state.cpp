@@ -9,6 +9,7 @@ namespace sketchup::api {
 namespace {
 
 provider_state the_provider;
+const std::vector<opening> no_openings;
 
 } // namespace
 
@@ -19,6 +20,7 @@ void provider_state::empty() {
     typed_values.empty();
     uv_helpers.empty();
     mesh_helpers.empty();
+    openings.empty();
     texture_writers.empty();
 }
 
@@ -30,6 +32,15 @@ open_model* open_model_of(const model* m) {
     const auto is_it = [m](const std::unique_ptr<open_model>& open) { return open->model.get() == m; };
     const auto found = std::find_if(the_provider.models.begin(), the_provider.models.end(), is_it);
     return found == the_provider.models.end() ? nullptr : found->get();
+}
+
+const std::vector<opening>& openings_of(const face& f) {
+    if (!may_have_openings(f))
+        return no_openings;
+    open_model& open = *open_model_of(f.owner);
+    if (!open.openings)
+        open.openings.emplace(*open.model);
+    return open.openings->of(f);
 }
 
 SUModelRef adopt_model(std::unique_ptr<model> linked) {

@@ -7,6 +7,7 @@
 #include "sketchup/api/object_pool.h"
 #include "sketchup/api/provider_objects.h"
 #include "sketchup/model/bounding_box.h"
+#include "sketchup/model/face_openings.h"
 #include "sketchup/model/model.h"
 #include "sketchup/model/triangulate.h"
 #include "sketchup/model/vertex_normals.h"
@@ -22,8 +23,9 @@ namespace sketchup::api {
 // A model and what was worked out about it so far.
 struct open_model {
     std::unique_ptr<sketchup::model> model;
-    std::optional<vertex_normals> normals;                                                    // for the first mesh
-    std::optional<box_cache> boxes;                                                           // for the first box
+    std::optional<vertex_normals> normals; // for the first mesh
+    std::optional<face_openings> openings; // for the first face that something may cut
+    std::optional<box_cache> boxes;        // for the first box
     std::unordered_map<const attribute_dictionary*, key_lookup> key_lookups;                  // of large dictionaries
     std::unordered_map<const entity*, std::deque<attribute_dictionary>> made_by_asking;       // not in the file
     std::unordered_map<const picture*, std::optional<image::picture_extent>> picture_extents; // none: damaged
@@ -40,6 +42,7 @@ struct provider_state {
     object_pool<typed_value_object> typed_values;
     object_pool<uv_helper> uv_helpers;
     object_pool<mesh_helper> mesh_helpers;
+    object_pool<opening_object> openings;
     object_pool<texture_writer> texture_writers;
     sketchup::tessellator tessellator;
 
@@ -50,5 +53,8 @@ provider_state& provider();
 
 // The open model that a struct of a model belongs to; null if that was closed or never opened.
 open_model* open_model_of(const model* m);
+
+// The openings of a face of an open model; the reference holds until the model is closed.
+const std::vector<opening>& openings_of(const face& f);
 
 } // namespace sketchup::api

@@ -1,3 +1,4 @@
+#include "tests/sketchup/api/cut_wall.h"
 #include "tests/sketchup/api/test_model.h"
 
 #include <gtest/gtest.h>
@@ -68,7 +69,7 @@ TEST(Handles, that_are_null_or_of_another_kind_are_refused_by_each_kind_of_objec
 
 TEST(Handles, of_the_providers_own_objects_are_told_from_those_of_a_model) {
     model_builder builder;
-    builder.root().square(1);
+    add_cut_wall(builder);
     test_model opened(builder);
     const test_string string;
     const test_value value;
@@ -83,7 +84,13 @@ TEST(Handles, of_the_providers_own_objects_are_told_from_those_of_a_model) {
     EXPECT_REFUSALS(SUTypedValueGetType, value.ref, string.ref);
     EXPECT_REFUSALS(SUTextureWriterGetNumTextures, writer, mesh);
     EXPECT_REFUSALS(SUMeshHelperGetNumVertices, mesh, uv);
+    SUOpeningRef opening = SU_INVALID;
+    size_t count = 0;
+    SUFaceGetOpenings(opened.face(), 1, &opening, &count);
     EXPECT_REFUSALS(SUFaceGetNumEdges, opened.face(), string.ref);
+    EXPECT_REFUSALS(SUFaceGetNumOpenings, opened.face(), opening);
+    EXPECT_REFUSALS(SUOpeningGetNumPoints, opening, mesh);
+    SUOpeningRelease(&opening);
     SUMeshHelperRelease(&mesh);
     SUUVHelperRelease(&uv);
     SUTextureWriterRelease(&writer);
