@@ -175,3 +175,35 @@ TEST(SkpDumpSummary, tells_the_rendering_options) {
     for (const char* option : {" DrawGround=true ", " EdgeColorMode=2 ", " FaceFrontColor=(1, 2, 3, 255) "})
         EXPECT_NE(text.find(option), std::string::npos) << option << "\nis missing in\n" << text;
 }
+
+namespace {
+
+// A wall with a window that is glued to it and cuts, and a second wall without.
+void add_walls(model_builder& builder) {
+    builder.root().face({{0, 0, 9}, {1, 0, 9}, {0, 1, 9}});
+    const auto wall = builder.root().square(10);
+    auto window = builder.component("window");
+    window.square(2);
+    builder.definition(window).behavior.cuts_opening = true;
+    builder.root().glue(builder.root().instance(window, sketchup::moved({4, 5, 0})), wall);
+}
+
+std::string dump_of(model_builder& builder, const std::string& how) {
+    const temporary_folder folder;
+    return dump(how + " " + shell_quoted(model_file(folder, builder))).output;
+}
+
+} // namespace
+
+TEST(SkpDumpOpenings, are_counted_with_the_faces_that_have_them) {
+    model_builder builder;
+    add_walls(builder);
+    const std::string json = dump_of(builder, "--json");
+    EXPECT_NE(json.find(R"("glued":1,"openings":{"all":1,"faces":1})"), std::string::npos) << json;
+}
+
+TEST(SkpDumpOpenings, stand_in_the_tree_below_their_list) {
+    model_builder builder;
+    add_walls(builder);
+    expect_lines(dump_of(builder, "--tree"), {"  2 faces, 7 edges, 0 section planes\n  opening of 4 points in face 1"});
+}

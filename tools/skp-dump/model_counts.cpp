@@ -1,5 +1,7 @@
 #include "tools/skp-dump/model_counts.h"
 
+#include "sketchup/model/face_openings.h"
+
 #include <vector>
 
 namespace {
@@ -63,7 +65,7 @@ const char* owner_name(annotation_kind what) {
 
 class counter {
 public:
-    explicit counter(const model& counted) : m(counted) {}
+    explicit counter(const model& counted) : m(counted), openings(counted) {}
 
     model_counts count() {
         count_list(m.root);
@@ -105,6 +107,14 @@ private:
         result.glued += list.glue.size();
         for (const index at : list.annotations)
             count_annotation(m.annotations[at].what);
+        for (const index at : list.faces)
+            count_openings(m.faces[at]);
+    }
+
+    void count_openings(const face& f) {
+        const std::size_t found = openings.of(f).size();
+        result.openings += found;
+        result.faces_with_openings += found > 0 ? 1 : 0;
     }
 
     void count_annotation(annotation_kind what) {
@@ -176,6 +186,7 @@ private:
     }
 
     const model& m;
+    face_openings openings;
     model_counts result;
 };
 

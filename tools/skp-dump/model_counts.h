@@ -33,6 +33,8 @@ struct model_counts {
     std::size_t section_planes = 0;
     std::size_t active_section_planes = 0;
     std::size_t glued = 0;
+    std::size_t openings = 0; // that what is glued cuts into faces
+    std::size_t faces_with_openings = 0;
     std::size_t guides = 0;
     std::size_t texts = 0;
     std::size_t dimensions = 0;

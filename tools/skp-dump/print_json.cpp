@@ -118,6 +118,7 @@ void add_counts(json& result, const model_counts& n) {
     result["section_planes"] = n.section_planes;
     result["section_planes_active"] = n.active_section_planes;
     result["glued"] = n.glued;
+    result["openings"] = {{"all", n.openings}, {"faces", n.faces_with_openings}};
     result["guides"] = n.guides;
     result["texts"] = n.texts;
     result["dimensions"] = n.dimensions;

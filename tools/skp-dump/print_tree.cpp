@@ -72,6 +72,23 @@ std::size_t count_of(SUEntitiesRef entities, SUResult (*count)(SUEntitiesRef, st
     return result;
 }
 
+std::size_t points_of(SUOpeningRef opening) {
+    std::size_t points = 0;
+    SUOpeningGetNumPoints(opening, &points);
+    return points;
+}
+
+// Faces are numbered from 0 in the order of the list.
+void print_openings(SUEntitiesRef entities, int depth) {
+    const std::vector<SUFaceRef> faces = su_list(entities, SUEntitiesGetNumFaces, SUEntitiesGetFaces);
+    for (std::size_t i = 0; i < faces.size(); ++i)
+        for (SUOpeningRef opening : su_list(faces[i], SUFaceGetNumOpenings, SUFaceGetOpenings)) {
+            indent(depth);
+            std::printf("opening of %zu points in face %zu\n", points_of(opening), i);
+            SUOpeningRelease(&opening);
+        }
+}
+
 void print_entities(SUEntitiesRef entities, int depth) {
     const std::size_t faces = count_of(entities, SUEntitiesGetNumFaces);
     const std::size_t planes = count_of(entities, SUEntitiesGetNumSectionPlanes);
@@ -79,6 +96,7 @@ void print_entities(SUEntitiesRef entities, int depth) {
     SUEntitiesGetNumEdges(entities, false, &edges);
     indent(depth);
     std::printf("%zu faces, %zu edges, %zu section planes\n", faces, edges, planes);
+    print_openings(entities, depth);
     for (const SUGroupRef group : su_list(entities, SUEntitiesGetNumGroups, SUEntitiesGetGroups)) {
         SUTransformation t = {};
         SUGroupGetTransform(group, &t);
