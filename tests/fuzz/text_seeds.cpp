@@ -20,6 +20,13 @@ constexpr seed seeds[] = {
      "Vellane_object_properties;light_type;-1\nVellane_object_properties;light_direction;5\n"
      "qlw_lamp;ivl_lamp_channel;2147483647\nqlw_lamp;rorndll_lamp_intensity_lumens;1e308\n"
      "qlw_placement_settings;light_color_override_value;rgb(1,2,3)\n"},
+    // A letter is a place, from @ for 0; before an outline @ says rectangle, A star, B triangle, C quadrilateral.
+    {"fuzz_plane_cut", "inside", "H@@@JH@AAAB"},
+    {"fuzz_plane_cut", "notch_in_an_upright_face", "I@@@JH@D@BC"},
+    {"fuzz_plane_cut", "hole_widened", "B@@@JH@DBBB@FBBB@AAGC"},
+    {"fuzz_plane_cut", "across_a_star", "KAJJEPTPXP\\PTPXPT@HAC_CAAALDHKLM"},
+    {"fuzz_plane_cut", "nothing_left", "H@@@JH@@@JH"},
+    {"fuzz_plane_cut", "nearly_touching", "H@@@JH@\xA4\xC0\x42\x43@\xC6\xA1\xE2\x43"},
     {"fuzz_ini", "empty", ""},
     {"fuzz_ini", "profile",
      "; mine\r\n[Globals]\r\nsvl_name=a b\r\nivl_number = -5 \r\n\r\n[Common]\r\nPhone=\"1\"\r\n"},
