@@ -1,5 +1,6 @@
 #include "sketchup/model/plane_cut.h"
 
+#include "print_points.h"
 #include "shapes.h"
 #include "sketchup/model/vector_math.h"
 

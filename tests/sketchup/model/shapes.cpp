@@ -2,16 +2,6 @@
 
 #include "sketchup/model/vector_math.h"
 
-#include <ostream>
-
-namespace sketchup {
-
-void PrintTo(const vec3& p, std::ostream* out) {
-    *out << "(" << p.x << ", " << p.y << ", " << p.z << ")";
-}
-
-} // namespace sketchup
-
 namespace sketchup::test {
 
 index shapes::vertex(const vec3& position) {

@@ -5,15 +5,7 @@
 #include "sketchup/model/model.h"
 
 #include <initializer_list>
-#include <iosfwd>
 #include <vector>
-
-namespace sketchup {
-
-// How a failed expectation shows a point.
-void PrintTo(const vec3& p, std::ostream* out);
-
-} // namespace sketchup
 
 namespace sketchup::test {
 
