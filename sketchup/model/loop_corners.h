@@ -5,6 +5,7 @@
 #include "sketchup/model/model.h"
 
 #include <limits>
+#include <vector>
 
 namespace sketchup {
 
@@ -39,5 +40,27 @@ inline void append_loop_corners(const model& m, const loop& l, std::vector<index
         corners.push_back(corner_vertex(m, l.uses.first + i));
     }
 }
+
+// The corners of all loops of a face, one loop after the other.
+struct face_corners {
+    std::vector<vec3> points;
+    std::vector<index> corners; // positions in model::edge_uses
+    std::vector<index> sizes;   // of the loops
+
+    // Keeps its memory, so that a further face costs no allocation.
+    void take(const model& m, const face& f) {
+        points.clear();
+        corners.clear();
+        sizes.clear();
+        for (index l = 0; l < f.loops.count; ++l) {
+            const index_range uses = m.loops[f.loops.first + l].uses;
+            sizes.push_back(uses.count);
+            for (index corner = uses.first; corner < uses.first + uses.count; ++corner) {
+                corners.push_back(corner);
+                points.push_back(corner_position(m, corner));
+            }
+        }
+    }
+};
 
 } // namespace sketchup

@@ -47,6 +47,13 @@ public:
           pairs_left_(limits.most_pairs) {}
 
     plane_cut run() {
+        plane_cut cut = cut_outlines();
+        cut.pairs = limits_.most_pairs - pairs_left_;
+        return cut;
+    }
+
+private:
+    plane_cut cut_outlines() {
         add_face();
         add_openings();
         const outline_survey found = survey(shape_, limits_.tolerance, pairs_left_);
@@ -67,7 +74,6 @@ public:
         return subtracted(found);
     }
 
-private:
     enum class clear_case { apart, one_holds_another, too_many };
 
     void add_loops(const loop_list& loops, bool (face_cutter::*is_wanted)(std::span<const vec3>) const) {

@@ -30,11 +30,12 @@ struct cut_point {
 
 // Contours that the odd rule fills.
 struct plane_cut {
-    bool is_whole = true; // nothing was taken off; all else is empty then
+    bool is_whole = true; // nothing was taken off; there are no contours then, and no area is given
     std::vector<cut_point> points;
     std::vector<index> sizes; // of the contours; none if nothing is left
     std::size_t pieces = 0;   // polygons, which may touch in points
     double area = 0;          // square inches
+    std::size_t pairs = 0;    // of lines side by side, that were looked at
 };
 
 struct cut_limits {

@@ -1,7 +1,6 @@
 #include "sketchup/model/triangulate.h"
 
 #include "sketchup/model/convex_mesh.h"
-#include "sketchup/model/loop_corners.h"
 #include "sketchup/model/sweep_cost.h"
 #include "sketchup/model/vector_math.h"
 
@@ -156,20 +155,10 @@ void tessellator::triangulate(std::span<const vec3> points, std::span<const inde
 }
 
 void tessellator::triangulate(const model& m, const face& f, face_mesh& out) {
-    points_.clear();
-    corners_.clear();
-    loop_sizes_.clear();
-    for (index l = 0; l < f.loops.count; ++l) {
-        const index_range uses = m.loops[f.loops.first + l].uses;
-        loop_sizes_.push_back(uses.count);
-        for (index corner = uses.first; corner < uses.first + uses.count; ++corner) {
-            corners_.push_back(corner);
-            points_.push_back(corner_position(m, corner));
-        }
-    }
-    triangulate(points_, loop_sizes_, f.plane.normal(), out);
+    face_.take(m, f);
+    triangulate(face_.points, face_.sizes, f.plane.normal(), out);
     for (index& corner : out.corners) {
-        corner = corner == no_index ? no_index : corners_[corner];
+        corner = corner == no_index ? no_index : face_.corners[corner];
     }
 }
 

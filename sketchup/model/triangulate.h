@@ -2,6 +2,7 @@
 
 // The triangles that cover a face, in the order and with the vertex numbering of the host.
 
+#include "sketchup/model/loop_corners.h"
 #include "sketchup/model/model.h"
 
 #include <cstdint>
@@ -50,9 +51,7 @@ public:
 private:
     struct glu_sweep;
     std::unique_ptr<glu_sweep> sweep_;
-    std::vector<vec3> points_;
-    std::vector<index> loop_sizes_;
-    std::vector<index> corners_;
+    face_corners face_;
 };
 
 } // namespace sketchup
