@@ -21,7 +21,9 @@ const std::vector<plane_outline>& opening_outlines::of(index definition) {
 // False if the allowance is used up.
 bool opening_outlines::add_edges(const entity_list& list, const transform& placed, std::vector<segment2>& found) {
     constexpr std::size_t steps_of_an_edge = 16;
-    if (!allowance_.spend(steps_of_an_edge * (1 + list.edges.size() + list.instances.size() + list.groups.size())))
+    constexpr std::size_t steps_of_a_placement = 256;
+    if (!allowance_.spend(steps_of_an_edge * list.edges.size() +
+                          steps_of_a_placement * (1 + list.instances.size() + list.groups.size())))
         return false;
     const auto is_in_plane = [](const vec3& p) { return std::abs(p.z) <= opening_tolerance; }; // false for no number
     for (const index one : list.edges) {
@@ -30,7 +32,8 @@ bool opening_outlines::add_edges(const entity_list& list, const transform& place
         if (is_in_plane(from) && is_in_plane(to))
             found.push_back({{from.x, from.y}, {to.x, to.y}});
     }
-    return true;
+    constexpr std::size_t most_segments = default_steps / 1024; // outlines_of takes no more
+    return found.size() <= most_segments;
 }
 
 // Depth first with a stack of its own: definitions may nest deeper than the program's stack has room for.

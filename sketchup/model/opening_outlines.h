@@ -21,7 +21,7 @@ bool is_drawn(const model& m, const placement& p);
 class opening_outlines {
 public:
     // What all definitions of a model may cost together: about a second. Those that are asked for when it is used up
-    // have no outlines. A flattened edge costs 16 steps, one in the plane 1024 more.
+    // have no outlines. A flattened edge costs 16 steps, one in the plane 1024 more, a placement 256.
     static constexpr std::size_t default_steps = std::size_t{1} << 30;
 
     // m: linked; must outlive this object unchanged.

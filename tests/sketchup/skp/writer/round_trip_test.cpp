@@ -1,5 +1,7 @@
 // What is written is read again, whatever it is, in every version that has room for it.
 
+#include "sketchup/model/face_openings.h"
+#include "sketchup/model/model_builder.h"
 #include "sketchup/skp/read_model.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "sketchup/skp/writer/modern_writer.h"
@@ -81,4 +83,42 @@ TEST(RoundTrip, random_models_hold_everything_that_a_model_can_hold) {
     for (const char* expected : {"folder", "holds", "dictionary", "texture", "picture", "curve", "about", "front",
                                  "group", "instance", "image", "section", "annotation", "scene", "hides", "cuts"})
         EXPECT_TRUE(words.contains(expected)) << expected;
+}
+
+namespace {
+
+// A wall with a window that has an outline of its own and one of a cutting group inside it.
+std::unique_ptr<sketchup::model> wall_with_window() {
+    sketchup::model_builder m;
+    sketchup::list_builder root = m.root();
+    const sketchup::entity_place wall = root.square(100);
+    sketchup::list_builder window = m.component("window");
+    window.square(4);
+    sketchup::list_builder pane = window.group("pane", sketchup::moved({10, 0, 0}));
+    pane.square(2);
+    m.definition(window).behavior.cuts_opening = m.definition(pane).behavior.cuts_opening = true;
+    root.glue(root.instance(window, sketchup::moved({20, 30, 0})), wall);
+    return m.finish();
+}
+
+using points = std::vector<sketchup::vec3>;
+
+} // namespace
+
+TEST(RoundTrip, a_wall_has_the_same_openings_in_every_version) {
+    const std::vector<points> expected = {{{20, 34, 0}, {24, 34, 0}, {24, 30, 0}, {20, 30, 0}},
+                                          {{30, 32, 0}, {32, 32, 0}, {32, 30, 0}, {30, 30, 0}}};
+    const auto original = wall_with_window();
+    using enum skp::classic_version;
+    using enum skp::modern_version;
+    for (const write_function& write :
+         {classic(v6), classic(v8), classic(v17), classic(v20), archive(v21), archive(v25)}) {
+        const auto read = skp::read_model(write(*original));
+        // The order of faces may differ; the wall is the only face of the model's own list.
+        sketchup::face_openings openings(*read);
+        std::vector<points> found;
+        for (const sketchup::opening& o : openings.of(read->faces.at(read->root.faces.at(0))))
+            found.push_back(o.points);
+        EXPECT_EQ(found, expected);
+    }
 }
