@@ -61,15 +61,14 @@ function(tessaline_test name label)
   file(GLOB sources CONFIGURE_DEPENDS ${patterns})
   if(sources)
     add_executable(${name} ${sources})
-    target_link_libraries(${name} PRIVATE tessaline_flags ${test_LINK} GTest::gmock GTest::gtest_main)
+    target_link_libraries(${name} PRIVATE tessaline_flags ${test_LINK} own_settings GTest::gmock)
     # What is tested is optimised; optimising the tests themselves would only lengthen the build.
     target_compile_options(${name} PRIVATE -O0)
     # Half of what a test takes to compile is these two.
     target_precompile_headers(${name} PRIVATE
       "$<$<COMPILE_LANGUAGE:CXX>:<gtest/gtest.h$<ANGLE-R>>" "$<$<COMPILE_LANGUAGE:CXX>:<gmock/gmock.h$<ANGLE-R>>")
     target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-    # No test reads or writes the settings of whoever runs it.
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
-      PROPERTIES LABELS ${label} TIMEOUT 600 ENVIRONMENT XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/settings_of_tests)
+      PROPERTIES LABELS ${label} TIMEOUT 600)
   endif()
 endfunction()
