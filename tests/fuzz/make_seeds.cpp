@@ -10,6 +10,7 @@
 #include "tests/fuzz/option_seeds.h"
 #include "tests/fuzz/picture_seeds.h"
 #include "tests/fuzz/text_seeds.h"
+#include "tools/command_line/answers.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -163,10 +164,11 @@ bool write_option_seeds(const std::filesystem::path& folder) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fputs("usage: make_seeds FOLDER\n", stderr);
-        return 2;
-    }
+    constexpr std::string_view usage = "usage: make_seeds FOLDER\n";
+    if (const auto status = answer_at_once(argc, argv, "make_seeds", usage))
+        return *status;
+    if (argc != 2)
+        return refuse_command_line(usage);
     const std::filesystem::path folder = argv[1];
     if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder) &&
         write_document_seeds(folder / "fuzz_document") && write_modern_seeds(folder / "fuzz_modern") &&

@@ -4,6 +4,7 @@
 
 #include "tests/gallery/model_camera.h"
 #include "tests/gallery/model_painter.h"
+#include "tools/command_line/answers.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -28,12 +29,13 @@ bool draw(const char* model_file, const char* picture_file, texture_source from,
 } // namespace
 
 int main(int argc, char** argv) {
+    constexpr std::string_view usage = "usage: draw_model [--written] MODEL PICTURE.png [WIDTH HEIGHT]\n";
+    if (const auto status = answer_at_once(argc, argv, "draw_model", usage, {"--written"}))
+        return *status;
     const bool written = argc > 1 && std::strcmp(argv[1], "--written") == 0;
     const int first = written ? 2 : 1;
-    if (argc != first + 2 && argc != first + 4) {
-        std::fputs("usage: draw_model [--written] MODEL PICTURE.png [WIDTH HEIGHT]\n", stderr);
-        return 2;
-    }
+    if (argc != first + 2 && argc != first + 4)
+        return refuse_command_line(usage);
     const auto size = [&](int at, std::size_t otherwise) {
         return argc > at ? std::strtoul(argv[at], nullptr, 10) : otherwise;
     };

@@ -7,6 +7,7 @@
 #include "tests/gallery/rasterizer.h"
 #include "tests/gallery/stream_painter.h"
 #include "tools/batch_reading/stream_reader.h"
+#include "tools/command_line/answers.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -34,10 +35,11 @@ std::string folder_of(const std::string& file_name) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 4 && argc != 6) {
-        std::fputs("usage: draw_stream MODEL STREAM PICTURE.png [WIDTH HEIGHT]\n", stderr);
-        return 2;
-    }
+    constexpr std::string_view usage = "usage: draw_stream MODEL STREAM PICTURE.png [WIDTH HEIGHT]\n";
+    if (const auto status = answer_at_once(argc, argv, "draw_stream", usage))
+        return *status;
+    if (argc != 4 && argc != 6)
+        return refuse_command_line(usage);
     SUInitialize();
     const view seen = camera_of_file(argv[1]);
     SUTerminate();

@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/batch_reading/stream_reader.h"
+#include "tools/command_line/answers.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -140,10 +141,11 @@ void try_one(const std::string& program, const std::string& what, const bytes& d
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 4) {
-        std::fputs("usage: damage_samples PROGRAM SAMPLES_FOLDER COUNT [FIRST_SEED]\n", stderr);
-        return 2;
-    }
+    constexpr std::string_view usage = "usage: damage_samples PROGRAM SAMPLES_FOLDER COUNT [FIRST_SEED]\n";
+    if (const auto status = answer_at_once(argc, argv, "damage_samples", usage))
+        return *status;
+    if (argc < 4)
+        return refuse_command_line(usage);
     const int times = std::atoi(argv[3]);
     const std::uint64_t first_seed = argc > 4 ? std::strtoull(argv[4], nullptr, 10) : 1;
     std::vector<fs::path> samples;

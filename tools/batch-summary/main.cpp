@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "tools/batch_reading/stream_reader.h"
+#include "tools/command_line/answers.h"
 
 #include <algorithm>
 #include <array>
@@ -9,8 +10,12 @@
 #include <cstdio>
 #include <limits>
 #include <string>
+#include <string_view>
 
 namespace {
+
+constexpr std::string_view usage = "usage: batch-summary BATCH_FOLDER\n"
+                                   "Status 0 if the folder holds a stream without faults, 1 otherwise.\n";
 
 constexpr std::uint64_t largest_stream = std::uint64_t{1} << 36U; // 64 GiB: anything larger is no stream of ours
 
@@ -84,9 +89,9 @@ int summarise(const std::string& folder) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fputs("usage: batch-summary BATCH_FOLDER\n", stderr);
-        return 2;
-    }
+    if (const auto status = answer_at_once(argc, argv, "batch-summary", usage))
+        return *status;
+    if (argc != 2)
+        return refuse_command_line(usage);
     return summarise(argv[1]);
 }

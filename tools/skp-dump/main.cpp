@@ -1,5 +1,6 @@
 // Prints what the provider sees in model files.
 
+#include "tools/command_line/answers.h"
 #include "tools/skp-dump/opened_model.h"
 #include "tools/skp-dump/prints.h"
 #include "tools/skp-dump/write_textures.h"
@@ -20,12 +21,12 @@ struct request {
     std::vector<std::string> models;
 };
 
-constexpr const char* usage = "usage: skp-dump [--summary | --json | --tree] [--textures FOLDER] MODEL...\n"
-                              "  --summary  counts, sizes, layers and materials as text (the default)\n"
-                              "  --json     one object a file, on one line\n"
-                              "  --tree     the hierarchy with names, layers, transforms and attributes\n"
-                              "  --textures FOLDER  the pictures of all materials as files\n"
-                              "Status 0 if every model opened and every picture was written, 1 otherwise.\n";
+constexpr std::string_view usage = "usage: skp-dump [--summary | --json | --tree] [--textures FOLDER] MODEL...\n"
+                                   "  --summary  counts, sizes, layers and materials as text (the default)\n"
+                                   "  --json     one object a file, on one line\n"
+                                   "  --tree     the hierarchy with names, layers, transforms and attributes\n"
+                                   "  --textures FOLDER  the pictures of all materials as files\n"
+                                   "Status 0 if every model opened and every picture was written, 1 otherwise.\n";
 
 // True if the model opened and, if asked for, its pictures could be written.
 bool dump(const std::string& file_name, const request& asked) {
@@ -60,9 +61,11 @@ bool read_arguments(int argc, char** argv, request& asked) {
             asked.wanted = form::json;
         else if (argument == "--tree")
             asked.wanted = form::tree;
-        else if (argument == "--textures" && i + 1 < argc) {
+        else if (argument == "--textures") {
+            if (++i == argc)
+                return false;
             asked.writes_textures = true;
-            asked.texture_folder = argv[++i];
+            asked.texture_folder = argv[i];
         } else
             asked.models.emplace_back(argument);
     }
@@ -72,15 +75,12 @@ bool read_arguments(int argc, char** argv, request& asked) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 2 && argv[1] == std::string_view("--help")) {
-        std::fputs(usage, stdout);
-        return 0;
-    }
+    if (const auto status =
+            answer_at_once(argc, argv, "skp-dump", usage, {"--summary", "--json", "--tree", "--textures"}))
+        return *status;
     request asked;
-    if (!read_arguments(argc, argv, asked)) {
-        std::fputs(usage, stderr);
-        return 2;
-    }
+    if (!read_arguments(argc, argv, asked))
+        return refuse_command_line(usage);
     SUInitialize();
     bool all_done = true;
     for (const std::string& model : asked.models)
