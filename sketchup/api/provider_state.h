@@ -2,7 +2,7 @@
 
 // All that the provider keeps from call to call.
 
-#include "image/picture.h"
+#include "image/picture_pyramid.h"
 #include "sketchup/api/key_lookup.h"
 #include "sketchup/api/object_pool.h"
 #include "sketchup/api/provider_objects.h"
@@ -31,7 +31,7 @@ struct open_model {
     std::unordered_map<const picture*, std::optional<image::picture_extent>> picture_extents; // none: damaged
     // The picture that was straightened last, as shown: the distorted sides of a material often follow one another.
     const texture* kept_texture = nullptr;
-    image::picture kept_pixels;
+    image::picture_pyramid kept_pixels;
 };
 
 // One object, because the C interface has no handle for a library; emptied by SUTerminate.

@@ -73,7 +73,7 @@ std::optional<image::picture> shown_pixels(const texture& t) {
     return shown_pixels(t, stored_bytes(t));
 }
 
-const image::picture* kept_pixels(const texture& t) {
+const image::picture_pyramid* kept_pixels(const texture& t) {
     open_model* opened = open_model_of(t.owner);
     if (!opened)
         return nullptr;

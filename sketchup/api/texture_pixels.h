@@ -3,7 +3,7 @@
 // From a texture to its picture. A texture is one of a model, whose picture is a stored file, or one that the caller
 // made from pixels. These throw skp::format_error if the stored bytes cannot be unpacked.
 
-#include "image/picture.h"
+#include "image/picture_pyramid.h"
 #include "sketchup/api/provider_objects.h"
 
 #include <cstdint>
@@ -25,9 +25,9 @@ std::optional<image::picture_extent> extent_of_pixels(const texture& t);
 // The picture as the material shows it, recoloured if need be. Nothing if there is none or it is damaged or too large.
 std::optional<image::picture> shown_pixels(const texture& t);
 
-// The same, kept until the next call for another texture of the model. Null if there is none. Only for textures of a
-// model.
-const image::picture* kept_pixels(const texture& t);
+// The same with its smaller copies, kept until the next call for another texture of the model. Null if there is none.
+// Only for textures of a model.
+const image::picture_pyramid* kept_pixels(const texture& t);
 
 // Writes the picture as shown, in the format of the name's extension. Stored bytes that have this format already, and
 // that no material recolours, are written unchanged: nothing is lost, and nothing has to be decoded.

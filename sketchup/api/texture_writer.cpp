@@ -85,7 +85,7 @@ const texture_writer::entry* entry_of(const texture_writer& writer, long id) {
 bool write_straightened(const texture_writer::entry& entry, const std::string& path) {
     if (image::format_of_name(path) == image::picture_format::unknown)
         return false;
-    const image::picture* shown = kept_pixels(*entry.texture);
+    const image::picture_pyramid* shown = kept_pixels(*entry.texture);
     if (!shown)
         return false;
     const face& f = *entry.distorted_face;

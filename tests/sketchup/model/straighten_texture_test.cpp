@@ -96,20 +96,86 @@ TEST(StraightenTexture, shows_through_its_coordinates_what_the_distorted_mapping
 }
 
 TEST(StraightenTexture, has_pixels_as_fine_as_those_of_the_source) {
-    // Not distorted: 10 x 20 inches hold 100 x 100 pixels, so 30 x 40 inches take 300 x 200.
-    const auto m = painted_model({{0, 0, 0}, {30, 0, 0}, {30, 40, 0}, {0, 40, 0}}, {1, 0, 0, 0, 1, 0, 0, 0, 1});
+    // Not distorted: 10 x 20 inches hold 100 x 100 pixels, so 15 x 30 inches take 150 x 150.
+    const auto m = painted_model({{0, 0, 0}, {15, 0, 0}, {15, 30, 0}, {0, 30, 0}}, {1, 0, 0, 0, 1, 0, 0, 0, 1});
     const image::picture straight = straighten_texture(noise(100, 100), *m, m->faces[0], face_side::front);
-    EXPECT_NEAR(straight.width(), 300, 1);
-    EXPECT_NEAR(straight.height(), 200, 1);
+    EXPECT_EQ(straight.extent(), (image::picture_extent{150, 150, 24}));
+}
+
+// q = 1 + x / 20 is 1 at the left and 1.5 at the right edge. With 100 pixels to a tile the place is 10 x / q, 5 y / q.
+// It moves fastest at the upper left, by 10 and -0.05 * 5 * 20 = -5 pixels for an inch along x, by 0 and 5 for one
+// along y: 10 inches ask for the square root of 100 * 100 + 50 * 50 = 111.8, 20 inches for 100.
+TEST(StraightenTexture, is_as_fine_as_the_corner_where_the_source_lies_closest) {
+    const auto m = painted_model({{0, 0, 0}, {10, 0, 0}, {10, 20, 0}, {0, 20, 0}}, {1, 0, -0.05, 0, 1, 0, 0, 0, 1});
+    const image::picture straight = straighten_texture(noise(100, 100), *m, m->faces[0], face_side::front);
+    EXPECT_EQ(straight.extent(), (image::picture_extent{112, 100, 24}));
+}
+
+// Of 8 x 8 pixels four times as many are 256: as the horizon asks for endless pixels both ways, 16 x 16.
+TEST(StraightenTexture, with_the_horizon_on_the_face_has_four_times_the_pixels_of_the_source) {
+    const auto m = painted_model({{0, 0, 0}, {30, 0, 0}, {30, 40, 0}, {0, 40, 0}}, {1, 0, -0.1, 0, 1, -0.1, 0, 0, 1});
+    const face& f = m->faces[0];
+    EXPECT_EQ(straighten_texture(noise(8, 8), *m, f, face_side::front).extent(), (image::picture_extent{16, 16, 24}));
+    EXPECT_EQ(straighten_texture(noise(1, 1), *m, f, face_side::front).extent(), (image::picture_extent{2, 2, 24}));
+}
+
+TEST(StraightenedExtent, is_what_the_face_asks_for_rounded_up) {
+    const image::picture_extent source = {100, 50, 32};
+    EXPECT_EQ(straightened_extent(80.5, 20, source), (image::picture_extent{81, 20, 32}));
+    EXPECT_EQ(straightened_extent(80.001, 20, source), (image::picture_extent{80, 20, 32})) << "noise";
+    EXPECT_EQ(straightened_extent(0, 0.3, source), (image::picture_extent{1, 1, 32}));
+    EXPECT_EQ(straightened_extent(std::nan(""), -5, source), (image::picture_extent{1, 1, 32}));
+    EXPECT_EQ(straightened_extent(200, 100, source), (image::picture_extent{200, 100, 32})) << "20000: just in bounds";
+}
+
+TEST(StraightenedExtent, takes_what_is_over_four_times_the_pixels_of_the_source_from_the_longer_side) {
+    const double endless = std::numeric_limits<double>::infinity();
+    const image::picture_extent source = {100, 50, 24}; // 4 x 5000 = 20000
+    EXPECT_EQ(straightened_extent(50, 1000, source), (image::picture_extent{50, 400, 24}));
+    EXPECT_EQ(straightened_extent(1000, 50, source), (image::picture_extent{400, 50, 24}));
+    EXPECT_EQ(straightened_extent(900, 1000, source), (image::picture_extent{141, 141, 24})) << "141 x 141 = 19881";
+    EXPECT_EQ(straightened_extent(endless, endless, source), (image::picture_extent{141, 141, 24}));
+    EXPECT_EQ(straightened_extent(150, endless, source), (image::picture_extent{141, 141, 24}));
+}
+
+TEST(StraightenedExtent, has_no_side_above_the_longest_however_large_the_source_is) {
+    const double endless = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(straightened_extent(endless, endless, {8192, 8192, 32}), (image::picture_extent{2048, 2048, 32}));
+    EXPECT_EQ(straightened_extent(1, 1e300, {512, 512, 24}), (image::picture_extent{1, 2048, 24}));
+    EXPECT_EQ(straightened_extent(4096, 16, {4096, 16, 24}), (image::picture_extent{2048, 16, 24}));
 }
 
 TEST(StraightenTexture, of_a_straight_mapping_is_the_source_itself) {
     const auto m = painted_model({{0, 0, 0}, {10, 0, 0}, {10, 20, 0}, {0, 20, 0}}, {1, 0, 0, 0, 1, 0, 0, 0, 1});
+    for (const int bits : {24, 32}) {
+        const image::picture source = noise(32, 64, bits);
+        EXPECT_EQ(straighten_texture(source, *m, m->faces[0], face_side::front), source) << bits;
+    }
+}
+
+TEST(StraightenTexture, of_a_straight_mapping_on_half_the_rows_mixes_two_and_two) {
+    const auto m = painted_model({{0, 0, 0}, {10, 0, 0}, {10, 20, 0}, {0, 20, 0}}, {1, 0, 0, 0, 1, 0, 0, 0, 1});
     const image::picture source = gradient(32, 64);
     const image::picture straight = straighten_texture(source, *m, m->faces[0], face_side::front, 32);
-    ASSERT_EQ(straight.width(), 32u);
-    EXPECT_EQ(straight.height(), 32u); // kept to the longest side; two rows of the source are mixed
-    EXPECT_NEAR(straight.row(3)[5 * 3 + 1], (source.row(6)[5 * 3 + 1] + source.row(7)[5 * 3 + 1]) / 2.0, 1);
+    ASSERT_EQ(straight.extent(), (image::picture_extent{32, 32, 24}));
+    for (std::uint32_t y = 0; y < 32; ++y)
+        for (std::uint32_t i = 0; i < 32 * 3; ++i)
+            ASSERT_EQ(straight.row(y)[i], (source.row(2 * y)[i] + source.row(2 * y + 1)[i] + 1) / 2) << i << " " << y;
+}
+
+// Fields of one pixel: what is far from the eye is an even grey, and nothing is anything but a mixture.
+TEST(StraightenTexture, of_a_chequered_floor_is_grey_towards_the_horizon) {
+    image::picture chequers = *image::picture::make({64, 64, 24});
+    for (std::uint32_t y = 0; y < 64; ++y)
+        for (std::uint32_t i = 0; i < 64 * 3; ++i)
+            chequers.row(y)[i] = (i / 3 + y) % 2 == 0 ? 255 : 0;
+    // q = 1 - y / 40.001 is near 0 at the upper edge.
+    const auto m =
+        painted_model({{0, 0, 0}, {10, 0, 0}, {10, 40, 0}, {0, 40, 0}}, {1, 0, 0, 0, 1, 1 / 40.001, 0, 0, 1});
+    const image::picture straight = straighten_texture(chequers, *m, m->faces[0], face_side::front);
+    ASSERT_EQ(straight.extent(), (image::picture_extent{128, 128, 24}));
+    for (std::uint32_t i = 0; i < 128 * 3; ++i)
+        EXPECT_NEAR(straight.row(0)[i], 127.5, 1) << i;
 }
 
 TEST(StraightenTexture, keeps_to_the_longest_side_however_large_the_face_is) {
@@ -131,6 +197,17 @@ TEST(StraightenTexture, survives_a_horizon_on_the_face_and_numbers_that_are_none
         m->texture_mappings[0].front.matrix[2] = bad;
         EXPECT_FALSE(straighten_texture(noise(8, 8), *m, m->faces[0], face_side::front, 64).is_empty()) << bad;
     }
+}
+
+TEST(StraightenTexture, where_there_is_no_place_is_the_mean_of_the_source) {
+    auto m = painted_model({{0, 0, 0}, {30, 0, 0}, {30, 40, 0}, {0, 40, 0}}, perspective);
+    image::picture source = *image::picture::make({2, 1, 32});
+    source.bytes() = {10, 20, 30, 0, 30, 60, 90, 200};
+    for (sketchup::vertex& v : m->vertices)
+        v.position.x = std::nan("");
+    const image::picture straight = straighten_texture(source, *m, m->faces[0], face_side::front);
+    ASSERT_EQ(straight.extent(), (image::picture_extent{1, 1, 32}));
+    EXPECT_EQ(straight.bytes(), (std::vector<std::uint8_t>{20, 40, 60, 100}));
 }
 
 TEST(StraightenTexture, of_a_face_without_area_is_one_pixel) {
