@@ -2,6 +2,8 @@
 
 #include "sketchup/skp/modern/formats.h"
 
+#include <numbers>
+
 namespace skp::modern {
 namespace {
 
@@ -69,18 +71,18 @@ constexpr option_field fields[] = {
     {section_display_tag, nullptr, int32},
     {29558, "SectionCutFilled", boolean},
     {29559, "TransparencySort", int32},
-    {29560, nullptr, float64, 0.5},      // X-ray opacity
-    {29561, nullptr, boolean, 1},        // soft edges drawn
-    {29562, nullptr, float64, 0.349066}, // soft limit: 20 degrees in radians
-    {29563, nullptr, boolean, 1},        // smooth edges drawn
-    {29564, nullptr, boolean, 1},        // foreground of a matched photo shown
-    {29565, nullptr, float64, 1},        // its opacity
-    {29566, nullptr, boolean, 1},        // background of a matched photo shown
-    {29567, nullptr, float64, 0.8},      // its opacity
+    {29560, nullptr, float64, 0.65},                        // X-ray opacity
+    {29561, nullptr, boolean, 1},                           // soft edges drawn
+    {29562, nullptr, float64, 20 * std::numbers::pi / 180}, // soft limit, radians
+    {29563, nullptr, boolean, 1},                           // smooth edges drawn
+    {29564, nullptr, boolean, 1},                           // foreground of a matched photo shown
+    {29565, nullptr, float64, 1},                           // its opacity
+    {29566, nullptr, boolean, 1},                           // background of a matched photo shown
+    {29567, nullptr, float64, 0.8},                         // its opacity
     {29570, nullptr, boolean, 0, format_2021_1},
-    {29571, nullptr, boolean, 0, format_2024},   // ambient occlusion
-    {29573, nullptr, float32, 1, format_2024},   // its distance
-    {29574, nullptr, float32, 0.5, format_2024}, // its intensity
+    {29571, nullptr, boolean, 0, format_2024},  // ambient occlusion
+    {29573, nullptr, float32, 10, format_2024}, // its distance
+    {29574, nullptr, float32, 0, format_2024},  // its intensity
 };
 
 } // namespace

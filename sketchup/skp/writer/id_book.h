@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <unordered_map>
+#include <utility>
 
 namespace skp {
 
@@ -19,8 +20,8 @@ public:
     // material or scene of the model.
     std::uint64_t of(const void* element) const { return ids_.at(element); }
 
-    // An id for something that the model does not hold.
-    std::uint64_t fresh() { return next_++; }
+    // An id for something that the model does not hold; the first of so many that follow one another.
+    std::uint64_t fresh(std::uint64_t count = 1) { return std::exchange(next_, next_ + count); }
     // Larger than all that were given out.
     std::uint64_t next() const { return next_; }
 

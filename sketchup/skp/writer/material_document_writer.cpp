@@ -2,9 +2,10 @@
 
 #include "sketchup/skp/modern/formats.h"
 #include "sketchup/skp/text_encoding.h"
+#include "sketchup/skp/writer/written_colors.h"
+#include "sketchup/skp/writer/xml_text.h"
 
-#include <array>
-#include <charconv>
+#include <iterator>
 #include <optional>
 #include <pugixml.hpp>
 
@@ -19,25 +20,8 @@ namespace {
 constexpr const char* material_namespace = "http://sketchup.google.com/schemas/sketchup/1.0/material";
 constexpr const char* types_namespace = "http://sketchup.google.com/schemas/1.0/types";
 
-template<class T>
-std::string decimal(T number) {
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-    return {digits.data(), end.ptr};
-}
-
-void set(pugi::xml_node element, const char* name, const std::string& value) {
-    element.append_attribute(name).set_value(well_formed_utf8(value).c_str());
-}
-
 std::string flag(bool value) {
     return value ? "1" : "0";
-}
-
-// 0xAABBGGRR
-std::string packed(const sketchup::rgba& color) {
-    return decimal(std::uint32_t{color.red} | std::uint32_t{color.green} << 8U | std::uint32_t{color.blue} << 16U |
-                   std::uint32_t{color.alpha} << 24U);
 }
 
 // The text form of a value; none for a type whose form is not known.
@@ -85,12 +69,13 @@ void add_dictionaries(pugi::xml_node parent, const sketchup::model& m, sketchup:
     }
 }
 
-void add_texture(pugi::xml_node parent, const sketchup::texture& t, const std::string& picture, std::uint16_t format) {
+void add_texture(pugi::xml_node parent, const sketchup::model& m, const sketchup::texture& t,
+                 const std::string& picture, std::uint16_t format) {
     pugi::xml_node element = parent.append_child("mat:texture");
     set(element, "textureFilename", t.file_name);
     set(element, "xScale", decimal(t.width));
     set(element, "yScale", decimal(t.height));
-    set(element, "avgColor", packed(t.average_color));
+    set(element, "avgColor", decimal(packed(written_average(m, t))));
     pugi::xml_node images = element.append_child("mat:images");
     if (picture.empty())
         return;
@@ -101,45 +86,53 @@ void add_texture(pugi::xml_node parent, const sketchup::texture& t, const std::s
         set(image, "file_name", t.file_name.substr(t.file_name.find_last_of("/\\") + 1));
 }
 
+// How metallic, rough, uneven and shaded the surface is: not at all. texture: may be null.
+void add_surface(pugi::xml_node parent, const sketchup::texture* texture) {
+    pugi::xml_node element = parent.append_child("mat:pbrMR");
+    set(element, "xScale", decimal(texture == nullptr ? 1.0 : texture->width));
+    set(element, "yScale", decimal(texture == nullptr ? 1.0 : texture->height));
+    const auto add = [&element](const char* name, const char* value) {
+        element.append_child(name).append_child(pugi::node_pcdata).set_value(value);
+    };
+    for (const char* name :
+         {"mat:enable_metalness", "mat:enable_roughness", "mat:enable_normal", "mat:enable_occlusion"})
+        add(name, "0");
+    for (const char* name : {"mat:metallicFactor", "mat:roughnessFactor", "mat:normalMapStyle", "mat:normalScale",
+                             "mat:occlusionStrength"})
+        add(name, "1");
+    add("mat:baseColorFactor", "4294967295"); // white
+}
+
 void add_material(pugi::xml_node parent, const sketchup::model& m, const sketchup::material& material,
                   const std::string& picture, std::uint16_t format) {
     pugi::xml_node element = parent.append_child("mat:material");
     set(element, "name", material.name);
     set(element, "type", decimal(static_cast<unsigned>(material.type)));
+    if (format >= modern::format_2024)
+        set(element, "workflow", "0");
     set(element, "colorRed", decimal(int{material.color.red}));
     set(element, "colorGreen", decimal(int{material.color.green}));
     set(element, "colorBlue", decimal(int{material.color.blue}));
     set(element, "colorizeType", decimal(material.colorize_type));
     set(element, "trans", decimal(material.transparency));
     set(element, "useTrans", flag(material.use_transparency));
+    if (format >= modern::format_2025)
+        set(element, "pbrPromoState", "0");
     set(element, "hasTexture", flag(material.texture != no_index));
-    if (format >= modern::format_2024)
-        set(element, "workflow", "0");
     if (material.texture != no_index)
-        add_texture(element, m.textures[material.texture], picture, format);
+        add_texture(element, m, m.textures[material.texture], picture, format);
+    if (format >= modern::format_2024)
+        add_surface(element, material.texture == no_index ? nullptr : &m.textures[material.texture]);
     add_dictionaries(element, m, material.dictionaries);
 }
-
-struct string_writer : pugi::xml_writer {
-    std::string text;
-    void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
-};
 
 } // namespace
 
 std::string material_document_text(const sketchup::model& m, const sketchup::material& material,
                                    const std::string& picture, std::uint16_t format) {
     pugi::xml_document document;
-    pugi::xml_node declaration = document.append_child(pugi::node_declaration);
-    set(declaration, "version", "1.0");
-    set(declaration, "encoding", "UTF-8");
-    set(declaration, "standalone", "no");
-    pugi::xml_node root = document.append_child("mat:materialDocument");
-    set(root, "xmlns:mat", material_namespace);
-    add_material(root, m, material, picture, format);
-    string_writer out;
-    document.save(out, "", pugi::format_raw, pugi::encoding_utf8);
-    return out.text;
+    add_material(add_root(document, "materialDocument", "mat", material_namespace), m, material, picture, format);
+    return text_of(document);
 }
 
 } // namespace skp

@@ -18,61 +18,6 @@ using sketchup::value_code;
 
 namespace {
 
-void write_typed_value(record_sink& out, const typed_value& value);
-
-// The one record in a value that is not nil.
-void write_content(record_sink& out, std::uint16_t of_type, const typed_value& value) {
-    const auto integer = [&value] { return std::get<std::int64_t>(value.data); };
-    switch (value.code) {
-    case value_code::byte:
-        out.u8(of_type, static_cast<std::uint8_t>(integer()));
-        break;
-    case value_code::int16:
-        out.u16(of_type, static_cast<std::uint16_t>(integer()));
-        break;
-    case value_code::int32:
-    case value_code::time:
-        out.u32(of_type, static_cast<std::uint32_t>(integer()));
-        break;
-    case value_code::float32:
-        out.f32(of_type, static_cast<float>(std::get<double>(value.data)));
-        break;
-    case value_code::boolean:
-        out.boolean(of_type, std::get<bool>(value.data));
-        break;
-    case value_code::color:
-        out.rgba(of_type, std::get<sketchup::rgba>(value.data));
-        break;
-    case value_code::string:
-        out.text(of_type, std::get<std::string>(value.data));
-        break;
-    case value_code::array:
-        out.record(of_type, [&] {
-            for (const typed_value& element : std::get<std::vector<typed_value>>(value.data))
-                write_typed_value(out, element);
-        });
-        break;
-    case value_code::point:
-    case value_code::vector:
-    case value_code::unit_vector:
-        out.v3(of_type, std::get<sketchup::vec3>(value.data));
-        break;
-    case value_code::transformation:
-        out.doubles(of_type, std::get<std::array<double, 13>>(value.data));
-        break;
-    default: // float64, length and the other measures
-        out.f64(of_type, std::get<double>(value.data));
-    }
-}
-
-void write_typed_value(record_sink& out, const typed_value& value) {
-    const auto of_type = static_cast<std::uint16_t>(tag::typed_value + static_cast<int>(value.code) - 1);
-    out.record(tag::typed_value, [&] {
-        if (value.code != value_code::nil)
-            write_content(out, of_type, value);
-    });
-}
-
 // In the order of the keys' bytes, in which the program looks them up.
 void write_entries(record_sink& out, const std::vector<attribute>& entries) {
     std::vector<const attribute*> sorted;
@@ -127,6 +72,58 @@ void set_text(attribute_dictionary& d, const char* key, const std::string& value
 
 } // namespace
 
+void write_value(record_sink& out, std::uint16_t number, const typed_value& value) {
+    const auto integer = [&value] { return std::get<std::int64_t>(value.data); };
+    switch (value.code) {
+    case value_code::byte:
+        out.u8(number, static_cast<std::uint8_t>(integer()));
+        break;
+    case value_code::int16:
+        out.u16(number, static_cast<std::uint16_t>(integer()));
+        break;
+    case value_code::int32:
+    case value_code::time:
+        out.u32(number, static_cast<std::uint32_t>(integer()));
+        break;
+    case value_code::float32:
+        out.f32(number, static_cast<float>(std::get<double>(value.data)));
+        break;
+    case value_code::boolean:
+        out.boolean(number, std::get<bool>(value.data));
+        break;
+    case value_code::color:
+        out.rgba(number, std::get<sketchup::rgba>(value.data));
+        break;
+    case value_code::string:
+        out.text(number, std::get<std::string>(value.data));
+        break;
+    case value_code::array:
+        out.record(number, [&] {
+            for (const typed_value& element : std::get<std::vector<typed_value>>(value.data))
+                write_typed_value(out, element);
+        });
+        break;
+    case value_code::point:
+    case value_code::vector:
+    case value_code::unit_vector:
+        out.v3(number, std::get<sketchup::vec3>(value.data));
+        break;
+    case value_code::transformation:
+        out.doubles(number, std::get<std::array<double, 13>>(value.data));
+        break;
+    default: // float64, length and the other measures
+        out.f64(number, std::get<double>(value.data));
+    }
+}
+
+void write_typed_value(record_sink& out, const typed_value& value) {
+    const auto of_type = static_cast<std::uint16_t>(tag::typed_value + static_cast<int>(value.code) - 1);
+    out.record(tag::typed_value, [&] {
+        if (value.code != value_code::nil)
+            write_value(out, of_type, value);
+    });
+}
+
 void write_entity(modern_output& o, const sketchup::entity& e, std::uint64_t id,
                   const sketchup::texture_mapping* mapping) {
     o.out.record(tag::entity, [&] {
@@ -158,8 +155,9 @@ void write_properties(modern_output& o) {
     if (properties == own.end()) {
         attribute_dictionary made;
         made.name = properties_name;
-        set_text(made, "Name", {});
         set_text(made, "Description", {});
+        for (const char* key : {"IsClassified", "IsDynamic"})
+            made.entries.push_back({key, {value_code::boolean, false}});
         properties = own.insert(own.end(), std::move(made));
     }
     if (!o.model.description.empty())

@@ -17,7 +17,9 @@ struct modern_output {
     std::uint16_t format; // one of skp/modern/formats.h
     const material_files& files;
     id_book ids;
-    std::uint64_t font; // id of the one font
+    std::uint64_t font;             // id of the one font
+    std::uint64_t style;            // id of the one display style
+    std::uint64_t first_line_style; // id of the first; the others follow it
     record_sink out;
 };
 
@@ -28,6 +30,10 @@ void write_entity(modern_output& o, const sketchup::entity& e, std::uint64_t id,
 void write_attachments(modern_output& o, sketchup::index_range dictionaries,
                        const sketchup::texture_mapping* mapping = nullptr);
 void write_properties(modern_output& o);
+// The record of that number that holds a value other than nil.
+void write_value(record_sink& out, std::uint16_t number, const sketchup::typed_value& value);
+// A value in the record that says its type.
+void write_typed_value(record_sink& out, const sketchup::typed_value& value);
 
 // modern_geometry.cpp
 struct drawing_flags {
@@ -71,5 +77,8 @@ void write_scenes(modern_output& o);
 void write_fonts(modern_output& o);
 void write_text_defaults(modern_output& o);
 void write_dimension_defaults(modern_output& o);
+void write_options(modern_output& o);
+void write_line_styles(modern_output& o);
+void write_styles(modern_output& o);
 
 } // namespace skp

@@ -5,6 +5,7 @@
 #include "sketchup/skp/writer/modern_bodies.h"
 #include "sketchup/skp/writer/modern_tags.h"
 #include "sketchup/skp/writer/usual_settings.h"
+#include "sketchup/skp/writer/written_cameras.h"
 #include "sketchup/skp/writer/written_guids.h"
 #include "sketchup/skp/writer/written_lists.h"
 
@@ -189,6 +190,10 @@ void write_definition(modern_output& o, index at) {
         out.u32(tag::definition_kind, static_cast<std::uint32_t>(d.what));
         out.u32(tag::definition_time, d.time == 0 ? usual_time : d.time);
         write_behavior(o, d.behavior);
+        out.record(tag::definition_thumbnail, [&] {
+            out.record(tag::thumbnail,
+                       [&] { out.record(tag::thumbnail_camera, [&] { write_camera(o, thumbnail_camera()); }); });
+        });
     });
 }
 

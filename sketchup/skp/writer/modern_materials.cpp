@@ -15,6 +15,8 @@ using sketchup::no_index;
 
 namespace {
 
+constexpr std::uint32_t usual_jpeg_quality = 70; // of a picture that does not say
+
 void write_material(modern_output& o, const sketchup::material& m, std::uint64_t id, const std::string& folder) {
     record_sink& out = o.out;
     sketchup::entity base(sketchup::entity_kind::material); // the dictionaries stand in the document
@@ -23,8 +25,10 @@ void write_material(modern_output& o, const sketchup::material& m, std::uint64_t
         out.text(tag::material_folder, folder);
         out.boolean(tag::material_private, m.is_private);
         out.empty(13003);
-        if (m.texture != no_index && o.model.textures[m.texture].picture != no_index)
-            out.u32(tag::material_jpeg_quality, o.model.pictures[o.model.textures[m.texture].picture].quality);
+        if (m.texture != no_index && o.model.textures[m.texture].picture != no_index) {
+            const std::uint32_t quality = o.model.pictures[o.model.textures[m.texture].picture].quality;
+            out.u32(tag::material_jpeg_quality, quality == 0 ? usual_jpeg_quality : quality);
+        }
     });
 }
 

@@ -37,6 +37,15 @@ inline constexpr number section_plane_symbol = 10503;
 
 inline constexpr number definition_modified = 5506;
 
+inline constexpr number definition_thumbnail = 5509;
+
+inline constexpr number picture = 9000;
+inline constexpr number picture_format = 9001;
+inline constexpr number picture_entry = 9002;
+
+inline constexpr number thumbnail = 9500;
+inline constexpr number thumbnail_camera = 9501;
+
 inline constexpr number side_mapping_pins = 10007;
 
 inline constexpr number watermark_manager = 11500;
@@ -57,6 +66,9 @@ inline constexpr number layer_folder_expanded = 16005;
 
 inline constexpr number line_style_manager = 16500;
 inline constexpr number line_style_list = 16501;
+inline constexpr number line_style = 16502;
+inline constexpr number line_style_name = 16503;
+inline constexpr number line_style_pattern = 16504;
 
 inline constexpr number guide_line_figures = 17002;
 inline constexpr number guide_line_stipple = 17003;
@@ -105,10 +117,21 @@ inline constexpr number dimension_defaults = 24500;
 
 inline constexpr number option_manager = 25000;
 inline constexpr number option_providers = 25001;
+inline constexpr number option_provider = 25002;
+inline constexpr number option_provider_name = 25003;
+inline constexpr number option_provider_options = 25004;
+inline constexpr number option_key = 25005;
 
 inline constexpr number style_manager = 27000;
 inline constexpr number style_list = 27001;
+inline constexpr number style_selected = 27002;
+inline constexpr number style_working_copy = 27003;
 inline constexpr number style_is_changed = 27004;
+
+inline constexpr number style = 27500;
+inline constexpr number style_guid = 27501;
+inline constexpr number style_description = 27502;
+inline constexpr number style_folder = 27503;
 
 inline constexpr number scene_axes = 29007;
 inline constexpr number scene_shows_axes = 29010;
@@ -120,10 +143,21 @@ inline constexpr number environment_manager = 31000;
 inline constexpr number environment_list = 31001;
 
 // Of the summary beside the model.
+inline constexpr number summary_model_preview = 103;
+inline constexpr number summary_dialog_preview = 104;
+inline constexpr number summary_unit = 109;
+inline constexpr number summary_path = 111;
 inline constexpr number summary_lowest_reader = 115;
 inline constexpr number summary_format = 116;
 inline constexpr number summary_version = 117;
 inline constexpr number summary_major = 118;
 inline constexpr number summary_minor = 119;
+inline constexpr number summary_history = 120;
+inline constexpr number save_history = 200;
+inline constexpr number save_list = 201;
+inline constexpr number save = 202;
+inline constexpr number save_program = 203;
+inline constexpr number save_time = 204;
+inline constexpr number save_number = 205;
 
 } // namespace skp::modern::tag

@@ -3,6 +3,7 @@
 #include "sketchup/skp/modern/formats.h"
 #include "sketchup/skp/modern/option_fields.h"
 #include "sketchup/skp/writer/modern_bodies.h"
+#include "sketchup/skp/writer/modern_option_values.h"
 #include "sketchup/skp/writer/modern_tags.h"
 #include "sketchup/skp/writer/written_cameras.h"
 #include "sketchup/skp/writer/written_lists.h"
@@ -15,48 +16,8 @@ namespace tag = modern::tag;
 
 using sketchup::index;
 using sketchup::no_index;
-using sketchup::typed_value;
-using sketchup::value_code;
 
 namespace {
-
-// What the value holds if it is of that type, else zero.
-template<class T>
-T held(const typed_value* value) {
-    const T* data = value == nullptr ? nullptr : std::get_if<T>(&value->data);
-    return data == nullptr ? T() : *data;
-}
-
-std::int32_t section_display(const sketchup::rendering_options& options) {
-    return (held<bool>(written_option(options, "DisplaySectionPlanes")) ? modern::section_planes_bit : 0) |
-           (held<bool>(written_option(options, "DisplaySectionCuts")) ? modern::section_cuts_bit : 0);
-}
-
-void write_unnamed_option(record_sink& out, const modern::option_field& field) {
-    switch (field.type) {
-    case value_code::int32:
-        return out.i32(field.tag, static_cast<std::int32_t>(field.usual));
-    case value_code::float32:
-        return out.f32(field.tag, static_cast<float>(field.usual));
-    case value_code::float64:
-        return out.f64(field.tag, field.usual);
-    default:
-        return out.boolean(field.tag, field.usual != 0);
-    }
-}
-
-void write_option(record_sink& out, const modern::option_field& field, const typed_value* value) {
-    switch (field.type) {
-    case value_code::int32:
-        return out.i32(field.tag, static_cast<std::int32_t>(held<std::int64_t>(value)));
-    case value_code::color:
-        return out.rgba(field.tag, held<sketchup::rgba>(value));
-    case value_code::float64:
-        return out.f64(field.tag, held<double>(value));
-    default:
-        return out.boolean(field.tag, held<bool>(value));
-    }
-}
 
 void write_scene_base(modern_output& o, const sketchup::scene& s) {
     o.out.record(tag::scene_base, [&] {
@@ -144,16 +105,9 @@ void write_rendering_options(modern_output& o, const sketchup::rendering_options
     o.out.record(tag::rendering_options, [&] {
         if (options.dictionaries.count > 0)
             write_entity(o, options, 0);
-        for (const modern::option_field& field : modern::option_fields()) {
-            if (o.format < field.first_format || o.format > field.last_format)
-                continue;
-            if (field.tag == modern::section_display_tag)
-                o.out.i32(field.tag, section_display(options));
-            else if (field.name == nullptr)
-                write_unnamed_option(o.out, field);
-            else
-                write_option(o.out, field, written_option(options, field.name));
-        }
+        for (const modern::option_field& field : modern::option_fields())
+            if (o.format >= field.first_format && o.format <= field.last_format)
+                write_value(o.out, field.tag, written_field(field, options));
     });
 }
 
