@@ -47,21 +47,6 @@ bool maps_axes_to_axes(const transform& t) {
     return true;
 }
 
-box transformed_box(const transform& t, const box& b) {
-    box result;
-    if (b.is_empty()) {
-        return result;
-    }
-    for (const double x : {b.minimum.x, b.maximum.x}) {
-        for (const double y : {b.minimum.y, b.maximum.y}) {
-            for (const double z : {b.minimum.z, b.maximum.z}) {
-                include(result, transform_point(t, {x, y, z}));
-            }
-        }
-    }
-    return result;
-}
-
 bool holds(const box& outer, const box& inner) {
     return outer.minimum.x <= inner.minimum.x && outer.minimum.y <= inner.minimum.y &&
            outer.minimum.z <= inner.minimum.z && inner.maximum.x <= outer.maximum.x &&
@@ -104,6 +89,21 @@ box face_box(const model& m, const face& f) {
 box edge_box(const model& m, const edge& e) {
     box result;
     include_edge(m, e, as_it_is, result);
+    return result;
+}
+
+box transformed_box(const transform& t, const box& b) {
+    box result;
+    if (b.is_empty()) {
+        return result;
+    }
+    for (const double x : {b.minimum.x, b.maximum.x}) {
+        for (const double y : {b.minimum.y, b.maximum.y}) {
+            for (const double z : {b.minimum.z, b.maximum.z}) {
+                include(result, transform_point(t, {x, y, z}));
+            }
+        }
+    }
     return result;
 }
 

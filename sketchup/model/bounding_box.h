@@ -15,6 +15,9 @@ box face_box(const model& m, const face& f);
 // The box of the two ends of an edge.
 box edge_box(const model& m, const edge& e);
 
+// The box of a box's corners through a placement; empty for an empty box.
+box transformed_box(const transform& t, const box& b);
+
 // The box of the part of a plane inside `around`; where there is none, the point of the plane nearest to the origin. Of
 // a plane across an axis, minimum and maximum agree in that axis' coordinate. A plane without normal gives the origin.
 box plane_box(const plane& p, const box& around);

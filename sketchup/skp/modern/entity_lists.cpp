@@ -20,6 +20,8 @@ const std::array<model_data_reader::list_entry, model_data_reader::list_rows> mo
     {tag::entities_instances, tag::placement, &entity_list::instances, &model_data_reader::read_instance},
     {tag::entities_groups, tag::group, &entity_list::groups, &model_data_reader::read_group},
     {tag::entities_images, tag::image, &entity_list::images, &model_data_reader::read_image},
+    {tag::entities_section_planes, tag::section_plane, &entity_list::section_planes,
+     &model_data_reader::read_section_plane},
     {tag::entities_guide_lines, tag::guide_line, &entity_list::annotations, &model_data_reader::read_guide_line},
     {tag::entities_guide_points, tag::guide_point, &entity_list::annotations, &model_data_reader::read_guide_point},
     {tag::entities_texts, tag::text, &entity_list::annotations, &model_data_reader::read_text},
@@ -46,6 +48,7 @@ void model_data_reader::read_entities(byte_cursor in, sketchup::drawing_element&
     in.set_where("entities");
     std::array<std::optional<byte_cursor>, list_rows> lists;
     std::vector<byte_cursor> glue;
+    std::optional<byte_cursor> active_section_plane;
     std::vector<byte_cursor> unknown;
     list.id = m_.give_id();
     for (const record& r : records(in)) {
@@ -56,6 +59,8 @@ void model_data_reader::read_entities(byte_cursor in, sketchup::drawing_element&
             read_drawing_element(r.payload, base);
         else if (r.tag == tag::entities_glue)
             glue.push_back(r.payload);
+        else if (r.tag == tag::entities_active_section_plane)
+            active_section_plane = r.payload;
         else if (may_be_of_entities(r.tag) && !is_known_but_unused(r.tag))
             unknown.push_back(r.payload);
     }
@@ -63,6 +68,8 @@ void model_data_reader::read_entities(byte_cursor in, sketchup::drawing_element&
     list.persistent_id = base.persistent_id;
     read_lists(lists, list);
     read_glue(glue, list);
+    if (active_section_plane)
+        read_active_section_plane(*active_section_plane, list);
     read_unknown_lists(unknown, list);
 }
 

@@ -43,6 +43,7 @@ private:
         instances,
         groups,
         images,
+        section_planes,
         guide_lines,
         guide_points,
         texts,
@@ -93,8 +94,11 @@ private:
     void read_glue(const std::vector<byte_cursor>& managers, sketchup::entity_list& list);
 
     // section_planes.cpp
+    void read_section_plane(byte_cursor in, sketchup::entity_list& list);
+    void read_active_section_plane(byte_cursor id, sketchup::entity_list& list);
     void read_unknown_lists(const std::vector<byte_cursor>& unknown, sketchup::entity_list& list);
     void read_possible_section_plane(byte_cursor in, sketchup::entity_list& list);
+    void keep_section_plane(byte_cursor drawing, sketchup::section_plane s, sketchup::entity_list& list);
 
     // geometry.cpp
     void read_vertex(byte_cursor in, sketchup::entity_list& list);

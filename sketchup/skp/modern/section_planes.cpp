@@ -1,8 +1,11 @@
-// Section planes. No file of this container with one is known, so neither their number nor that of their list is.
-// What the classic container stores for them tells how to recognise one: this page is all there is of the guess.
+// Section planes. Their numbers are those that another reader of such files reports; no file that holds one was at
+// hand. So what looks like a list of them under a number that nothing else has is taken for one too: such a record is
+// known by what the classic container stores.
 
 #include "sketchup/skp/modern/model_data_reader.h"
 #include "sketchup/skp/modern/tags.h"
+
+#include <utility>
 
 namespace skp::modern {
 namespace {
@@ -55,6 +58,11 @@ plane_parts parts_of(byte_cursor in) {
     return parts;
 }
 
+sketchup::plane plane_in(byte_cursor payload) {
+    const auto numbers = doubles_in<4>(payload);
+    return {numbers[0], numbers[1], numbers[2], numbers[3]};
+}
+
 } // namespace
 
 // unknown: the payloads of an entity list that no known tag claims. Those that hold section planes are lists of them;
@@ -80,18 +88,57 @@ void model_data_reader::read_possible_section_plane(byte_cursor in, sketchup::en
     const plane_parts parts = parts_of(in);
     if (!parts.drawing || !parts.plane || parts.has_loops)
         return;
-    const auto place = static_cast<index>(m_.section_planes.size());
-    sketchup::section_plane& s = m_.section_planes.emplace_back();
-    s.id = m_.give_id();
-    read_drawing_element(*parts.drawing, s);
-    const auto numbers = doubles_in<4>(*parts.plane);
-    s.plane = {numbers[0], numbers[1], numbers[2], numbers[3]};
+    sketchup::section_plane s;
+    s.plane = plane_in(*parts.plane);
     if (!parts.texts.empty())
         s.name = parts.texts[0];
     if (parts.texts.size() > 1)
         s.symbol = parts.texts[1];
+    keep_section_plane(*parts.drawing, std::move(s), list);
+}
+
+// 17500. Without a plane there is nothing that cuts.
+void model_data_reader::read_section_plane(byte_cursor in, sketchup::entity_list& list) {
+    in.set_where("section plane");
+    sketchup::section_plane s;
+    std::optional<byte_cursor> drawing, plane;
+    for (const record& r : records(in)) {
+        switch (r.tag) {
+        case tag::drawing_element:
+            drawing = r.payload;
+            break;
+        case tag::section_plane_plane:
+            plane = r.payload;
+            break;
+        case tag::section_plane_name:
+            s.name = text_in(r.payload);
+            break;
+        case tag::section_plane_symbol:
+            s.symbol = text_in(r.payload);
+            break;
+        }
+    }
+    if (!drawing || !plane)
+        return;
+    s.plane = plane_in(*plane);
+    keep_section_plane(*drawing, std::move(s), list);
+}
+
+// 5012
+void model_data_reader::read_active_section_plane(byte_cursor id, sketchup::entity_list& list) {
+    const auto active = section_planes_.find(id_in(id));
+    if (active != section_planes_.end())
+        list.active_section_plane = active->second;
+}
+
+void model_data_reader::keep_section_plane(byte_cursor drawing, sketchup::section_plane s,
+                                           sketchup::entity_list& list) {
+    const auto place = static_cast<index>(m_.section_planes.size());
+    s.id = m_.give_id();
+    read_drawing_element(drawing, s);
     if (s.persistent_id != 0)
         section_planes_.emplace(static_cast<std::uint64_t>(s.persistent_id), place);
+    m_.section_planes.push_back(std::move(s));
     list.section_planes.push_back(place);
 }
 

@@ -61,6 +61,8 @@ inline constexpr number entities_order = 5006;
 inline constexpr number entities_images = 5008;
 inline constexpr number entities_guide_lines = 5009;
 inline constexpr number entities_guide_points = 5010;
+inline constexpr number entities_section_planes = 5011;
+inline constexpr number entities_active_section_plane = 5012;
 inline constexpr number entities_curves = 5014;
 inline constexpr number entities_arcs = 5015;
 inline constexpr number entities_texts = 5016;
@@ -154,6 +156,11 @@ inline constexpr number layer_folder_layers = 16004;
 inline constexpr number guide = 17000;
 inline constexpr number guide_line = 17001;
 inline constexpr number guide_point = 17004;
+
+inline constexpr number section_plane = 17500;
+inline constexpr number section_plane_plane = 17501;
+inline constexpr number section_plane_name = 17502;
+inline constexpr number section_plane_symbol = 17503;
 
 inline constexpr number curve = 19000;
 inline constexpr number curve_polygon = 19002;

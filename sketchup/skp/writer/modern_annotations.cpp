@@ -1,5 +1,5 @@
 // Guides, texts and dimensions in the archive container. A model keeps what they are, not where they lie: all are
-// written at the origin and say nothing.
+// written at the origin, dimensions an inch long, and say nothing.
 
 #include "sketchup/skp/writer/modern_bodies.h"
 #include "sketchup/skp/writer/modern_tags.h"
@@ -22,7 +22,7 @@ void write_guide_line(modern_output& o, const annotation& a) {
     out.record(tag::guide, [&] { write_drawing_element(o, a, o.ids.of(&a)); });
     // Point, direction, start, end.
     out.doubles(tag::guide_line_figures, std::array{0.0, 0.0, 0.0, 1.0, 0.0, 0.0, -without_end, without_end});
-    out.u16(tag::guide_line_stipple, 0);
+    out.u16(tag::guide_line_stipple, 0xFFFF); // unbroken
 }
 
 void write_guide_point(modern_output& o, const annotation& a) {
@@ -34,11 +34,14 @@ void write_guide_point(modern_output& o, const annotation& a) {
 }
 
 // A free point that holds on to nothing.
-void write_attachment(modern_output& o) {
+void write_attachment(modern_output& o, const sketchup::vec3& point = {}) {
     constexpr std::int32_t free_point = 1;
-    o.out.record(tag::attachment, [&] {
-        o.out.i32(tag::attachment_kind, free_point);
-        o.out.v3(tag::attachment_point, {});
+    record_sink& out = o.out;
+    out.record(tag::attachment, [&] {
+        out.i32(tag::attachment_kind, free_point);
+        out.v3(tag::attachment_point, point);
+        for (const std::uint16_t end : {tag::attachment_first, tag::attachment_second})
+            out.record(end, [&] { out.record(tag::attached_to, [&] { out.empty(tag::attached_path); }); });
     });
 }
 
@@ -71,12 +74,12 @@ void write_linear_dimension(modern_output& o, const annotation& a) {
         out.i32(23004, 3);
     });
     out.record(tag::linear_dimension_start, [&] { write_attachment(o); });
-    out.record(tag::linear_dimension_end, [&] { write_attachment(o); });
+    out.record(tag::linear_dimension_end, [&] { write_attachment(o, {1, 0, 0}); });
     out.v3(tag::linear_dimension_x_axis, {1, 0, 0});
     out.v3(tag::linear_dimension_normal, {0, 0, 1});
     out.i32(23505, 1);
     out.f64(23507, 0); // stands before 23506
-    out.f64(23506, 0);
+    out.f64(tag::linear_dimension_offset, 1);
     out.i32(23508, 3);
 }
 

@@ -7,6 +7,7 @@
 #include "sketchup/skp/writer/id_book.h"
 #include "sketchup/skp/writer/material_files.h"
 #include "sketchup/skp/writer/record_sink.h"
+#include "sketchup/skp/writer/written_boxes.h"
 
 #include <cstdint>
 
@@ -20,6 +21,7 @@ struct modern_output {
     std::uint64_t font;             // id of the one font
     std::uint64_t style;            // id of the one display style
     std::uint64_t first_line_style; // id of the first; the others follow it
+    written_boxes boxes;
     record_sink out;
 };
 
@@ -58,8 +60,9 @@ void write_annotation(modern_output& o, const sketchup::annotation& a);
 // modern_components.cpp
 void write_definitions(modern_output& o);
 // owner: the definition; of the model's own list a stand-in with the list's dictionaries. id: 0 for none.
+// box: what the list is drawn in.
 void write_entities(modern_output& o, const sketchup::entity_list& list, const sketchup::drawing_element& owner,
-                    std::uint64_t id);
+                    std::uint64_t id, const sketchup::box& box);
 void write_behavior(modern_output& o, const sketchup::component_behavior& behavior);
 
 // modern_materials.cpp

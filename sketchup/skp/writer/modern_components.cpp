@@ -9,6 +9,7 @@
 #include "sketchup/skp/writer/written_guids.h"
 #include "sketchup/skp/writer/written_lists.h"
 
+#include <array>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -150,8 +151,6 @@ std::uint64_t id_of(const modern_output& o, const sketchup::glue_end& end) {
 
 void write_glue(modern_output& o, const entity_list& list) {
     record_sink& out = o.out;
-    if (list.glue.empty())
-        return;
     out.record(tag::entities_glue, [&] {
         out.record(tag::glue_manager, [&] {
             out.record(tag::glue_list, [&] {
@@ -172,16 +171,29 @@ void write_placements(modern_output& o, const entity_list& list) {
     };
     write_list(o, tag::entities_instances, list.instances, bare);
     write_list(o, tag::entities_groups, list.groups, within(tag::group));
+    write_list(o, tag::entities_images, list.images, within(tag::image));
+}
+
+void write_section_planes(modern_output& o, const entity_list& list) {
     write_list(o, tag::entities_section_planes, list.section_planes,
                [&](index one) { write_section_plane(o, o.model.section_planes[one]); });
-    write_list(o, tag::entities_images, list.images, within(tag::image));
+    if (list.active_section_plane != no_index)
+        o.out.id(tag::entities_active_section_plane, o.ids.of(&o.model.section_planes[list.active_section_plane]));
+}
+
+// The box around what is drawn; a list in which nothing is has none.
+void write_box(modern_output& o, const sketchup::box& box) {
+    o.out.boolean(tag::entities_has_box, !box.is_empty());
+    if (!box.is_empty())
+        o.out.doubles(tag::entities_box, std::array{box.minimum.x, box.minimum.y, box.minimum.z, box.maximum.x,
+                                                    box.maximum.y, box.maximum.z});
 }
 
 void write_definition(modern_output& o, index at) {
     record_sink& out = o.out;
     const sketchup::component_definition& d = o.model.definitions[at];
     out.record(tag::definition, [&] {
-        write_entities(o, d.entities, d, o.ids.of(&d));
+        write_entities(o, d.entities, d, o.ids.of(&d), o.boxes.of_definition(at));
         out.raw(tag::definition_guid, written_guid(d.guid, guid_owner::definition, at));
         out.text(tag::definition_name, d.name);
         out.text(tag::definition_description, d.description);
@@ -218,8 +230,8 @@ void write_definitions(modern_output& o) {
     });
 }
 
-void write_entities(modern_output& o, const entity_list& list, const sketchup::drawing_element& owner,
-                    std::uint64_t id) {
+void write_entities(modern_output& o, const entity_list& list, const sketchup::drawing_element& owner, std::uint64_t id,
+                    const sketchup::box& box) {
     record_sink& out = o.out;
     const parts_of_list parts = parts_of(o.model, list);
     out.record(tag::entities, [&] {
@@ -230,18 +242,16 @@ void write_entities(modern_output& o, const entity_list& list, const sketchup::d
         write_list(o, tag::entities_edges, parts.edges, [&](index one) { write_edge(o, o.model.edges[one]); });
         write_list(o, tag::entities_faces, list.faces, [&](index one) { write_face(o, o.model.faces[one]); });
         write_placements(o, list);
+        write_section_planes(o, list);
         for (const annotation_list& kind : annotation_lists)
             write_list(o, kind.list, annotations_of(o, list, kind.item),
                        [&](index one) { write_annotation(o, o.model.annotations[one]); });
         if (o.format >= modern::format_2021_1)
             out.empty(5022);
-        if (const std::vector<std::uint64_t> order = order_of(o, list, parts); !order.empty())
-            out.ids(tag::entities_order, order);
+        out.ids(tag::entities_order, order_of(o, list, parts));
         write_glue(o, list);
-        if (list.active_section_plane != no_index)
-            out.id(tag::entities_active_section_plane, o.ids.of(&o.model.section_planes[list.active_section_plane]));
         if (o.format >= modern::format_2024)
-            out.boolean(tag::entities_has_box, false);
+            write_box(o, box);
     });
 }
 

@@ -26,15 +26,6 @@ inline constexpr number model_environments = 528;
 inline constexpr number id_source = 1000;
 inline constexpr number id_source_next = 1001;
 
-// Section planes: no file with one is known. The number of the class and that of its list are two of those that no
-// other class has; a reader that does not know them skips them.
-inline constexpr number entities_section_planes = 5007;
-inline constexpr number entities_active_section_plane = 5020;
-inline constexpr number section_plane = 10500;
-inline constexpr number section_plane_plane = 10501;
-inline constexpr number section_plane_name = 10502;
-inline constexpr number section_plane_symbol = 10503;
-
 inline constexpr number definition_modified = 5506;
 
 inline constexpr number definition_thumbnail = 5509;
@@ -96,6 +87,10 @@ inline constexpr number font_world_size = 20506;
 inline constexpr number attachment = 21000;
 inline constexpr number attachment_kind = 21001;
 inline constexpr number attachment_point = 21002;
+inline constexpr number attachment_first = 21003;
+inline constexpr number attachment_second = 21004;
+inline constexpr number attached_to = 21500;
+inline constexpr number attached_path = 21502;
 
 inline constexpr number text_content = 22001;
 inline constexpr number text_screen_x = 22002;
@@ -112,6 +107,7 @@ inline constexpr number linear_dimension_start = 23501;
 inline constexpr number linear_dimension_end = 23502;
 inline constexpr number linear_dimension_x_axis = 23503;
 inline constexpr number linear_dimension_normal = 23504;
+inline constexpr number linear_dimension_offset = 23506;
 
 inline constexpr number dimension_defaults = 24500;
 

@@ -7,6 +7,7 @@
 #include "sketchup/skp/writer/modern_tags.h"
 #include "sketchup/skp/writer/written_cameras.h"
 #include "sketchup/skp/writer/written_lists.h"
+#include "sketchup/skp/writer/written_sun.h"
 
 #include <vector>
 
@@ -111,8 +112,9 @@ void write_rendering_options(modern_output& o, const sketchup::rendering_options
     });
 }
 
-void write_shadow_info(modern_output& o, const sketchup::shadow_info& info) {
+void write_shadow_info(modern_output& o, const sketchup::shadow_info& sun) {
     record_sink& out = o.out;
+    const sketchup::shadow_info info = written_sun(sun);
     out.record(tag::shadow_info, [&] {
         if (info.dictionaries.count > 0)
             write_entity(o, info, 0);

@@ -78,8 +78,8 @@ void write_content(modern_output& o) {
     write_definitions(o);
     sketchup::drawing_element owner(sketchup::entity_kind::entities);
     owner.dictionaries = o.model.root.dictionaries;
-    out.record(tag::model_content,
-               [&] { write_entities(o, o.model.root, owner, static_cast<std::uint64_t>(o.model.root.persistent_id)); });
+    const auto id = static_cast<std::uint64_t>(o.model.root.persistent_id);
+    out.record(tag::model_content, [&] { write_entities(o, o.model.root, owner, id, o.boxes.of_root()); });
 }
 
 void write_tail(modern_output& o) {
@@ -97,7 +97,7 @@ void write_tail(modern_output& o) {
 }
 
 std::vector<std::uint8_t> model_data(const sketchup::model& m, std::uint16_t format, const material_files& files) {
-    modern_output o{m, format, files, id_book(m), 0, 0, 0, {}};
+    modern_output o{m, format, files, id_book(m), 0, 0, 0, written_boxes(m), {}};
     o.font = o.ids.fresh();
     o.style = o.ids.fresh();
     o.first_line_style = o.ids.fresh(usual_line_styles().size());

@@ -17,8 +17,9 @@ enum class modern_version { v21, v25 };
 // Ids are the references of this container: what has no persistent id, or one that another element has too, gets a
 // fresh one above all others. Left out is what the container has no room for: the alpha of materials, attributes of
 // materials that are no scalars, the attributes and ids of textures, the ids of dictionaries and edge uses, insertion
-// points. So are radial dimensions and polylines, whose layout is not known; that of section planes is not either, they
-// are written in a form that skp::read_model understands and others skip. Annotations as in write_classic.
+// points. So are radial dimensions and polylines, whose layout is not known. What files of the program always hold and
+// a model does not is added: guids, times, a display style, line styles, settings, previews (plain ones), boxes, the
+// average colours of textures, upright views. Annotations as in write_classic.
 // Throws format_error if a picture cannot be loaded, std::runtime_error if the archive cannot be made.
 std::vector<std::uint8_t> write_modern(const sketchup::model& m, modern_version version);
 

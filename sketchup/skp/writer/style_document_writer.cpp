@@ -149,7 +149,7 @@ std::string style_document_text(const std::string& name, const sketchup::renderi
     pugi::xml_node style = add_root(document, "styleDocument", "sty", style_namespace).append_child("sty:style");
     set(style, "xmlns:t", types_namespace);
     set(style, "name", name);
-    set(style, "desc", "");
+    set(style, "desc", "The rendering options of the model.");
     for (const style_item& item : items) {
         if (format < item.first_format)
             continue;

@@ -1,4 +1,4 @@
-// Annotations of the archive container, and section planes as far as they can be guessed.
+// Annotations and section planes of the archive container.
 
 #include "tests/sketchup/skp/modern/record_bytes.h"
 
@@ -36,6 +36,28 @@ TEST(ModernAnnotations, one_without_its_drawing_fields_is_left_out) {
     EXPECT_TRUE(m->annotations.empty());
 }
 
+TEST(ModernSectionPlanes, a_plane_has_its_numbers_its_name_and_its_symbol) {
+    const auto m = read_parts(
+        content(rec(5012, id(72)) + rec(5011, rec(17500, drawing(71) + rec(17501, plane_up())) +
+                                                  rec(17500, drawing(72) + rec(17501, doubles({1, 0, 0, -5})) +
+                                                                 rec(17502, text("Cut\t1")) + rec(17503, text("A"))))));
+    ASSERT_EQ(m->section_planes.size(), 2u);
+    EXPECT_EQ(m->root.section_planes, (std::vector<sketchup::index>{0, 1}));
+    EXPECT_EQ(m->root.active_section_plane, 1u);
+    EXPECT_EQ(m->section_planes[0].name, "");
+    EXPECT_EQ(m->section_planes[1].name, "Cut\t1");
+    EXPECT_EQ(m->section_planes[1].symbol, "A");
+    EXPECT_EQ(m->section_planes[1].plane, (sketchup::plane{1, 0, 0, -5}));
+    EXPECT_EQ(m->section_planes[1].persistent_id, 72);
+}
+
+TEST(ModernSectionPlanes, a_record_without_a_plane_or_a_drawing_part_is_left_out) {
+    const auto m = read_parts(
+        content(rec(5011, rec(17500, drawing(71)) + rec(17500, rec(17501, plane_up()))) + rec(5012, id(71))));
+    EXPECT_TRUE(m->section_planes.empty());
+    EXPECT_EQ(m->root.active_section_plane, no_index);
+}
+
 TEST(ModernSectionPlanes, a_plane_in_a_list_of_unknown_number_is_found) {
     const auto m = read_parts(content(rec(5007, section_plane(71, rec(10502, text("Cut")) + rec(10503, text("A"))))));
     ASSERT_EQ(m->section_planes.size(), 1u);
@@ -67,7 +89,7 @@ TEST(ModernSectionPlanes, unknown_lists_of_other_things_are_passed_over) {
     const bytes face_like = rec(10500, drawing(71) + rec(10501, plane_up()) + rec(3502));
     const bytes baseless = rec(10500, rec(10501, plane_up()));
     const auto m =
-        read_parts(content(rec(5011, no_plane + face_like + baseless) + rec(5012, text("Section plane")) +
+        read_parts(content(rec(5007, no_plane + face_like + baseless) + rec(5020, text("Section plane")) +
                            rec(5013, {1, 2, 3}) + rec(5018, rec(10500, text("seven b"))) + rec(5021, id(9))));
     EXPECT_TRUE(m->section_planes.empty());
     EXPECT_EQ(m->root.active_section_plane, no_index);

@@ -125,9 +125,12 @@ TEST(ModernWriter, materials_and_layers_have_a_folder_each_and_the_model_comes_l
     for (const directory_entry& e : directory_of(file, 65))
         names.push_back(e.name);
     // In the order of the model's materials: the default layer's was there first. Names differ in more than case.
-    EXPECT_EQ(names, (std::vector<std::string>{"materials/Layer_Layer0/material.xml", "materials/Ti_les/material.xml",
-                                               "materials/Ti_les/tiles.bmp", "materials/ti_les1/material.xml",
-                                               "materials/Layer_Walls/material.xml", "meta/meta.dat", "model.dat"}));
+    EXPECT_EQ(names,
+              (std::vector<std::string>{"meta/model_thumbnail.png", "meta/preview_thumbnail.png", "meta/meta.dat",
+                                        "materials/Layer_Layer0/material.xml", "materials/Ti_les/material.xml",
+                                        "materials/Ti_les/tiles.bmp", "materials/ti_les1/material.xml",
+                                        "materials/Layer_Walls/material.xml", "styles/Model style/style.xml",
+                                        "styles/Model style_1/style.xml", "model.dat"}));
 }
 
 TEST(ModernWriter, equal_models_give_equal_bytes) {
@@ -150,7 +153,7 @@ TEST(ModernWriter, the_parts_of_the_model_stand_in_the_order_of_the_program) {
 TEST(ModernWriter, an_entity_list_stands_in_the_order_of_its_table_and_leaves_empty_lists_out) {
     const bytes data = skp::modern_model_data(*painted_model(), skp::modern_version::v25);
     EXPECT_EQ(tags_in(part(data, {500, 502, 5000})),
-              (std::vector<std::uint16_t>{2000, 5001, 5002, 5003, 5022, 5006, 5023}));
+              (std::vector<std::uint16_t>{2000, 5001, 5002, 5003, 5022, 5006, 5019, 5023, 5024}));
     EXPECT_EQ(tags_in(part(data, {500, 502, 5000, 5003, 3500})), (std::vector<std::uint16_t>{2000, 3501, 3502}));
 }
 

@@ -149,9 +149,8 @@ void generator::add_annotations(list_builder& list) {
     for (std::uint32_t i = random_.below(5); i > 0; --i)
         list.annotation(static_cast<annotation_kind>(random_.below(6)));
     for (std::uint32_t i = random_.below(3); i > 0; --i) {
-        std::string name = random_.name();
-        std::erase(name, '\t'); // the archive container's reader knows a plane's name by having no control characters
-        const entity_place made = list.section_plane({0, 0.6, 0.8, random_.figure()}, random_.chance(2), name);
+        const entity_place made =
+            list.section_plane({0, 0.6, 0.8, random_.figure()}, random_.chance(2), random_.name());
         builder_.model().section_planes[made.at].symbol = std::to_string(i);
     }
 }
@@ -279,6 +278,9 @@ camera generator::view() {
 void generator::set_view() {
     model& m = builder_.model();
     m.guid = random_.guid();
+    for (texture& t : m.textures)
+        if (t.average_color == rgba{}) // of an image; files always have one
+            t.average_color = {random_.color().red, 0, 0, 255};
     m.description = "Description " + random_.text();
     m.camera = view();
     m.rendering_options.values = options();
