@@ -1,4 +1,4 @@
-#include "tests/tessaline/painted_model.h"
+#include "tests/tessaline/settled_faces.h"
 
 #include <gtest/gtest.h>
 
@@ -8,38 +8,7 @@ namespace {
 
 constexpr transform16 mirrored_in_y{1, 0, 0, 0, 0, -1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 
-const std::string plain_head = lines({"#; ProcessFace MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"});
-const std::string end_of_block = lines({"EMSH;"});
-
-class FaceMeshing : public reader_test {
-protected:
-    // Writes the first face of the model with sides that are settled already.
-    int write_first_face(const face_side& front, const face_side& back) { return write_face(0, front, back); }
-    int write_face(std::size_t index, const face_side& front, const face_side& back) {
-        return reader.write_face_sides({faces()[index], identity16, false, "Layer0", true}, front, back);
-    }
-
-    static face_side side(int number, bool textured = false) {
-        face_side result;
-        result.number = number;
-        result.textured = textured;
-        return result;
-    }
-    static face_side glowing(int number) {
-        face_side result = side(number);
-        result.glows = true;
-        return result;
-    }
-};
-
-// The square's vertices, numbered from `base`, and its triangles.
-std::string square_from(int base) {
-    const auto number = [base](int n) { return std::to_string(base + n); };
-    return lines({"NORM;(0,0,1)", "VERT;(2.54,0,0)", "ADDV;" + number(0), "NORM;(0,0,1)", "VERT;(0,2.54,0)",
-                  "ADDV;" + number(1), "NORM;(0,0,1)", "VERT;(0,0,0)", "ADDV;" + number(2), "NORM;(0,0,1)",
-                  "VERT;(2.54,2.54,0)", "ADDV;" + number(3), "FACE;" + number(0) + "," + number(1) + "," + number(2),
-                  "FACE;" + number(1) + "," + number(0) + "," + number(3)});
-}
+using FaceMeshing = settled_faces_test;
 
 // The square as the second pass writes it: the same vertices, the triangles turned round.
 const std::string square_turned_round =
@@ -124,45 +93,6 @@ TEST_F(FaceMeshing, one_material_on_both_sides_with_the_setting_one_gives_one_bl
                                  square_without_uvq + end_of_block);
 }
 
-TEST_F(FaceMeshing, a_texture_on_the_back_only_shows_on_both_sides_in_front_winding) {
-    builder.root().square(100);
-    open();
-    // The paint of the enclosing object stands in on the back alone, so its scale marks the coordinates as the back's.
-    material_records.resize(2);
-    material_records[1].tile_x = 0.5;
-    face_side back = side(11, true);
-    back.inherited = true;
-    write_first_face(side(0), back);
-    // A side without a picture of its own counts inches along the plane's axes.
-    EXPECT_EQ(stream_text(), lines({"#; ProcessFace MESH",
-                                    "MESH;",
-                                    "TLAY;Layer0",
-                                    "CULL;0",
-                                    "MPUV;1",
-                                    "MATL;11",
-                                    "MPU2;1",
-                                    "MAT2;11",
-                                    "NORM;(0,0,1)",
-                                    "UVQ;(50,0,1)",
-                                    "VERT;(2.54,0,0)",
-                                    "ADDV;0",
-                                    "NORM;(0,0,1)",
-                                    "UVQ;(0,100,1)",
-                                    "VERT;(0,2.54,0)",
-                                    "ADDV;1",
-                                    "NORM;(0,0,1)",
-                                    "UVQ;(0,0,1)",
-                                    "VERT;(0,0,0)",
-                                    "ADDV;2",
-                                    "NORM;(0,0,1)",
-                                    "UVQ;(50,100,1)",
-                                    "VERT;(2.54,2.54,0)",
-                                    "ADDV;3",
-                                    "FACE;0,1,2",
-                                    "FACE;1,0,3",
-                                    "EMSH;"}));
-}
-
 TEST_F(FaceMeshing, an_inherited_material_stretches_the_coordinates_by_its_picture) {
     builder.root().square(100);
     open();
@@ -208,69 +138,6 @@ TEST_F(FaceMeshing, a_front_without_record_stretches_nothing) {
     front.inherited = true;
     write_first_face(front, side(0));
     EXPECT_NE(stream_text().find("UVQ;(100,0,1)\r\nVERT;(2.54,0,0)"), std::string::npos);
-}
-
-TEST_F(FaceMeshing, faces_of_one_glowing_material_share_a_block_and_number_on) {
-    for (int i = 0; i != 4; ++i)
-        builder.root().face({{0, 0, 0}, {100, 0, 0}, {100, 100, 0}, {0, 100, 0}});
-    open();
-    write_face(0, glowing(10), side(0));
-    write_face(1, glowing(10), side(0));
-    write_face(2, side(0), glowing(10));
-    write_face(3, side(0), side(0)); // ends the block
-    EXPECT_EQ(stream_text(), lines({"#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1",
-                                    "MATL;10", "MPU2;1", "MAT2;10"}) +
-                                 square_from(0) + square_from(4) + square_from(8) + end_of_block + plain_head +
-                                 square_from(0) + end_of_block);
-    EXPECT_EQ(reader.blocks.state().mesh_count, 1);
-    EXPECT_EQ(reader.blocks.state().illum_material, -1);
-}
-
-TEST_F(FaceMeshing, a_lamp_face_of_a_glowing_material_glows_and_is_no_lamp) {
-    builder.root().square(100);
-    open();
-    current_oparms->light.lamp_type = "rect_glow";
-    EXPECT_EQ(write_first_face(glowing(10), side(0)), 1);
-    EXPECT_EQ(stream_text(), lines({"#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1",
-                                    "MATL;10", "MPU2;1", "MAT2;10"}) +
-                                 square_from(0)); // what follows the faces of the list ends the block
-    EXPECT_EQ(reader.ilights_saved, 0);
-    EXPECT_EQ(reader.blocks.state().vertex_base, 4);
-}
-
-TEST_F(FaceMeshing, a_glowing_face_inside_a_lamp_block_is_a_face_of_the_lamp) {
-    builder.root().square(100);
-    open();
-    open_lamp_block();
-    EXPECT_EQ(write_first_face(glowing(10), side(0)), 1);
-    EXPECT_EQ(stream_text(), lamp_head + lines({"TLAY;Layer0", "CULL;0", "MATL;10", "MAT2;10"}) + square_from(0));
-    EXPECT_FALSE(reader.blocks.state().in_illum_mesh);
-}
-
-// The glow has a block, although the other faces of such a light have none.
-TEST_F(FaceMeshing, a_glowing_face_of_a_direct_light_has_a_block) {
-    builder.root().square(100);
-    open();
-    current_oparms->light.lamp_type = "bulb";
-    current_oparms->light.direct_light = true;
-    write_first_face(glowing(10), side(0));
-    write_first_face(side(0), side(0));
-    EXPECT_EQ(stream_text(), lines({"#; Process Material Illum MESH", "MESH;", "TLAY;Layer0", "CULL;0", "MPUV;1",
-                                    "MATL;10", "MPU2;1", "MAT2;10"}) +
-                                 square_from(0) + end_of_block + lines({"TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"}) +
-                                 square_from(0) + end_of_block);
-    EXPECT_EQ(reader.blocks.state().mesh_count, 1);
-}
-
-// The second face shows both its sides without a word of their materials; the first of a block never does.
-TEST_F(FaceMeshing, the_face_that_opens_a_glowing_block_has_one_pass_and_those_behind_it_as_many_as_the_setting_says) {
-    set_global_int("ivl_2_sided_faces", 2);
-    builder.root().square(100);
-    open();
-    write_first_face(glowing(10), side(11));
-    EXPECT_EQ(reader.blocks.state().vertex_base, 4);
-    write_first_face(glowing(10), side(11));
-    EXPECT_EQ(reader.blocks.state().vertex_base, 12);
 }
 
 TEST_F(FaceMeshing, a_face_inside_a_lamp_block_repeats_the_state_lines_and_numbers_on) {
@@ -439,35 +306,4 @@ TEST_F(FaceMeshing, colour_by_layer_takes_the_paint_off_the_face) {
     SUMaterialRef front = SU_INVALID;
     SUFaceGetFrontMaterial(faces().front(), &front);
     EXPECT_TRUE(SUIsInvalid(front));
-}
-
-using PaintedFaceMeshing = painted_model_test;
-
-// The face has lost its own paint, so that its coordinates are inches, and the layer's tile is 10 by 20 inches.
-TEST_F(PaintedFaceMeshing, colour_by_layer_stretches_the_coordinates_by_the_picture_of_the_layer) {
-    theApp.color_by_layer = true;
-    set_global_int("ivl_2_sided_faces", 2);
-    square(plain(12, "Red"));
-    builder.model().layers[0].material = textured(13, "Brick");
-    open_painted();
-    process_faces();
-    const std::string vertices =
-        lines({"MATL;10", "MPUV;1", "NORM;(0,0,1)", "UVQ;(10,0,1)", "VERT;(2.54,0,0)", "ADDV;0", "NORM;(0,0,1)",
-               "UVQ;(0,5,1)", "VERT;(0,2.54,0)", "ADDV;1", "NORM;(0,0,1)", "UVQ;(0,0,1)", "VERT;(0,0,0)", "ADDV;2",
-               "NORM;(0,0,1)", "UVQ;(10,5,1)", "VERT;(2.54,2.54,0)", "ADDV;3"});
-    const std::string head = lines({"#; ProcessFace MESH", "MESH;", "TLAY;Layer0", "CULL;1"});
-    EXPECT_EQ(stream_text(), lines({"MATF;Brick.OrnMaterial", "MTX2;1", "MATI;10"}) + head + vertices +
-                                 lines({"FACE;0,1,2", "FACE;1,0,3", "EMSH;", "EMSH; Face"}) + head + vertices +
-                                 lines({"FACE;2,1,0", "FACE;3,0,1", "EMSH;"}));
-}
-
-// Without a texture writer nothing straightens the picture, and the helper gives q = 1 - x / 1000.
-TEST_F(PaintedFaceMeshing, the_third_coordinate_is_1_and_is_not_divided_into_the_others) {
-    const auto brick = textured(12, "Brick");
-    distort_front(square(brick, brick));
-    open();
-    process_faces();
-    const std::string text = stream_text();
-    EXPECT_NE(text.find("UVQ;(10,0,1)\r\nVERT;(2.54,0,0)"), std::string::npos) << text;
-    EXPECT_NE(text.find("UVQ;(10,5,1)\r\nVERT;(2.54,2.54,0)"), std::string::npos) << text;
 }
