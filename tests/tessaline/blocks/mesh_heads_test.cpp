@@ -41,6 +41,17 @@ TEST_F(MeshHeads, a_ground_cover_file_that_is_not_there_is_named_as_it_stands) {
     EXPECT_EQ(stream_text(), lines({"#; a", "MESH;", "GCOR;2", "GNDC;c:\\covers\\grass.orn"}));
 }
 
+TEST_F(MeshHeads, the_ground_cover_stands_between_the_shadow_and_the_invisibility) {
+    reader.blocks.begin_mesh({.label = "a",
+                              .casts_shadows = false,
+                              .groundcover_file = "c:\\covers\\grass.orn",
+                              .groundcover_orientation = 2,
+                              .invisible = true,
+                              .layer_name = "Layer0"});
+    EXPECT_EQ(stream_text(),
+              lines({"#; a", "MESH;", "SHDW;0", "GCOR;2", "GNDC;c:\\covers\\grass.orn", "INVS;1", "SHDW;0"}));
+}
+
 TEST_F(MeshHeads, a_ground_cover_file_is_copied_into_the_plants_of_the_batch_folder) {
     temporary_folder folder;
     theApp.batch_folder = folder.name();

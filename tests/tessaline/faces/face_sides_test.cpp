@@ -36,6 +36,16 @@ TEST(FaceSides, a_material_on_the_back_only_shows_on_a_one_sided_face) {
     EXPECT_EQ(source_of_uvq(plan, face_pass::front), uvq_source::back);
 }
 
+TEST(FaceSides, the_back_is_primary_up_to_the_setting_one) {
+    const face_plan plan = plan_for(side(0), side(12, true), 1, true);
+    EXPECT_FALSE(plan.two_sided);
+    EXPECT_TRUE(plan.back_is_primary);
+    EXPECT_EQ(plan.front.number, 12);
+    EXPECT_TRUE(plan.front.textured);
+    EXPECT_TRUE(plan_for(side(0), side(12, true), -1, true).back_is_primary);
+    EXPECT_FALSE(plan_for(side(0), side(12, true), 3, true).back_is_primary);
+}
+
 TEST(FaceSides, a_material_on_both_sides_shows_the_front) {
     const face_plan plan = plan_for(side(11, true), side(12, true), 0, true);
     EXPECT_FALSE(plan.back_is_primary);

@@ -130,6 +130,21 @@ TEST(GeometryStream, a_plant_of_a_library_names_the_library) {
                      "PLRT;0.000000", "PLSC;1.500000", "PLNT;1", "#"}));
 }
 
+// Six decimals of a negative number that is not snapped keep its sign.
+TEST(GeometryStream, the_sizes_of_a_plant_below_1e_7_are_plain_zero) {
+    plant_record plant;
+    plant.library = "Trees";
+    plant.name = "Oak";
+    plant.diameter = plant.rotation_degrees = plant.scale = -5e-8;
+    EXPECT_EQ(written_by([&](geometry_stream& s) { s.write_plant(plant); }),
+              lines({"#;PLANT", "PLLB;Trees", "PLNM;Oak", "PLLC;(0,0,0)", "PLDM;0.000000", "PLSN;1", "PLRT;0.000000",
+                     "PLSC;0.000000", "PLNT;1", "#"}));
+    plant.diameter = plant.rotation_degrees = plant.scale = -1e-7;
+    EXPECT_EQ(written_by([&](geometry_stream& s) { s.write_plant(plant); }),
+              lines({"#;PLANT", "PLLB;Trees", "PLNM;Oak", "PLLC;(0,0,0)", "PLDM;-0.000000", "PLSN;1", "PLRT;-0.000000",
+                     "PLSC;-0.000000", "PLNT;1", "#"}));
+}
+
 TEST(GeometryStream, a_plant_with_data_of_its_own_has_a_fixed_library) {
     plant_record plant;
     plant.library = "Trees";
