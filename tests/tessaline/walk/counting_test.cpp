@@ -78,6 +78,29 @@ TEST_F(Counting, edges_count_only_when_they_are_asked_for) {
     EXPECT_EQ(total_with(2), 2); // a face and the edge that stands alone
 }
 
+TEST_F(Counting, edges_that_are_written_count_as_done_even_if_they_are_hidden) {
+    const auto done_with = [this](int edge_lines) {
+        set_global_int("ivl_edge_lines", edge_lines);
+        model_builder m;
+        m.root().square(10);
+        m.element(m.root().edge({0, 0, 50}, {10, 0, 50})).hidden = true;
+        SketchUpReader one;
+        one.ReadSkpFile(save(m), batch / "batch_file.txt");
+        return one.items_done;
+    };
+    EXPECT_EQ(done_with(0), 1);
+    EXPECT_EQ(done_with(1), 6); // a face, its four edges and the one that stands alone
+    EXPECT_EQ(done_with(2), 2); // a face and the edge that stands alone
+}
+
+TEST_F(Counting, comes_behind_the_settings_of_the_model) {
+    model_builder m;
+    m.attribute(m.root().list(), "qlw_globals", "ivl_edge_lines", sketchup::whole_number(1));
+    m.root().square(10);
+    body_of(m);
+    EXPECT_EQ(reader.total_items, 5); // a face and its four edges
+}
+
 TEST_F(Counting, a_scattered_component_counts_its_content_and_every_line_once_more) {
     model_builder m;
     list_builder pebble = m.component("pebble");
@@ -157,6 +180,7 @@ TEST_F(Counting, an_image_counts_once_for_each_placement) {
     m.root().instance(frame);
     body_of(m);
     EXPECT_EQ(reader.total_items, 2);
+    EXPECT_EQ(reader.items_done, 2);
 }
 
 TEST_F(Counting, lines_of_a_model_without_components_do_not_count) {

@@ -255,6 +255,15 @@ TEST_F(Images, the_attributes_of_a_picture_are_read) {
     EXPECT_EQ(attribute_list[0].value, "value");
 }
 
+TEST_F(Images, the_attributes_of_a_picture_reach_the_parameters) {
+    const entity_place placed = place(2, 2);
+    builder.attribute(placed, "Vellane_object_properties", "invisible", truth(true));
+    builder.attribute(placed, "qlw_lamp", "ivl_lamp_channel", whole_number(7));
+    process();
+    EXPECT_TRUE(current_oparms->invisible);
+    EXPECT_EQ(current_oparms->light.channel, 7);
+}
+
 // A developer's build opens the log.
 TEST_F(Images, the_extraction_log_names_picture_layer_and_place) {
     set_global_bool("bcomm_use_extraction_log_file", true);

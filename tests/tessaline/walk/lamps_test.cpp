@@ -352,6 +352,18 @@ TEST_F(Lamps, angles_that_are_not_set_stay_so) {
     EXPECT_EQ(field("field_angle"), "-1.000000");
 }
 
+TEST_F(Lamps, a_colour_has_six_digits_or_as_many_as_it_needs) {
+    const auto shown = [this](unsigned color) {
+        cl_slp_light light = typed("rect");
+        light.color = static_cast<int>(color);
+        add(light);
+        return field("color");
+    };
+    EXPECT_EQ(shown(0x0a14), "#000a14");
+    EXPECT_EQ(shown(1), "#000001");
+    EXPECT_EQ(shown(0xff010203), "#ff010203");
+}
+
 TEST_F(Lamps, a_lamp_without_a_colour_is_white) {
     builder.root().square(1);
     open();

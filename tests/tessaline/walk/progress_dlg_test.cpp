@@ -31,14 +31,19 @@ protected:
             const auto place = m.root().instance(component);
             m.element(place).hidden = at < hidden;
         }
-        theApp.input_path = save(m);
-        theApp.output_path = batch / "batch_file.txt";
         cl_skp_progress_dlg dialog;
-        progress_dialog = &dialog;
         recording_window window;
+        convert_under(dialog, window, m);
+        return window.shown;
+    }
+
+    // Converts the model while the dialog with that window is the program's.
+    void convert_under(cl_skp_progress_dlg& dialog, recording_window& window, model_builder& model) {
+        theApp.input_path = save(model);
+        theApp.output_path = batch / "batch_file.txt";
+        progress_dialog = &dialog;
         dialog.OnInitDialog(window);
         progress_dialog = nullptr;
-        return window.shown;
     }
 };
 
@@ -66,9 +71,15 @@ TEST_F(ProgressDialog, a_percentage_that_did_not_change_is_not_shown_again) {
 }
 
 TEST_F(ProgressDialog, an_update_without_a_dialog_does_nothing) {
+    cl_skp_progress_dlg dialog;
+    recording_window window;
+    model_builder m;
+    convert_under(dialog, window, m);
     update_progress(50);
-    cl_skp_progress_dlg closed;
-    closed.show_percent(50);
+    progress_dialog = &dialog; // whose window is closed
+    update_progress(50);
+    progress_dialog = nullptr;
+    EXPECT_THAT(window.shown, ElementsAre("bar 0"));
 }
 
 TEST_F(ProgressDialog, the_run_keeps_the_names_of_the_model_and_deletes_an_old_stream) {

@@ -1,5 +1,6 @@
 // Which section planes reach the stream as clipping records.
 
+#include "tests/tessaline/reader_fixture.h"
 #include "tests/tessaline/run_fixture.h"
 
 #include <cmath>
@@ -153,6 +154,42 @@ TEST_F(SectionPlanes, the_low_end_mode_writes_what_clips_in_the_host) {
     set_global_int("ivl_section_planes", 3); // does not count
     EXPECT_THAT(normals_of_three(), ElementsAre(active));
     EXPECT_THAT(normals_of_three(skp::classic_version::v6), ElementsAre(shown, active));
+}
+
+// The writer has no version 7, so the reader is told one.
+class SectionPlanesOfAVersion : public reader_test {
+protected:
+    // Which of two planes are written: one that is shown and not active, and one that is hidden and active.
+    std::vector<bool> written_at(int version_major) {
+        reader.version_major = version_major;
+        SUEntitiesRef entities = SU_INVALID;
+        SUModelGetEntities(open_model, &entities);
+        std::vector<bool> written;
+        for (const SUSectionPlaneRef each :
+             all_handles(SUEntitiesGetNumSectionPlanes, SUEntitiesGetSectionPlanes, entities))
+            written.push_back(reader.process_section_plane(each) != 0);
+        return written;
+    }
+    void open_two_planes() {
+        builder.root().box({0, 0, 0}, {100, 100, 100});
+        builder.root().section_plane(shown_plane);
+        builder.element(builder.root().section_plane(active_plane, true)).hidden = true;
+        open();
+    }
+};
+
+TEST_F(SectionPlanesOfAVersion, from_7_on_the_active_one_is_written_and_before_it_those_that_are_shown) {
+    open_two_planes();
+    EXPECT_THAT(written_at(7), ElementsAre(false, true));
+    EXPECT_THAT(written_at(6), ElementsAre(true, false));
+}
+
+TEST_F(SectionPlanesOfAVersion, the_render_mode_of_the_low_end_draws_the_same_line) {
+    set_global_bool("bvl_lowend_render_mode", true);
+    set_global_bool("bvl_lowend_section_planes", true);
+    open_two_planes();
+    EXPECT_THAT(written_at(7), ElementsAre(false, true));
+    EXPECT_THAT(written_at(6), ElementsAre(true, false));
 }
 
 } // namespace

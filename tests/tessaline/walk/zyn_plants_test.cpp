@@ -265,6 +265,19 @@ TEST_F(ZynPlants, turn_and_height_share_one_random_number) {
     EXPECT_THAT(scattered(file_plant), HasSubstr("PLRT;147.600000\r\nPLSC;0.964000"));
 }
 
+TEST_F(ZynPlants, a_first_axis_without_length_scales_nothing) {
+    EXPECT_THAT(scattered(file_plant, axes(0, 2, 2)),
+                HasSubstr("PLDM;1.000000\r\nPLSN;0\r\nPLRT;90.000000\r\nPLSC;1.000000"));
+}
+
+// An empty box runs from +1e30 to -1e30, so its height is -2e30 and counts as 2e30. By height that is 1e30, by width
+// -2e30 / -0.5 = 4e30: the smaller.
+TEST_F(ZynPlants, the_height_of_a_component_without_content_counts_without_its_sign) {
+    builder.root().instance(builder.component("oak"));
+    library_plant.width_to_diameter = -0.5;
+    EXPECT_THAT(record(library_plant), HasSubstr("PLDM;1000000000000000019884624838656.000000\r\n"));
+}
+
 TEST_F(ZynPlants, the_scale_is_the_smaller_of_the_first_and_third_axis_whatever_the_second) {
     EXPECT_THAT(scattered(file_plant, axes(4, 0.5, 3)), HasSubstr("PLSC;3.000000"));
 }
