@@ -97,6 +97,29 @@ TEST(TexturesBatch, a_distorted_side_has_a_material_and_a_picture_of_its_own) {
     expect_run(b, "distorted_texture");
 }
 
+// As above, but each side leans another way.
+TEST(TexturesBatch, two_sides_that_are_distorted_differently_have_different_pictures) {
+    batch b;
+    model_builder m;
+    const entity_place straight = add_square(m, 0, "One", png, "wall.png");
+    const entity_place distorted = m.root().face({{0, 0, 10}, {10, 0, 10}, {10, 10, 10}, {0, 10, 10}});
+    m.face(distorted).material = m.face(distorted).back_material = m.face(straight).material;
+    m.mapping(distorted).front.positioned = true;
+    m.mapping(distorted).front.matrix = {1, 0, 0.01, 0, 1, 0.02, 0, 0, 1};
+    m.mapping(distorted).back.positioned = true;
+    m.mapping(distorted).back.matrix = {1, 0, 0.02, 0, 1, 0.01, 0, 0, 1};
+    b.put_model(m);
+    const std::unique_ptr<model> read = as_read(b);
+    const face& f = read->faces[read->root.faces[1]];
+    const image::picture in_front = straighten_texture(wall, *read, f, face_side::front);
+    const image::picture behind = straighten_texture(wall, *read, f, face_side::back);
+    ASSERT_NE(in_front, behind);
+    b.run();
+    const std::string folder(pictures);
+    EXPECT_EQ(difference_from({picture_format::png, in_front}, b.read(folder + "TX0002_One.PNG")), "");
+    EXPECT_EQ(difference_from({picture_format::png, behind}, b.read(folder + "TX0003_One.PNG")), "");
+}
+
 // The back is as straight as the first square, and shares its material.
 TEST(TexturesBatch, a_face_that_is_distorted_on_one_side_shows_two_materials) {
     batch b;

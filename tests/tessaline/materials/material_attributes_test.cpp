@@ -428,4 +428,14 @@ TEST_F(MaterialAttributes, chunks_without_a_whole_header_restore_nothing) {
     EXPECT_FALSE(folder.has("x.OrnMaterial"));
 }
 
+TEST_F(MaterialAttributes, what_is_translucent_and_glows_is_a_lamp_shade) {
+    say("Glow_intensity", "0.5");
+    const material_values v = values_of("Shade_trluc40");
+    EXPECT_EQ(v.translucency, 40 * 0.01); // a glow would take it away
+    EXPECT_EQ(v.glow, 0.5);
+    EXPECT_EQ(v.reflection, 0);
+    EXPECT_EQ(v.sharpness, 1);
+    EXPECT_FALSE(v.metallic);
+}
+
 } // namespace

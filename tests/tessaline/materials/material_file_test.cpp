@@ -4,6 +4,7 @@
 
 #include "tests/support/page_examples.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/trace_capture.h"
 #include "tests/tessaline/stream_text.h"
 
 #include <filesystem>
@@ -171,10 +172,14 @@ TEST(MaterialFile, takes_the_place_of_an_old_one) {
 
 TEST(MaterialFile, that_cannot_be_opened_is_left_out_without_a_word) {
     const temporary_folder folder;
+    const trace_capture trace; // a dialog is shown only while there is tracing
+    testing::internal::CaptureStderr();
     write_material_file({}, "", folder / "missing/x.qlobj");
     write_material_file({}, "", folder / std::string(300, 'x'));
     write_material_file({}, "", folder.name());
     write_material_file({}, "", "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(trace.text(), "");
     EXPECT_TRUE(std::filesystem::is_empty(folder.name()));
 }
 
