@@ -78,19 +78,18 @@ TEST_F(ModelReading, settings_come_from_the_dictionary_of_that_name_alone_and_by
     EXPECT_EQ(get_global_int("ivl_resx"), 600);
 }
 
-TEST_F(ModelReading, colour_by_layer_is_what_the_model_says_and_off_if_it_says_no_boolean) {
-    const auto color_by_layer_for = [this](sketchup::typed_value answer) {
-        theApp.color_by_layer = true;
-        model_builder m;
-        m.model().rendering_options.values = {{"DisplayColorByLayer", std::move(answer)}};
-        SketchUpReader one;
-        one.ReadSkpFile(save(m), batch / "batch_file.txt");
-        return theApp.color_by_layer;
-    };
-    EXPECT_TRUE(color_by_layer_for(sketchup::truth(true)));
-    EXPECT_FALSE(color_by_layer_for(sketchup::truth(false)));
-    EXPECT_FALSE(color_by_layer_for(sketchup::whole_number(1)));
-    EXPECT_FALSE(color_by_layer_for(sketchup::text("true")));
+TEST_F(ModelReading, option_and_view_file_lie_beside_the_model_wherever_the_stream_goes) {
+    batch.write("in/option_globals.txt", "ivl_resx;800\n");
+    batch.write("in/zyn_view.txt", "FOV;35\n");
+    batch.write("out/option_globals.txt", "ivl_resx;1\n");
+    batch.write("out/zyn_view.txt", "FOV;99\n");
+    model_builder m;
+    reader.ReadSkpFile(save(m, "in/geometry.qlm"), batch / "out/batch_file.txt");
+    EXPECT_EQ(get_global_int("ivl_resx"), 800);
+    EXPECT_EQ(reader.view.field_of_view, 35);
+    EXPECT_EQ(theApp.batch_folder, batch / "in");
+    EXPECT_THAT(batch.read("in/option_globals.txt"), testing::HasSubstr("ivl_resx; 800\r\n"));
+    EXPECT_EQ(batch.read("out/option_globals.txt"), "ivl_resx;1\n");
 }
 
 TEST_F(ModelReading, old_results_are_gone_and_kept_files_stay) {
@@ -157,6 +156,19 @@ TEST_F(ModelReading, a_model_of_another_name_in_that_folder_does_not) {
     EXPECT_EQ(theApp.extract_mode, "Tessaline");
 }
 
+TEST_F(ModelReading, the_folder_and_the_name_of_3D_documents_count_anywhere_in_a_path) {
+    const auto mode_for = [this](const char* inside) {
+        theApp.extract_mode = "Tessaline";
+        model_builder m;
+        SketchUpReader one;
+        one.ReadSkpFile(save(m, inside), batch / "stream.txt");
+        return theApp.extract_mode;
+    };
+    EXPECT_EQ(mode_for("3dpdf_batch/geometry.qlm.d/house.skp"), "QLW 3D PDF");
+    EXPECT_EQ(mode_for("my3dpdf_batch/geometry.qlm"), "QLW 3D PDF");
+    EXPECT_EQ(mode_for("3dpdf_batch/old/geometry.qlm"), "Tessaline");
+}
+
 TEST_F(ModelReading, the_times_of_the_reading_are_kept) {
     model_builder m;
     body_of(m);
@@ -167,10 +179,10 @@ TEST_F(ModelReading, the_times_of_the_reading_are_kept) {
 // "[hex_data][00000004]-4869": a frame of 4 digits that spell "Hi". 25 characters.
 constexpr const char* framed_hi = "[hex_data][00000004]-4869";
 
-void add_ground_plane(model_builder& m, const std::string& header) {
-    m.attribute(m.root().list(), "Zyn_Ground_Plane", "Ground_Plane_Saved", sketchup::truth(true));
-    m.attribute(m.root().list(), "Zyn_Ground_Plane", "hex_data", sketchup::text(header));
-    m.attribute(m.root().list(), "Zyn_Ground_Plane", "hex_data_chunk0", sketchup::text(framed_hi));
+void add_ground_plane(model_builder& m, const std::string& header, const char* dictionary = "Zyn_Ground_Plane") {
+    m.attribute(m.root().list(), dictionary, "Ground_Plane_Saved", sketchup::truth(true));
+    m.attribute(m.root().list(), dictionary, "hex_data", sketchup::text(header));
+    m.attribute(m.root().list(), dictionary, "hex_data_chunk0", sketchup::text(framed_hi));
 }
 
 TEST_F(ModelReading, the_ground_plane_of_the_model_is_restored) {
@@ -199,6 +211,14 @@ TEST_F(ModelReading, a_ground_plane_that_is_not_saved_restores_nothing) {
     model_builder m;
     m.attribute(m.root().list(), "Zyn_Ground_Plane", "hex_data", sketchup::text("25;1;x;"));
     m.attribute(m.root().list(), "Zyn_Ground_Plane", "hex_data_chunk0", sketchup::text(framed_hi));
+    body_of(m);
+    EXPECT_FALSE(batch.has("ZynBatch_Materials/Zyn_Ground_Plane.OrnMaterial"));
+}
+
+TEST_F(ModelReading, a_ground_plane_in_a_dictionary_of_another_name_restores_nothing) {
+    model_builder m;
+    add_ground_plane(m, "25;1;x;", "Zyn_Ground_Plane_2");
+    add_ground_plane(m, "25;1;x;", "zyn_ground_plane");
     body_of(m);
     EXPECT_FALSE(batch.has("ZynBatch_Materials/Zyn_Ground_Plane.OrnMaterial"));
 }
