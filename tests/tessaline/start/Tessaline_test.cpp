@@ -94,6 +94,26 @@ TEST_F(StartUp, a_missing_input_is_reported_and_nothing_is_written_or_deleted) {
     EXPECT_EQ(batch.read("out.txt"), "old");
 }
 
+TEST_F(StartUp, a_missing_model_in_quotes_leaves_the_stream_beside_it) {
+    batch.write("batch_file.txt", "old");
+    told_by("tessaline \"" + batch / "geometry.qlm" + "\"");
+    EXPECT_EQ(batch.read("batch_file.txt"), "old");
+}
+
+TEST_F(StartUp, a_missing_model_with_its_stream_as_the_second_path_leaves_that) {
+    batch.write("batch_file.txt", "old");
+    const std::string told = told_by("tessaline " + batch / "geometry.qlm" + ' ' + batch / "batch_file.txt");
+    EXPECT_THAT(told, testing::HasSubstr("Could not find input filename " + batch / "geometry.qlm" + "."));
+    EXPECT_EQ(batch.read("batch_file.txt"), "old");
+}
+
+TEST_F(StartUp, a_missing_model_as_one_unquoted_word_deletes_the_stream_beside_it) {
+    batch.write("batch_file.txt", "old");
+    const std::string told = told_by("tessaline " + batch / "geometry.qlm");
+    EXPECT_THAT(told, testing::HasSubstr("Could not find input filename " + batch / "geometry.qlm" + "."));
+    EXPECT_FALSE(batch.has("batch_file.txt"));
+}
+
 TEST_F(StartUp, an_unknown_output_is_reported) {
     theApp.input_path = saved_model("house.skp");
     trace_capture trace;

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 namespace {
 
 TEST(CommandLine, two_unquoted_words_are_the_two_paths) {
@@ -110,6 +114,21 @@ TEST(CommandLine, the_animation_switch_joins_the_words_around_it) {
     const command_line line = parse_command_line("prog in -is_animation out");
     EXPECT_EQ(line.input_path, "");
     EXPECT_EQ(line.output_path, "inout");
+}
+
+TEST(CommandLine, animation_views_and_progress_are_found_in_every_order) {
+    std::vector<std::string> switches = {" -incl_views", " -is_animation", " -progress 5"};
+    std::sort(switches.begin(), switches.end());
+    do {
+        const std::string text = R"(prog "a b" "c d")" + switches[0] + switches[1] + switches[2];
+        const command_line line = parse_command_line(text);
+        EXPECT_TRUE(line.is_animation) << text;
+        EXPECT_TRUE(line.incl_views) << text;
+        EXPECT_EQ(line.progress_argument, "5") << text;
+        EXPECT_EQ(line.input_path, "a b") << text;
+        EXPECT_EQ(line.output_path, "c d") << text;
+        EXPECT_EQ(line.rest, "") << text;
+    } while (std::next_permutation(switches.begin(), switches.end()));
 }
 
 TEST(CommandLine, only_the_first_of_two_equal_switches_is_removed) {
