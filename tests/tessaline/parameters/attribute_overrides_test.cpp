@@ -344,6 +344,23 @@ TEST_F(AttributeOverrides, an_override_in_lumens_leaves_a_lamp_that_is_set) {
     }
 }
 
+// 850 / 17 is 50.
+TEST_F(AttributeOverrides, any_mode_that_begins_with_L_fills_an_open_lamp_in_lumens) {
+    for (const char* mode : {"L", "l", "Lamp"}) {
+        go_inside();
+        light() = {};
+        store(overrides, {{"intensity_override_mode", mode}, {"intensity_override_value", "850"}});
+        EXPECT_EQ(light().intensity, 50) << mode;
+        EXPECT_EQ(light().intensity_lumens, 850) << mode;
+    }
+}
+
+TEST_F(AttributeOverrides, an_L_further_back_in_the_mode_counts_as_watts) {
+    store(overrides, {{"intensity_override_mode", "XL"}, {"intensity_override_value", "60"}});
+    EXPECT_EQ(light().intensity, 60);
+    EXPECT_EQ(light().intensity_lumens, 1025);
+}
+
 TEST_F(AttributeOverrides, an_override_in_lumens_or_watts_fills_an_open_lamp_and_says_so) {
     const trace_capture trace;
     store(overrides, {{"intensity_override_mode", "lumens"}, {"intensity_override_value", "850.5"}});
@@ -399,6 +416,15 @@ TEST_F(AttributeOverrides, colours_come_in_three_forms) {
     light() = {};
     store(overrides, {{"light_color_override_value", "16711680"}}); // 0xff0000 with red in the low byte is blue
     EXPECT_EQ(light().color, 0x0000ff);
+}
+
+TEST_F(AttributeOverrides, a_decimal_colour_has_all_its_bits) {
+    store(lamp, {{"cqlw_lamp_color", "197121"}}); // 0x030201
+    EXPECT_EQ(light().color, 0x010203);
+    go_inside();
+    light() = {};
+    store(lamp, {{"cqlw_lamp_color", "4278387201"}}); // 0xff030201
+    EXPECT_EQ(light().color, static_cast<int>(0xff010203));
 }
 
 TEST_F(AttributeOverrides, the_colour_of_a_placement_is_traced) {

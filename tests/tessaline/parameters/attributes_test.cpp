@@ -106,6 +106,22 @@ TEST_F(Attributes, integers_are_decimals) {
     EXPECT_EQ(text_of({value_code::int16, std::int64_t{-32768}}), "-32768");
 }
 
+TEST_F(Attributes, an_integer_of_more_than_16_bits_is_a_decimal) {
+    EXPECT_EQ(text_of(sketchup::whole_number(100000)), "100000");
+}
+
+TEST_F(Attributes, the_lowest_integer_of_32_bits_is_a_decimal) {
+    EXPECT_EQ(text_of(sketchup::whole_number(-2147483647 - 1)), "-2147483648");
+}
+
+TEST_F(Attributes, a_point_has_no_text) {
+    EXPECT_EQ(text_of({value_code::point, sketchup::vec3{1, 2, 3}}), "");
+}
+
+TEST_F(Attributes, a_vector_has_no_text) {
+    EXPECT_EQ(text_of({value_code::vector, sketchup::vec3{1, 2, 3}}), "");
+}
+
 TEST_F(Attributes, a_string_is_itself) {
     EXPECT_EQ(text_of(sketchup::text("Bäume; \"x\"")), "Bäume; \"x\"");
 }
