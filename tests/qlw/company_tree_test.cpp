@@ -89,6 +89,15 @@ TEST_F(CompanyTree, the_current_user_is_not_written) {
     EXPECT_FALSE(registry->keys.contains("hkcu\\software\\maker"));
 }
 
+TEST_F(CompanyTree, no_hive_but_that_of_the_local_machine_is_written) {
+    registry->put_text("HKLM\\SOFTWARE\\Other", "");
+    for (const char* hive : {"HKEY_USERS", "HKEY_CLASSES_ROOT"}) {
+        EXPECT_EQ(set_registry_string_data(std::string(hive) + "\\SOFTWARE\\Maker\\Owner", "Ann"), 0) << hive;
+        EXPECT_EQ(registry->text("HKLM\\SOFTWARE\\Maker\\Owner"), "(missing)") << hive;
+    }
+    EXPECT_THAT(reported(), IsEmpty());
+}
+
 TEST_F(CompanyTree, a_failed_write_is_reported_with_the_step_that_failed) {
     EXPECT_EQ(set_registry_string_data("HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner", "Ann"), 0);
     registry->put_text("HKLM\\SOFTWARE\\Other", "");

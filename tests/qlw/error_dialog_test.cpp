@@ -114,7 +114,11 @@ TEST_F(DialogContent, more_does_not_look_at_the_check_box_but_ok_behind_it_does)
     EXPECT_TRUE(trace_state().suppressed_sources.empty());
     desktop.answers = {answering_desktop::more(), answering_desktop::ok_and_silence()};
     dialog.run();
-    EXPECT_EQ(trace_state().suppressed_sources.size(), 1u);
+    ASSERT_EQ(trace_state().suppressed_sources.size(), 1u);
+    EXPECT_EQ(trace_state().suppressed_sources[0].source_file, "qlw_std");
+    EXPECT_EQ(trace_state().suppressed_sources[0].line, 7);
+    EXPECT_EQ(trace_state().suppressed_sources[0].function, "clear_folder");
+    EXPECT_TRUE(desktop.shown.back().offers_silence);
 }
 
 TEST_F(DialogContent, an_exception_in_the_second_dialog_is_traced_as_a_report_and_goes_no_further) {

@@ -70,6 +70,14 @@ TEST(WindowsFolderRules, doubled_backslashes_hide_no_missing_folder) {
     EXPECT_EQ(windows("\\\\host\\share\\\\"), no_share_folder("\\\\host\\share\\"));
 }
 
+// Pairs fold first, so what is refused is the folded name. A name of the host, the share or the folder that is missing
+// leaves two backslashes side by side.
+TEST(WindowsFolderRules, a_network_name_with_a_piece_missing_inside_is_refused) {
+    EXPECT_EQ(windows("\\\\\\\\s\\b"), no_share_folder("\\\\\\s\\b"));
+    EXPECT_EQ(windows("\\\\h\\\\\\\\b"), no_share_folder("\\\\h\\\\b"));
+    EXPECT_EQ(windows("\\\\host\\share\\\\\\\\b"), no_share_folder("\\\\host\\share\\\\b"));
+}
+
 TEST(WindowsSeparators, slashes_turn_and_pairs_fold_behind_the_first_character) {
     EXPECT_EQ(with_fixed_separators("a/b\\\\c//d", path_rules::windows), "a\\b\\c\\d");
     EXPECT_EQ(with_fixed_separators("//host/share", path_rules::windows), "\\\\host\\share");

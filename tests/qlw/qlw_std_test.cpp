@@ -174,6 +174,13 @@ TEST(ResolveFilePath, a_relative_name_lies_in_the_application_folder) {
     EXPECT_EQ(resolve_file_path("x", "sub", "b.txt"), folder / "appl/sub/x/b.txt");
 }
 
+TEST(ResolveFilePath, the_application_folder_is_made_if_it_is_missing) {
+    const temporary_folder folder;
+    const with_application_folder application(folder / "none");
+    told([&] { EXPECT_EQ(resolve_file_path("", "", "b.txt"), folder / "none/b.txt"); });
+    EXPECT_TRUE(folder.has("none"));
+}
+
 std::string version(int platform_id, int major, int minor) {
     platform::os_version numbers;
     numbers.platform_id = platform_id;
@@ -193,6 +200,10 @@ TEST(WindowsVersion, known_versions_have_their_names) {
     EXPECT_EQ(version(2, 5, 2), "Windows 2003 Server Build: 7601 Service Pack 1");
     EXPECT_EQ(version(2, 6, 0), "Windows Vista/2008 Build: 7601 Service Pack 1");
     EXPECT_EQ(version(2, 6, 1), "Windows 7 Build: 7601 Service Pack 1");
+}
+
+TEST(WindowsVersion, NT_4_has_its_name_with_any_minor_number) {
+    EXPECT_EQ(version(2, 4, 7), "Windows NT 4 Build: 7601 Service Pack 1");
 }
 
 TEST(WindowsVersion, other_versions_are_numbers) {

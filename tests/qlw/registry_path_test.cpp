@@ -40,6 +40,9 @@ TEST(RegistryPath, only_software_of_the_local_machine_has_a_form_for_32_bits) {
     EXPECT_EQ(form_for_32_bits(local_machine, "SOFTWARE\\Maker\\Owner"), "SOFTWARE\\WOW6432Node\\Maker\\Owner");
     EXPECT_EQ(form_for_32_bits(local_machine, "SYSTEM\\Maker\\Owner"), std::nullopt);
     EXPECT_EQ(form_for_32_bits(local_machine, "SOFTWARE"), std::nullopt);
+    EXPECT_EQ(form_for_32_bits(local_machine, "SOFTWARE2\\Owner"), std::nullopt);
+    EXPECT_EQ(form_for_32_bits(local_machine, "software\\Maker\\Owner"), std::nullopt);
+    EXPECT_EQ(form_for_32_bits(local_machine, "Maker\\SOFTWARE\\Owner"), std::nullopt);
     EXPECT_EQ(form_for_32_bits(current_user, "SOFTWARE\\Maker\\Owner"), std::nullopt);
 }
 
