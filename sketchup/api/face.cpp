@@ -2,6 +2,7 @@
 
 #include "sketchup/api/calls.h"
 #include "sketchup/api/plain_values.h"
+#include "sketchup/api/provider_state.h"
 #include "sketchup/model/face_area.h"
 #include "sketchup/model/texture_coordinates.h"
 
@@ -105,5 +106,8 @@ SUResult SUFaceGetPlane(SUFaceRef face, SUPlane3D* plane) {
 }
 
 SUResult SUFaceGetArea(SUFaceRef face, double* area) {
-    return give(face, area, [](const sketchup::face& f) { return sketchup::face_area(*f.owner, f); });
+    return give(face, area, [](const sketchup::face& f) {
+        const sketchup::face_cut* cut = cut_of(f);
+        return cut ? cut->area : sketchup::face_area(*f.owner, f);
+    });
 }

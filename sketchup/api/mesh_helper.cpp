@@ -18,7 +18,11 @@ template<class Prepare>
 SUResult create_mesh(SUMeshHelperRef* mesh, const sketchup::face& face, Prepare prepare) {
     return create(mesh, provider().mesh_helpers, [&](mesh_helper& made) {
         made.face = &face;
-        provider().tessellator.triangulate(*face.owner, face, made.mesh);
+        const sketchup::face_cut* cut = cut_of(face);
+        if (cut)
+            triangulate_cut(provider().tessellator, face, *cut, made.mesh);
+        else
+            provider().tessellator.triangulate(*face.owner, face, made.mesh);
         prepare(made);
     });
 }

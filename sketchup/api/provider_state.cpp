@@ -43,6 +43,15 @@ const std::vector<opening>& openings_of(const face& f) {
     return open.openings->of(f);
 }
 
+const face_cut* cut_of(const face& f) {
+    if (!may_have_openings(f))
+        return nullptr;
+    open_model& open = *open_model_of(f.owner);
+    if (!open.cuts)
+        open.cuts.emplace(*open.model);
+    return &open.cuts->of(f, openings_of(f));
+}
+
 SUModelRef adopt_model(std::unique_ptr<model> linked) {
     auto open = std::make_unique<open_model>();
     open->model = std::move(linked);

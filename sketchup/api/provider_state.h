@@ -7,6 +7,7 @@
 #include "sketchup/api/object_pool.h"
 #include "sketchup/api/provider_objects.h"
 #include "sketchup/model/bounding_box.h"
+#include "sketchup/model/face_cuts.h"
 #include "sketchup/model/face_openings.h"
 #include "sketchup/model/model.h"
 #include "sketchup/model/triangulate.h"
@@ -25,6 +26,7 @@ struct open_model {
     std::unique_ptr<sketchup::model> model;
     std::optional<vertex_normals> normals; // for the first mesh
     std::optional<face_openings> openings; // for the first face that something may cut
+    std::optional<face_cuts> cuts;         // for the first mesh or area of such a face
     std::optional<box_cache> boxes;        // for the first box
     std::unordered_map<const attribute_dictionary*, key_lookup> key_lookups;                  // of large dictionaries
     std::unordered_map<const entity*, std::deque<attribute_dictionary>> made_by_asking;       // not in the file
@@ -56,5 +58,8 @@ open_model* open_model_of(const model* m);
 
 // The openings of a face of an open model; the reference holds until the model is closed.
 const std::vector<opening>& openings_of(const face& f);
+
+// What they leave of it; null if nothing can cut it, which costs no more than a look at the face. Holds as long.
+const face_cut* cut_of(const face& f);
 
 } // namespace sketchup::api

@@ -5,7 +5,7 @@
 #include "sketchup/model/face_openings.h"
 #include "sketchup/model/loop_corners.h"
 #include "sketchup/skp/read_model.h"
-#include "tests/samples/expected_figures.h"
+#include "tests/samples/expected_openings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,19 +21,6 @@ using points = std::vector<vec3>;
 constexpr double relative_tolerance = 1e-6;
 constexpr double rounding = 1e-6; // figures have six decimals
 
-json expected_openings() {
-    const std::string folder = samples_folder();
-    return folder.empty() ? json::object() : json::parse(std::ifstream(folder + "openings.json"));
-}
-
-std::vector<std::string> names_of_openings() {
-    std::vector<std::string> names;
-    const json expected = expected_openings(); // items() does not keep it alive
-    for (const auto& [name, figures] : expected.items())
-        names.push_back(name);
-    return names;
-}
-
 void expect_near(double found, double expected, const std::string& what) {
     EXPECT_NEAR(found, expected, rounding + relative_tolerance * std::abs(expected)) << what;
 }
@@ -43,13 +30,6 @@ std::vector<const entity_list*> lists_of(const model& m) {
     for (const component_definition& d : m.definitions)
         lists.push_back(&d.entities);
     return lists;
-}
-
-const entity_list& list_named(const model& m, const std::string& name) {
-    for (const component_definition& d : m.definitions)
-        if (d.name == name)
-            return d.entities;
-    return m.root;
 }
 
 points loop_points(const model& m, index loop) {

@@ -1,4 +1,5 @@
 #include "tests/sketchup/api/painted_faces.h"
+#include "tests/sketchup/api/test_mesh.h"
 #include "tests/sketchup/api/test_model.h"
 
 #include <gtest/gtest.h>
@@ -7,45 +8,6 @@ using sketchup::model_builder;
 using sketchup::vec3;
 
 namespace {
-
-// The mesh of a face; released at the end of its scope.
-struct test_mesh {
-    explicit test_mesh(SUFaceRef face) { EXPECT_EQ(SUMeshHelperCreate(&ref, face), SU_ERROR_NONE); }
-    test_mesh(SUFaceRef face, SUUVHelperRef helper) {
-        EXPECT_EQ(SUMeshHelperCreateWithUVHelper(&ref, face, helper), SU_ERROR_NONE);
-    }
-    test_mesh(const test_mesh&) = delete;
-    test_mesh& operator=(const test_mesh&) = delete;
-    ~test_mesh() { SUMeshHelperRelease(&ref); }
-
-    std::vector<vec3> vertices() const {
-        std::vector<vec3> result;
-        for (const SUPoint3D& p : all_of(SUMeshHelperGetNumVertices, SUMeshHelperGetVertices, ref))
-            result.push_back({p.x, p.y, p.z});
-        return result;
-    }
-    std::vector<vec3> normals() const {
-        std::vector<vec3> result;
-        for (const SUVector3D& n : all_of(SUMeshHelperGetNumVertices, SUMeshHelperGetNormals, ref))
-            result.push_back({n.x, n.y, n.z});
-        return result;
-    }
-    std::vector<vec3> coordinates(SUResult (*get)(SUMeshHelperRef, size_t, SUPoint3D*, size_t*)) const {
-        std::vector<vec3> result;
-        for (const SUPoint3D& p : all_of(SUMeshHelperGetNumVertices, get, ref))
-            result.push_back({p.x, p.y, p.z});
-        return result;
-    }
-    std::vector<size_t> indices() const {
-        size_t count = 0;
-        SUMeshHelperGetNumTriangles(ref, &count);
-        std::vector<size_t> result(3 * count);
-        SUMeshHelperGetVertexIndices(ref, result.size(), result.data(), &count);
-        EXPECT_EQ(count, result.size());
-        return result;
-    }
-    SUMeshHelperRef ref = SU_INVALID;
-};
 
 // A face 2000 inches wide that looks down, with a square hole of 100 inches from the origin.
 void square_with_hole_looking_down(model_builder& builder) {
