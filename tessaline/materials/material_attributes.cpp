@@ -134,10 +134,9 @@ void apply_suffix_word(material_values& values, std::string_view working_name) {
     }
 }
 
-evaluated_material evaluate_material(const material_values& start, std::string_view working_name,
-                                     SUMaterialRef material, const std::string& folder, const std::string& file_name) {
-    evaluated_material result{start, {}};
-    material_values& values = result.values;
+material_values evaluate_material(const material_values& start, std::string_view working_name, SUMaterialRef material,
+                                  const std::string& folder, const std::string& file_name) {
+    material_values values = start;
     apply_suffix_word(values, working_name);
 
     edited_material edited;
@@ -147,12 +146,12 @@ evaluated_material evaluate_material(const material_values& start, std::string_v
         restored = restore_edited_material(edited, folder, file_name);
     settle_color(values, material);
     if (values.type_number != 0) {
-        result.edited_file = restored;
+        values.edited_file = restored;
     } else {
         guess_kind(values);
         apply_attributes(values, edited); // what a material says itself wins over its kind
         settle_color(values, material);
     }
     claim_light_channel(values);
-    return result;
+    return values;
 }

@@ -13,12 +13,12 @@ void write_names(cl_output_file& file, const cl_material_params& params, const s
     file.write_format("Disp: %s\n", params.display_name);
     file.write_format("Orig: %s\n", params.orig_name);
     file.write_format("#\n");
-    file.write_format("OrnMaterial Type: %s\n", params.material_type);
-    file.write_format("Base_Material: %s\n", params.base_material);
+    file.write_format("OrnMaterial Type: %s\n", params.values.material_type);
+    file.write_format("Base_Material: %s\n", params.values.base_material);
 }
 
 void write_colors(cl_output_file& file, const cl_material_params& params) {
-    const std::uint32_t color = params.color;
+    const std::uint32_t color = params.values.color;
     file.write_format("Use_Entity_Color: %d\n", params.use_entity_color);
     file.write_format("Color: %d\n", color);
     file.write_format("#;Color: RGB(%d,%d,%d)\n", color & 0xffU, color >> 8U & 0xffU, color >> 16U & 0xffU);
@@ -26,19 +26,19 @@ void write_colors(cl_output_file& file, const cl_material_params& params) {
 }
 
 void write_optics(cl_output_file& file, const cl_material_params& params) {
-    file.write_format("Trans: %0.9g\n", params.transparency);
-    file.write_format("Translucency: %0.9g\n", params.translucency);
-    file.write_format("Refl: %0.9g\n", params.reflection);
-    file.write_format("Refr: %0.9g\n", static_cast<double>(params.refraction));
-    file.write_format("IrayInitialOpacity: %0.9g\n", params.iray_initial_opacity);
+    file.write_format("Trans: %0.9g\n", params.values.transparency);
+    file.write_format("Translucency: %0.9g\n", params.values.translucency);
+    file.write_format("Refl: %0.9g\n", params.values.reflection);
+    file.write_format("Refr: %0.9g\n", static_cast<double>(static_cast<float>(params.values.refraction)));
+    file.write_format("IrayInitialOpacity: %0.9g\n", params.values.xml_initial_opacity);
     file.write_format("#\n");
     file.write_format("# Glow is a pct = 1.0 = 100 watts\n");
-    file.write_format("Glow: %0.9g\n", params.glow);
-    file.write_format("Glow_Lumens: %0.9g\n", params.glow * lumens_of_full_glow);
-    file.write_format("SelfGlow: %0.9g\n", params.self_glow);
+    file.write_format("Glow: %0.9g\n", params.values.glow);
+    file.write_format("Glow_Lumens: %0.9g\n", params.values.glow * lumens_of_full_glow);
+    file.write_format("SelfGlow: %0.9g\n", params.values.self_glow);
     file.write_format("#\n");
-    file.write_format("Blurry: %d\n", params.blurry);
-    file.write_format("Glossy: %d\n", params.glossy);
+    file.write_format("Blurry: %d\n", params.values.blurry);
+    file.write_format("Glossy: %d\n", params.values.glossy);
 }
 
 void write_picture(cl_output_file& file, const cl_material_params& params) {
@@ -52,10 +52,10 @@ void write_picture(cl_output_file& file, const cl_material_params& params) {
 }
 
 void write_surface(cl_output_file& file, const cl_material_params& params) {
-    file.write_format("AutoBump: %d\n", params.auto_bump);
-    file.write_format("ColorStrength: %0.9g\n", params.color_strength);
-    file.write_format("BumpStrength: %0.9g\n", params.bump_strength);
-    file.write_format("Marbled: %d\n", params.marbled);
+    file.write_format("AutoBump: %d\n", params.values.auto_bump);
+    file.write_format("ColorStrength: %0.9g\n", params.values.bump_color_strength);
+    file.write_format("BumpStrength: %0.9g\n", params.values.bump_intensity);
+    file.write_format("Marbled: %d\n", params.values.marbled);
     file.write_format("MarbleScale: %0.9g\n", params.marble_scale);
     file.write_format("MarbleStrength: %0.9g\n", params.marble_strength);
     file.write_format("TopiaryOrientation: %d\n", params.topiary_orientation);

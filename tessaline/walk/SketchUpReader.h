@@ -30,6 +30,14 @@ struct face_in_walk {
     bool casts_shadows;
 };
 
+// What a side of a face is told of its material.
+struct material_of_side {
+    int number = 0; // 0 for no material, else 10 or above
+    bool has_texture = false;
+    bool not_affine = false; // the texture is distorted; never within scattered components
+    bool has_glow = false;
+};
+
 // Where the writing of the edge block stands.
 struct edge_block_state {
     double pixels = 0;      // how wide a line is to look
@@ -137,12 +145,9 @@ public:
 
     // material_numbers.cpp: the number of a face's side. A material that is new to the run gets its record, its files
     // and its lines in the stream.
-    // kind: what asks, "face". has_texture: set, unless there is no material. not_affine, has_glow: set to true if the
-    // side's texture is distorted, if the material glows; never cleared, but for not_affine in scattered components.
-    // Gives 0 for no material, else 10 or above. The attribute list holds the material's attributes afterwards if the
-    // material is new, its file could not be made, or the texture is distorted.
-    int get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front,
-                            bool& has_texture, bool& not_affine, bool& has_glow);
+    // kind: what asks, "face". The attribute list holds the material's attributes afterwards if the material is new,
+    // its file could not be made, or the texture is distorted.
+    material_of_side get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front);
 
     geometry_stream stream; // closed until the run opens it; drops all lines while closed
 
@@ -207,9 +212,9 @@ private:
 
     // material_numbers.cpp
     struct material_request;
-    int material_index(const material_request& asked);
-    int add_material(const material_request& asked, const std::string& name, const material_file_names& names,
-                     bool has_file);
+    int find_or_declare_material(const material_request& asked);
+    int declare_material(const material_request& asked, const std::string& name, const material_file_names& names,
+                         bool has_file);
 
     // face_meshing.cpp
     bool begins_face_lamp() const;

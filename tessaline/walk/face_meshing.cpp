@@ -41,6 +41,12 @@ face_side side_with(SUMaterialRef own, SUMaterialRef of_enclosing_object) {
     return side;
 }
 
+void take(face_side& side, const material_of_side& told) {
+    side.number = told.number;
+    side.textured = told.has_texture;
+    side.glows = told.has_glow;
+}
+
 std::vector<edge_ends> edges_of(SUFaceRef face) {
     std::size_t count = 0;
     SUFaceGetNumEdges(face, &count);
@@ -112,11 +118,8 @@ int SketchUpReader::ProcessFace(SUFaceRef face, const transform16& matrix, bool 
     face_side front = side_with(front_material, current_oparms->material);
     face_side back = side_with(back_material, current_oparms->material);
     share_material(front, back, materials.is_named(front.material), materials.is_named(back.material));
-    bool front_distorted = false; // decide nothing here; one a side, since the call takes what is set for its own
-    bool back_distorted = false;
-    front.number =
-        get_material_number(face, front.material, "face", true, front.textured, front_distorted, front.glows);
-    back.number = get_material_number(face, back.material, "face", false, back.textured, back_distorted, back.glows);
+    take(front, get_material_number(face, front.material, "face", true));
+    take(back, get_material_number(face, back.material, "face", false));
     return write_face_sides({face, matrix, flip, layer.name, casts_shadows(element)}, front, back);
 }
 

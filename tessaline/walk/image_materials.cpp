@@ -168,11 +168,10 @@ bool export_picture(image_material& made, SUImageRef image, std::size_t data_siz
 
 void write_object_file(const image_material& made) {
     cl_material_params params;
-    params.display_name = params.file_name = params.short_name = params.orig_name = made.name;
-    params.image_path = params.render_image_path = made.texture_path;
+    params.display_name = params.orig_name = made.name;
+    params.image_path = made.texture_path;
     params.tile_x = params.tile_y = 1;
-    params.is_textured = true;
-    params.bump_strength = 0;
+    params.values.bump_intensity = 0;
     write_material_file(params, made.file, made.object_path);
 }
 

@@ -5,13 +5,16 @@
 #include "qlw/qlw_trace.h"
 #include "qlw/whole_number.h"
 #include "tessaline/files/paths.h"
+#include "tessaline/materials/material_attributes.h"
+#include "tessaline/materials/material_file.h"
 #include "tessaline/materials/material_folders.h"
 #include "tessaline/materials/material_names.h"
-#include "tessaline/materials/material_records.h"
+#include "tessaline/materials/texture_export.h"
 #include "tessaline/parameters/attributes.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/walk/SketchUpReader.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace {
@@ -75,6 +78,14 @@ material_values start_values(double opacity) {
     return start;
 }
 
+// What the record keeps of the values. opacity: of the model, whatever the name of the material says.
+material_values recorded(material_values values, double opacity) {
+    values.glow = std::max(values.glow, 0.0);
+    values.reflection = std::max(values.reflection, 0.0);
+    values.opacity = opacity;
+    return values;
+}
+
 } // namespace
 
 // A side of a face that asks for its material.
@@ -90,46 +101,47 @@ struct SketchUpReader::material_request {
     material_question question; // all that its file name depends on
 };
 
-int SketchUpReader::get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind, bool is_front,
-                                        bool& has_texture, bool& not_affine, bool& has_glow) {
+material_of_side SketchUpReader::get_material_number(SUFaceRef face, SUMaterialRef material, std::string_view kind,
+                                                     bool is_front) {
+    material_of_side side;
     if (SUIsInvalid(material))
-        return 0;
+        return side;
     const SUEntityRef entity = SUMaterialToEntity(material);
     std::int32_t id = -1;
     SUEntityGetID(entity, &id);
     if (id < 0)
-        return 0;
+        return side;
     ready_material_folders();
 
     SUTextureRef texture = SU_INVALID;
     SUMaterialGetTexture(material, &texture);
-    has_texture = SUIsValid(texture);
+    side.has_texture = SUIsValid(texture);
     const bool is_face = kind == "face";
     material_question question{.material = material,
                                .by_layer = theApp.color_by_layer,
                                .is_face = is_face,
                                .is_scattered = in_skatter_instances};
-    if (has_texture && SUIsValid(texture_writer)) {
-        not_affine = (not_affine || is_distorted(face, is_front)) && !in_skatter_instances;
+    if (side.has_texture && SUIsValid(texture_writer)) {
+        side.not_affine = is_distorted(face, is_front) && !in_skatter_instances;
         question.texture_id = texture_id_of(face, is_front);
     }
     if (theApp.color_by_layer && current_oparms->reflection > 0)
         question.layer_reflection = cut_toward_zero(current_oparms->reflection);
 
-    const bool counts_as_textured = has_texture || (!is_face && !theApp.color_by_layer);
-    const int index =
-        material_index({face, material, entity, texture, id, is_front, counts_as_textured, not_affine, question});
+    const bool counts_as_textured = side.has_texture || (!is_face && !theApp.color_by_layer);
+    const int index = find_or_declare_material(
+        {face, material, entity, texture, id, is_front, counts_as_textured, side.not_affine, question});
     if (index <= -1)
-        return 0;
+        return side;
     if (static_cast<std::size_t>(index) >= material_records.size())
         throw std::invalid_argument("no material record of that index");
-    if (material_records[static_cast<std::size_t>(index)].has_glow)
-        has_glow = true;
-    return index + first_material_number;
+    side.has_glow = material_records[static_cast<std::size_t>(index)].has_glow;
+    side.number = index + first_material_number;
+    return side;
 }
 
 // The index of the record, which is made if there is none.
-int SketchUpReader::material_index(const material_request& asked) {
+int SketchUpReader::find_or_declare_material(const material_request& asked) {
     const bool has_straight_picture = !(asked.counts_as_textured && asked.not_affine);
     if (const material_answer* known = materials.find(asked.question, material_records.size())) {
         if (!known->has_file || !has_straight_picture)
@@ -150,29 +162,37 @@ int SketchUpReader::material_index(const material_request& asked) {
     if (found == -1 || !has_file || !has_straight_picture)
         read_attributes(asked.entity);
     if (found == -1)
-        return add_material(asked, name, names, has_file);
+        return declare_material(asked, name, names, has_file);
     materials.keep(asked.question, {found, has_file});
     return found;
 }
 
 // Writes all that a new material leaves: picture, text file, edited file, and its lines in the stream.
-int SketchUpReader::add_material(const material_request& asked, const std::string& name,
-                                 const material_file_names& names, bool has_file) {
-    new_material made{.material_id = asked.material_id,
-                      .working_name = name,
-                      .base_file_name = names.base,
-                      .is_textured = asked.counts_as_textured,
-                      .opacity = 0,
-                      .texture = {},
-                      .evaluated = {}};
-    SUMaterialGetOpacity(asked.material, &made.opacity);
+int SketchUpReader::declare_material(const material_request& asked, const std::string& name,
+                                     const material_file_names& names, bool has_file) {
+    double opacity = 0;
+    SUMaterialGetOpacity(asked.material, &opacity);
+    exported_texture picture;
     if (!has_file && asked.counts_as_textured)
-        made.texture = export_material_texture(asked.texture, asked.face, asked.is_front, asked.not_affine,
-                                               names.number, asked.material_id, names.encoded_name);
-    made.evaluated =
-        evaluate_material(start_values(made.opacity), name, asked.material, material_folder_path, names.file);
-    write_material_file(params_of(made), names.file, joined_inside(material_folder_path, names.object_file));
-    const int index = enter(record_of(made), names.file);
+        picture = export_material_texture(asked.texture, asked.face, asked.is_front, asked.not_affine, names.number,
+                                          asked.material_id, names.encoded_name);
+    const material_values values =
+        evaluate_material(start_values(opacity), name, asked.material, material_folder_path, names.file);
+    write_material_file({.display_name = name,
+                         .orig_name = name,
+                         .image_path = picture.image_path,
+                         .tile_x = picture.tile_x,
+                         .tile_y = picture.tile_y,
+                         .values = values},
+                        names.file, joined_inside(material_folder_path, names.object_file));
+    const int index = enter({.material_id = asked.material_id,
+                             .name = name,
+                             .image_path = picture.image_path,
+                             .tile_x = picture.tile_x,
+                             .tile_y = picture.tile_y,
+                             .has_glow = values.glow > 0,
+                             .values = recorded(values, opacity)},
+                            names.file);
     stream.write_material_declaration(names.file, index + first_material_number);
     return index;
 }

@@ -52,18 +52,15 @@ protected:
         preload_textures(open_model, texture_writer);
     }
 
-    // The number of a side's material; what it also tells is kept below.
-    int number_of(SUFaceRef face, bool is_front = true) {
+    // What a side is told of its material, and the number in it.
+    material_of_side told(SUFaceRef face, bool is_front = true) {
         SUMaterialRef material = SU_INVALID;
         (is_front ? SUFaceGetFrontMaterial : SUFaceGetBackMaterial)(face, &material);
-        return reader.get_material_number(face, material, "face", is_front, has_texture, not_affine, has_glow);
+        return reader.get_material_number(face, material, "face", is_front);
     }
+    int number_of(SUFaceRef face, bool is_front = true) { return told(face, is_front).number; }
 
     std::string material_file(const std::string& name) const { return batch.read("ZynBatch_Materials/" + name); }
     bool has_material_file(const std::string& name) const { return batch.has("ZynBatch_Materials/" + name); }
     bool has_picture(const std::string& name) const { return batch.has("Batch_SketchUp_Textures/" + name); }
-
-    bool has_texture = false;
-    bool not_affine = false;
-    bool has_glow = false;
 };

@@ -173,7 +173,7 @@ protected:
     }
 
     // Evaluates a material of that name and colour.
-    evaluated_material evaluated(const std::string& name, sketchup::rgba color = {200, 100, 50, 255}) {
+    material_values evaluated(const std::string& name, sketchup::rgba color = {200, 100, 50, 255}) {
         sketchup::model_builder builder;
         builder.material(name, color);
         auto model = builder.finish();
@@ -182,11 +182,11 @@ protected:
         SUMaterialRef material = SU_INVALID;
         std::size_t count = 0;
         SUModelGetMaterials(open_model, 1, &material, &count);
-        evaluated_material result = evaluate_material(start, name, material, folder.name(), "x.OrnMaterial");
+        material_values result = evaluate_material(start, name, material, folder.name(), "x.OrnMaterial");
         SUModelRelease(&open_model);
         return result;
     }
-    material_values values_of(const std::string& name) { return evaluated(name).values; }
+    material_values values_of(const std::string& name) { return evaluated(name); }
 
     trace_capture trace;
     answering_desktop desktop;
@@ -324,7 +324,7 @@ TEST_F(MaterialAttributes, a_clear_colour_of_the_host_moves_towards_white) {
     say("OrnMaterial Type", "SketchUp");
     start.opacity = 0.05;
     // 255 - 255 x 0.1 is 229.5, cut to 229
-    EXPECT_EQ(evaluated("Glass", {0, 0, 0, 255}).values.color, 229U + 229U * 256 + 229U * 65536);
+    EXPECT_EQ(evaluated("Glass", {0, 0, 0, 255}).color, 229U + 229U * 256 + 229U * 65536);
     start.opacity = 0.5;
     // red 255 - 55 x 0.5 = 227.5; green 255 - 155 x 0.5 = 177.5; blue 255 - 205 x 0.5 = 152.5
     EXPECT_EQ(values_of("Glass").color, 227U + 177U * 256 + 152U * 65536);
@@ -332,7 +332,7 @@ TEST_F(MaterialAttributes, a_clear_colour_of_the_host_moves_towards_white) {
 
 TEST_F(MaterialAttributes, more_than_wholly_clear_is_nine_tenths_to_a_colour) {
     say("OrnMaterial Type", "SketchUp");
-    const material_values v = evaluated("Glass_trans150", {0, 0, 0, 255}).values;
+    const material_values v = evaluated("Glass_trans150", {0, 0, 0, 255});
     EXPECT_EQ(v.color, 229U + 229U * 256 + 229U * 65536);
     EXPECT_EQ(v.transparency, 1.5);
 }

@@ -21,38 +21,34 @@ std::string file_of(const cl_material_params& params, const std::string& matl_li
 // Every value differs from every other and from its default.
 cl_material_params odd_params() {
     cl_material_params p;
-    p.material_type = "the type";
-    p.base_material = "the base";
+    p.values.material_type = "the type";
+    p.values.base_material = "the base";
     p.display_name = "shown";
     p.orig_name = "original";
-    p.file_name = "not told";
-    p.short_name = "not told either";
     p.image_path = "/batch/TX0007_Brick.JPG";
-    p.render_image_path = "not told";
     p.use_entity_color = 1;
     p.icon_color = 0x000001;
-    p.base_color = 0x123456;
     p.topiary_orientation = 2;
     p.tile_x = 0.1;
     p.tile_y = 1.0 / 3;
     p.image_width = 640;
-    p.refraction = 1.3F;
-    p.light_channel = 5;
-    p.glow = 0.25;
-    p.color = 200U | 100U << 8U | 50U << 16U; // 200 + 25600 + 3276800
-    p.transparency = 0.3;
-    p.reflection = 0.95;
-    p.translucency = 1e-10;
-    p.auto_bump = true;
-    p.blurry = true;
-    p.color_strength = 12345678901.0;
-    p.bump_strength = 7.5;
-    p.marbled = true;
+    p.values.refraction = 1.3;
+    p.values.light_channel = 5;
+    p.values.glow = 0.25;
+    p.values.color = 200U | 100U << 8U | 50U << 16U; // 200 + 25600 + 3276800
+    p.values.transparency = 0.3;
+    p.values.reflection = 0.95;
+    p.values.translucency = 1e-10;
+    p.values.auto_bump = true;
+    p.values.blurry = true;
+    p.values.bump_color_strength = 12345678901.0;
+    p.values.bump_intensity = 7.5;
+    p.values.marbled = true;
     p.marble_strength = 8.5;
     p.marble_scale = 9.5;
-    p.glow_lumens = 99;
-    p.iray_initial_opacity = 0.75;
-    p.self_glow = 2;
+    p.values.glow_lumens = 99;
+    p.values.xml_initial_opacity = 0.75;
+    p.values.self_glow = 2;
     p.filter = "a filter";
     p.category = "a category";
     return p;
@@ -147,17 +143,16 @@ TEST(MaterialFile, of_a_record_that_nobody_filled_has_the_defaults) {
 TEST(MaterialFile, of_a_plain_material_is_the_example_of_the_documentation) {
     cl_material_params params;
     params.display_name = params.orig_name = "R&D";
-    params.color = 200U | 100U << 8U | 50U << 16U;
-    params.refraction = 1;
-    params.color_strength = params.bump_strength = 0;
+    params.values.color = 200U | 100U << 8U | 50U << 16U;
+    params.values.refraction = 1;
+    params.values.bump_color_strength = params.values.bump_intensity = 0;
     EXPECT_EQ(file_of(params, "COL%3a0012_R%26D.OrnMaterial"), page_examples("material-file.md", "## Lines").at(0));
 }
 
 TEST(MaterialFile, a_glow_of_a_quarter_has_425_lumens_whatever_else_was_said) {
     cl_material_params params;
-    params.glow = 0.25;
-    params.glow_lumens = 800;
-    params.glow_percent = 0.5;
+    params.values.glow = 0.25;
+    params.values.glow_lumens = 800;
     const std::string text = file_of(params, "");
     EXPECT_NE(text.find("\r\nGlow: 0.25\r\nGlow_Lumens: 425\r\n"), std::string::npos) << text;
 }

@@ -66,7 +66,7 @@ TEST_F(ImageMaterials, the_record_names_the_picture_and_nothing_else) {
     EXPECT_EQ(record.image_path, picture("TX_Tree_88.jpg"));
     EXPECT_EQ(record.tile_x, 1.0);
     EXPECT_EQ(record.tile_y, 1.0);
-    EXPECT_EQ(record.color, 0xffffffu);
+    EXPECT_EQ(record.values.color, 0xffffffu);
     EXPECT_FALSE(record.has_glow);
     EXPECT_EQ(material_name_map, (std::unordered_map<std::string, int>{{"Tree_88.jpg", 0}}));
     EXPECT_TRUE(material_id_map.empty());

@@ -29,19 +29,19 @@ TEST_F(MaterialNumbers, begin_at_10_in_the_order_of_first_use) {
 TEST_F(MaterialNumbers, no_material_is_0_and_tells_nothing) {
     square(plain(12, "Red"));
     open_painted();
-    has_texture = true;
-    EXPECT_EQ(number_of(faces()[0], false), 0);
-    EXPECT_TRUE(has_texture) << "left as it was";
+    const material_of_side side = told(faces()[0], false);
+    EXPECT_EQ(side.number, 0);
+    EXPECT_FALSE(side.has_texture);
     EXPECT_EQ(stream_text(), "");
     EXPECT_TRUE(std::filesystem::is_empty(batch.name()));
 }
 
 TEST_F(MaterialNumbers, a_material_with_an_id_below_0_is_none) {
-    square(plain(-1, "Red"));
+    square(textured(-1, "Red"));
     open_painted();
-    has_texture = true;
-    EXPECT_EQ(number_of(faces()[0]), 0);
-    EXPECT_TRUE(has_texture) << "left as it was";
+    const material_of_side side = told(faces()[0]);
+    EXPECT_EQ(side.number, 0);
+    EXPECT_FALSE(side.has_texture);
     EXPECT_EQ(stream_text(), "");
 }
 
@@ -51,9 +51,10 @@ TEST_F(MaterialNumbers, two_faces_with_one_texture_share_a_record_and_its_lines)
     square(brick);
     open_painted();
     EXPECT_EQ(number_of(faces()[0]), 10);
-    EXPECT_EQ(number_of(faces()[1]), 10);
-    EXPECT_TRUE(has_texture);
-    EXPECT_FALSE(not_affine);
+    const material_of_side second = told(faces()[1]);
+    EXPECT_EQ(second.number, 10);
+    EXPECT_TRUE(second.has_texture);
+    EXPECT_FALSE(second.not_affine);
     EXPECT_EQ(material_records.size(), 1U);
     EXPECT_EQ(stream_text(), lines({"MATF;TEX%3a0001_Brick.OrnMaterial", "MTX2;1", "MATI;10"}));
     EXPECT_TRUE(has_material_file("TEX%3a0001_Brick.qlobj"));
@@ -65,22 +66,23 @@ TEST_F(MaterialNumbers, a_distorted_face_has_a_texture_and_so_a_record_of_its_ow
     square(brick);
     distort_front(square(brick));
     open_painted();
-    EXPECT_EQ(number_of(faces()[0]), 10);
-    EXPECT_FALSE(not_affine);
-    EXPECT_EQ(number_of(faces()[1]), 11);
-    EXPECT_TRUE(not_affine);
+    const material_of_side straight = told(faces()[0]);
+    EXPECT_EQ(straight.number, 10);
+    EXPECT_FALSE(straight.not_affine);
+    const material_of_side distorted = told(faces()[1]);
+    EXPECT_EQ(distorted.number, 11);
+    EXPECT_TRUE(distorted.not_affine);
     EXPECT_EQ(stream_text(), lines({"MATF;TEX%3a0001_Brick.OrnMaterial", "MTX2;1", "MATI;10",
                                     "MATF;TEX%3a0002_Brick.OrnMaterial", "MTX2;1", "MATI;11"}));
     EXPECT_TRUE(has_picture("TX0002_Brick.BMP"));
 }
 
-TEST_F(MaterialNumbers, a_distorted_side_leaves_the_flag_set_for_the_caller_s_next_side) {
+TEST_F(MaterialNumbers, a_distorted_front_says_nothing_of_the_back) {
     const auto brick = textured(12, "Brick");
     distort_front(square(brick, brick));
     open_painted();
-    number_of(faces()[0], true);
-    number_of(faces()[0], false);
-    EXPECT_TRUE(not_affine) << "never cleared";
+    EXPECT_TRUE(told(faces()[0], true).not_affine);
+    EXPECT_FALSE(told(faces()[0], false).not_affine);
 }
 
 TEST_F(MaterialNumbers, a_texture_that_is_not_the_face_s_own_has_the_number_0) {
@@ -90,7 +92,7 @@ TEST_F(MaterialNumbers, a_texture_that_is_not_the_face_s_own_has_the_number_0) {
     open_painted();
     SUMaterialRef inherited = SU_INVALID;
     SUFaceGetFrontMaterial(faces()[0], &inherited);
-    EXPECT_EQ(reader.get_material_number(faces()[1], inherited, "face", true, has_texture, not_affine, has_glow), 10);
+    EXPECT_EQ(reader.get_material_number(faces()[1], inherited, "face", true).number, 10);
     EXPECT_EQ(stream_text(), lines({"MATF;TEX%3a0000_Brick.OrnMaterial", "MTX2;1", "MATI;10"}));
     EXPECT_EQ(material_records[0].tile_x, 0.1);
     EXPECT_EQ(material_records[0].tile_y, 0.05);
@@ -100,9 +102,10 @@ TEST_F(MaterialNumbers, a_texture_that_is_not_the_face_s_own_has_the_number_0) {
 TEST_F(MaterialNumbers, without_a_texture_writer_the_material_id_stands_in_and_nothing_is_asked) {
     distort_front(square(textured(12, "Brick")));
     open();
-    EXPECT_EQ(number_of(faces()[0]), 10);
-    EXPECT_TRUE(has_texture);
-    EXPECT_FALSE(not_affine);
+    const material_of_side side = told(faces()[0]);
+    EXPECT_EQ(side.number, 10);
+    EXPECT_TRUE(side.has_texture);
+    EXPECT_FALSE(side.not_affine);
     EXPECT_EQ(stream_text(), lines({"MATF;TEX%3a0012_Brick.OrnMaterial", "MTX2;1", "MATI;10"}));
 }
 
@@ -110,9 +113,9 @@ TEST_F(MaterialNumbers, among_scattered_components_textures_go_by_material_and_a
     distort_front(square(textured(12, "Brick")));
     open_painted();
     in_skatter_instances = true;
-    not_affine = true;
-    EXPECT_EQ(number_of(faces()[0]), 10);
-    EXPECT_FALSE(not_affine);
+    const material_of_side side = told(faces()[0]);
+    EXPECT_EQ(side.number, 10);
+    EXPECT_FALSE(side.not_affine);
     EXPECT_EQ(stream_text(), lines({"MATF;TEX%3a0012_Brick.OrnMaterial", "MTX2;1", "MATI;10"}));
 }
 
@@ -152,7 +155,7 @@ TEST_F(MaterialNumbers, where_colours_go_by_layer_each_reflection_makes_a_materi
     EXPECT_EQ(number_of(faces()[0]), 13);
     current_oparms->reflection = 0;
     EXPECT_EQ(number_of(faces()[0]), 10);
-    EXPECT_EQ(material_records[1].reflection, 50.7 * 0.01);
+    EXPECT_EQ(material_records[1].values.reflection, 50.7 * 0.01);
     EXPECT_EQ(stream_text(),
               lines({"MATF;Wall.OrnMaterial", "MTX2;1", "MATI;10", "MATF;COL%3a0012_Wall_ref50.OrnMaterial", "MTX2;1",
                      "MATI;11", "MATF;COL%3a0012_Wall_ref51.OrnMaterial", "MTX2;1", "MATI;12",
@@ -169,7 +172,7 @@ TEST_F(MaterialNumbers, the_first_object_s_reflection_makes_the_material_and_lat
     current_oparms->reflection = 20;
     EXPECT_EQ(number_of(faces()[0]), 10);
     EXPECT_EQ(material_file("COL%3a0012_Wall.qlobj"), written);
-    EXPECT_EQ(material_records[0].reflection, 95 * 0.01);
+    EXPECT_EQ(material_records[0].values.reflection, 95 * 0.01);
 }
 
 TEST_F(MaterialNumbers, a_small_reflection_makes_a_metal_of_the_material) {
@@ -177,24 +180,18 @@ TEST_F(MaterialNumbers, a_small_reflection_makes_a_metal_of_the_material) {
     open_painted();
     current_oparms->reflection = 40;
     number_of(faces()[0]);
-    EXPECT_TRUE(material_records[0].metallic);
-    EXPECT_EQ(material_records[0].sharpness, 0.9);
+    EXPECT_TRUE(material_records[0].values.metallic);
+    EXPECT_EQ(material_records[0].values.sharpness, 0.9);
     EXPECT_THAT(material_file("COL%3a0012_Wall.qlobj"), HasSubstr("\r\nRefl: 0.4\r\n"));
 }
 
-TEST_F(MaterialNumbers, a_glowing_material_sets_the_flag_each_time) {
+TEST_F(MaterialNumbers, a_glowing_material_is_told_each_time) {
     square(plain(12, "Lamp_glow25"));
     square(plain(13, "Red"));
     open_painted();
-    number_of(faces()[0]);
-    EXPECT_TRUE(has_glow);
-    has_glow = false;
-    number_of(faces()[1]);
-    EXPECT_FALSE(has_glow);
-    number_of(faces()[0]);
-    EXPECT_TRUE(has_glow);
-    number_of(faces()[1]);
-    EXPECT_TRUE(has_glow) << "never cleared";
+    EXPECT_TRUE(told(faces()[0]).has_glow);
+    EXPECT_FALSE(told(faces()[1]).has_glow);
+    EXPECT_TRUE(told(faces()[0]).has_glow);
 }
 
 TEST_F(MaterialNumbers, what_is_no_face_is_named_as_an_image) {
@@ -202,7 +199,7 @@ TEST_F(MaterialNumbers, what_is_no_face_is_named_as_an_image) {
     open_painted();
     SUMaterialRef material = SU_INVALID;
     SUFaceGetFrontMaterial(faces()[0], &material);
-    reader.get_material_number(faces()[0], material, "other", true, has_texture, not_affine, has_glow);
+    reader.get_material_number(faces()[0], material, "other", true);
     EXPECT_EQ(stream_text(), lines({"MATF;IMG%3a0001_Brick.OrnMaterial", "MTX2;1", "MATI;10"}));
 }
 
@@ -211,9 +208,7 @@ TEST_F(MaterialNumbers, a_plain_material_that_counts_as_textured_does_not_tell_t
     open_painted();
     SUMaterialRef material = SU_INVALID;
     SUFaceGetFrontMaterial(faces()[0], &material);
-    has_texture = true;
-    reader.get_material_number(faces()[0], material, "other", true, has_texture, not_affine, has_glow);
-    EXPECT_FALSE(has_texture);
+    EXPECT_FALSE(reader.get_material_number(faces()[0], material, "other", true).has_texture);
     EXPECT_EQ(stream_text(), lines({"MATF;IMG%3a0012_Red.OrnMaterial", "MTX2;1", "MATI;10"}));
     EXPECT_EQ(material_records[0].image_path, "");
 }
@@ -300,27 +295,28 @@ TEST_F(MaterialNumbers, the_record_is_the_complete_account_of_the_material) {
     const cl_tsl_material& r = material_records[0];
     EXPECT_EQ(r.material_id, 12);
     EXPECT_EQ(r.name, "Brick_glow30");
-    EXPECT_EQ(r.material_type, "kind");
-    EXPECT_EQ(r.base_material, "base");
-    EXPECT_EQ(r.xml_file_name, "a.xml");
-    EXPECT_EQ(r.xml_scale_x, 2);
-    EXPECT_EQ(r.xml_scale_y, 3);
-    EXPECT_EQ(r.xml_initial_opacity, 0.5);
-    EXPECT_EQ(r.marevo_xml_file, "b.xml");
+    EXPECT_EQ(r.values.material_type, "kind");
+    EXPECT_EQ(r.values.base_material, "base");
+    EXPECT_EQ(r.values.xml_file_name, "a.xml");
+    EXPECT_EQ(r.values.xml_scale_x, 2);
+    EXPECT_EQ(r.values.xml_scale_y, 3);
+    EXPECT_EQ(r.values.xml_initial_opacity, 0.5);
+    EXPECT_EQ(r.values.marevo_xml_file, "b.xml");
     EXPECT_EQ(r.image_path, batch / "Batch_SketchUp_Textures/TX0001_Brick_glow30.BMP");
-    EXPECT_EQ(r.edited_file, batch / "ZynBatch_Materials/TEX%3a0001_Brick_glow30.OrnMaterial");
+    EXPECT_EQ(r.values.edited_file, batch / "ZynBatch_Materials/TEX%3a0001_Brick_glow30.OrnMaterial");
     EXPECT_TRUE(r.has_glow);
-    EXPECT_EQ(r.glow, 0.3);
-    EXPECT_EQ(r.opacity, 0.75);
-    EXPECT_EQ(r.refraction, 1.75);
-    EXPECT_EQ(r.translucency, 0.125);
-    EXPECT_EQ(r.reflection, 0.375);
-    EXPECT_EQ(r.sharpness, 0.625);
+    EXPECT_EQ(r.values.glow, 0.3);
+    EXPECT_EQ(r.values.opacity, 0.75);
+    EXPECT_EQ(r.values.refraction, 1.75);
+    EXPECT_EQ(r.values.translucency, 0.125);
+    EXPECT_EQ(r.values.reflection, 0.375);
+    EXPECT_EQ(r.values.sharpness, 0.625);
     EXPECT_EQ(r.tile_x, 0.1);
     EXPECT_EQ(r.tile_y, 0.05);
-    EXPECT_TRUE(r.metallic && r.marbled && r.rubble && r.wrinkled && r.sandpaper && r.pyramid);
-    EXPECT_EQ(r.marble_strength, 4);
-    EXPECT_EQ(r.marble_scale, 5);
+    EXPECT_TRUE(r.values.metallic && r.values.marbled && r.values.rubble && r.values.wrinkled && r.values.sandpaper &&
+                r.values.pyramid);
+    EXPECT_EQ(r.values.marble_strength, 4);
+    EXPECT_EQ(r.values.marble_scale, 5);
     EXPECT_EQ(material_id_map.at(12), 0);
     EXPECT_EQ(material_name_map.at("TEX%3a0001_Brick_glow30.OrnMaterial"), 0);
     EXPECT_EQ(material_name_map.at("Brick_glow30"), 0);
@@ -331,7 +327,7 @@ TEST_F(MaterialNumbers, the_record_s_opacity_is_the_model_s_whatever_the_name_sa
     square(plain(12, "Glass_trans30", 0.5));
     open_painted();
     number_of(faces()[0]);
-    EXPECT_EQ(material_records[0].opacity, 0.5);
+    EXPECT_EQ(material_records[0].values.opacity, 0.5);
     EXPECT_THAT(material_file("COL%3a0012_Glass_trans30.qlobj"), HasSubstr("\r\nTrans: 0.3\r\n"));
 }
 
@@ -343,10 +339,9 @@ TEST_F(MaterialNumbers, a_highlight_of_0_or_below_is_not_recorded) {
                       sketchup::text("-1"));
     square(red);
     open_painted();
-    number_of(faces()[0]);
-    EXPECT_EQ(material_records[0].reflection, 0);
-    EXPECT_EQ(material_records[0].glow, 0);
-    EXPECT_FALSE(has_glow);
+    EXPECT_FALSE(told(faces()[0]).has_glow);
+    EXPECT_EQ(material_records[0].values.reflection, 0);
+    EXPECT_EQ(material_records[0].values.glow, 0);
     EXPECT_THAT(material_file("COL%3a0012_Red.qlobj"), HasSubstr("\r\nRefl: -0.5\r\n"));
 }
 
@@ -360,7 +355,6 @@ protected:
     // Whether the call replaces what is in the list.
     bool replaces_list(SUFaceRef face) {
         attribute_list = {{"of", "another", "entity"}};
-        not_affine = false;
         number_of(face);
         return attribute_list.size() == 1 && attribute_list[0].dictionary == "any";
     }
