@@ -33,7 +33,7 @@ bool may_be_cleared(const std::string& folder, const char* function) {
     const std::string refusal = folder_refusal(folder, own_rules, facts_about(folder));
     if (refusal.empty())
         return true;
-    cl_trace("qlw_std", __LINE__, function, 2, 0).report("%s", refusal);
+    cl_trace("qlw_std", __LINE__, function, trace_level::user_error, 0).report("%s", refusal);
     return false;
 }
 

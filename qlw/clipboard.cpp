@@ -26,5 +26,5 @@ const char* failure_text(platform::clipboard_result result) {
 
 void copy_to_clipboard(const std::string& text) {
     if (const char* failure = failure_text(trace_state().desktop->set_clipboard_text(text)))
-        cl_trace("qlw_std", __LINE__, "copy_to_clipboard", 2, 0).report("%s", failure);
+        cl_trace("qlw_std", __LINE__, "copy_to_clipboard", trace_level::user_error, 0).report("%s", failure);
 }

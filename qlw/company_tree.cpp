@@ -17,7 +17,8 @@ constexpr std::array<std::string_view, 4> user_facts = {"Phone", "Email", "User 
 constexpr platform::registry_hive local_machine = platform::registry_hive::local_machine;
 
 int refused(int line, std::string_view format, std::string_view path, std::string_view reason) {
-    cl_trace("qlw_std", line, "set_registry_string_data", 2, 0).report(format, path, reason);
+    cl_trace::here("set_registry_string_data", trace_level::user_error, __builtin_FILE(), line)
+        .report(format, path, reason);
     return 0;
 }
 

@@ -73,7 +73,6 @@ void do_modal_dialog(const cl_error_dialog& dialog, std::string_view label) {
     try {
         dialog.run();
     } catch (...) {
-        cl_trace("qlw_error_dialog", __LINE__, "do_modal_dialog", 1, 0)
-            .report("Error while running modal dialog: %s", label);
+        cl_trace::here("do_modal_dialog", trace_level::report).report("Error while running modal dialog: %s", label);
     }
 }

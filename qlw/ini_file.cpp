@@ -46,7 +46,7 @@ std::optional<std::string> find_traced(std::string_view section, std::string_vie
             make_directory_tree(profile_folder());
         value = value_in(file, section, key);
     }
-    cl_trace("qlw_std", __LINE__, "get_string_from_ini_file", 0, 0)
+    cl_trace("qlw_std", __LINE__, "get_string_from_ini_file", trace_level::plain, 0)
         .report("get_string_from_ini_file: %s: [%s] %s: %s", file, section, key, value ? *value : shown);
     return value;
 }

@@ -14,7 +14,7 @@ char escaped_letter(char letter, const std::string& line) {
     if (letter == 'n')
         return '\n';
     if (traces_are_heard()) // the report holds the whole line, and each of its letters may be one of these
-        cl_trace("qlw_std", __LINE__, "cl_input_file::read_field_csv", 4, 0)
+        cl_trace::here("cl_input_file::read_field_csv", trace_level::developer_error)
             .report("Bad \\ escape character: %d %c (%s)", static_cast<int>(letter), letter, line);
     return letter;
 }
@@ -24,14 +24,14 @@ char escaped_letter(char letter, const std::string& line) {
 bool cl_input_file::open(const std::string& path, int quiet, const std::string& source_file, int source_line) {
     const std::string name = resolve_file_path({}, {}, path);
     if (name.find(".ini") != std::string::npos) // users edit these, so the trace tells which one was read
-        cl_trace("qlw_std", __LINE__, "cl_input_file::open", 0, 0).report("Opening .ini file: %s", name);
+        cl_trace::here("cl_input_file::open", trace_level::plain).report("Opening .ini file: %s", name);
     if (open_stream(name, platform::open_mode::read, content::text))
         return true;
     const std::string cause = stream.failure().empty() ? "File not found" : stream.failure();
-    cl_trace("qlw_std", __LINE__, "cl_input_file::open", 1, 0)
+    cl_trace("qlw_std", __LINE__, "cl_input_file::open", trace_level::report, 0)
         .report("File not opened: %s: %s: %s %d", name, cause, source_file, source_line);
     if (quiet == 0)
-        cl_trace("qlw_std", __LINE__, "cl_input_file::open", 2, 0)
+        cl_trace("qlw_std", __LINE__, "cl_input_file::open", trace_level::user_error, 0)
             .report("Cannot open file: '%s' %s: %s %d", name, cause, source_file, source_line);
     return false;
 }
@@ -41,7 +41,7 @@ bool cl_input_file::open_binary(const std::string& path, int quiet, const std::s
     if (open_stream(name, platform::open_mode::read, content::binary))
         return true;
     if (quiet == 0)
-        cl_trace("qlw_std", __LINE__, "cl_input_file::open_binary", 2, 0)
+        cl_trace::here("cl_input_file::open_binary", trace_level::user_error)
             .report("Cannot open file: %s: %s %d", name, source_file, source_line);
     return false;
 }

@@ -97,7 +97,7 @@ void write_setting(cl_output_file& file, const cl_variable_base& setting) {
         file.write_format("%s; %s\n", name, escaped(setting.get_string()));
         return;
     default:
-        cl_trace("qlw_globals", __LINE__, "write_option_globals_to_open_file", 4, 0)
+        cl_trace("qlw_globals", __LINE__, "write_option_globals_to_open_file", trace_level::developer_error, 0)
             .report("Unknown option_global: %s", name);
     }
 }
@@ -129,7 +129,7 @@ bool read_option_globals_from_open_file(cl_input_file& file) {
 
 void write_option_globals_to_open_file(cl_output_file& file) {
     if (!file.is_open()) {
-        cl_trace("qlw_globals", __LINE__, "write_option_globals_to_open_file", 2, 0)
+        cl_trace("qlw_globals", __LINE__, "write_option_globals_to_open_file", trace_level::user_error, 0)
             .report("Options Global FIle not found");
         return;
     }

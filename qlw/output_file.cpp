@@ -9,7 +9,7 @@
 namespace {
 
 void report_not_created(const std::string& name, int line, const char* function) {
-    cl_trace("qlw_std", line, function, 2, 0)
+    cl_trace::here(function, trace_level::user_error, __builtin_FILE(), line)
         .report("Cannot create file: '%s'. \n\nMake sure that the file path exists and that the file is not in use by "
                 "another program.",
                 name);
@@ -20,7 +20,7 @@ void report_not_created(const std::string& name, int line, const char* function)
 bool cl_output_file::open(const std::string& path, int mode) {
     const std::string name = resolve_file_path({}, {}, path);
     if (name.find(".ini") != std::string::npos)
-        cl_trace("qlw_std", __LINE__, "cl_output_file::open", 0, 0).report("Opening .ini file: %s", name);
+        cl_trace::here("cl_output_file::open", trace_level::plain).report("Opening .ini file: %s", name);
     if (!open_stream(name, platform::open_mode::write, content::text) && mode == report_failure) {
         report_not_created(name, __LINE__, "cl_output_file::open");
         return false;
@@ -40,7 +40,7 @@ bool cl_output_file::passes_write_test() {
     close();
     cl_input_file reader;
     if (!reader.open(name, 1, {}, 0)) {
-        cl_trace("qlw_std", __LINE__, "cl_output_file::open", 2, 0)
+        cl_trace::here("cl_output_file::open", trace_level::user_error)
             .report("Cannot create file: '%s'. Unable to write to, and then re-open file\n\nMake sure that the file "
                     "path exists and that the file is not in use by another program.",
                     name);
@@ -49,7 +49,7 @@ bool cl_output_file::passes_write_test() {
     std::string line;
     reader.read_line(line);
     if (line != written) {
-        cl_trace("qlw_std", __LINE__, "cl_output_file::open", 2, 0)
+        cl_trace::here("cl_output_file::open", trace_level::user_error)
             .report("Cannot create file: '%s'. Unable to write to, and then re-read file\n\nMake sure that the file "
                     "path exists and that the file is not in use by another program.",
                     name);
@@ -79,6 +79,7 @@ bool cl_output_file::open_binary(const std::string& path, int quiet) {
 
 bool cl_output_file::write_data(const void* buffer, std::size_t size) {
     if (!write_bytes(std::string_view(static_cast<const char*>(buffer), size)))
-        cl_trace("qlw_std", __LINE__, "cl_output_file::write_data", 4, 0).report("Cannot write to file: %s.", path());
+        cl_trace::here("cl_output_file::write_data", trace_level::developer_error)
+            .report("Cannot write to file: %s.", path());
     return true; // callers take the data as written: the trace is the only sign
 }

@@ -9,9 +9,6 @@
 
 namespace {
 
-constexpr int developer_error_level = 4;
-constexpr int fatal_level = 5;
-
 void move_history_on(cl_trace& trace) {
     trace.oldest_message = trace.previous_message;
     trace.previous_message = trace.last_message;
@@ -34,16 +31,16 @@ void show_error_dialog(cl_trace& trace, const std::string& message) {
     const cl_trace_source source{trace.source_file, trace.line, trace.function}; // the trace line empties them
     trace.location_text =
         format_text("     (Error occurred in %s line: %d)", source.source_file, source.line).value_or(std::string());
-    if (is_source_suppressed(trace) && trace.level != fatal_level)
+    if (is_source_suppressed(trace) && trace.level != trace_level::fatal)
         return;
     trace.write_trace_line("*** ERROR: " + message);
     std::string shown = message;
-    if (trace.level == developer_error_level)
+    if (trace.level == trace_level::developer_error)
         shown += "\n*** This error only appears in DEBUG mode ***";
     trace.last_message = shown + "\n\n" + trace.location_text;
-    if (trace.level != developer_error_level)
+    if (trace.level != trace_level::developer_error)
         show_message(shown, trace.location_text, source);
-    if (trace.level == fatal_level)
+    if (trace.level == trace_level::fatal)
         throw std::string("Fatal Error encountered\n\r" + shown + "\n\r\n\r" + trace.location_text);
     trace.source_file = "Unknown";
     trace.line = 0;

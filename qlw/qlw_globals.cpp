@@ -46,7 +46,7 @@ cl_variable_base& writable_global(std::string_view name, save_types expected) {
 void report_unexpected_save_type(save_types actual, save_types expected, std::string_view name) {
     if (expected == SAVE_UNKNOWN)
         return;
-    cl_trace trace("qlw_globals", __LINE__, "cl_global_variable_array::find_global", 0, 0);
+    cl_trace trace = cl_trace::here("cl_global_variable_array::find_global", trace_level::plain);
     if ((expected == OPTION_GLOBAL) != (actual == OPTION_GLOBAL))
         trace.report("OPTION_GLOBAL NOT SET PROPERLY: %s", name);
     else if ((expected == OPTION_NON_DATABASE_GLOBAL) != (actual == OPTION_NON_DATABASE_GLOBAL))
@@ -76,7 +76,7 @@ cl_variable_base& cl_global_variable_array::find_global(std::string_view name, s
         try {
             variable.read_from_profile(*store);
         } catch (...) {
-            cl_trace("qlw_globals", __LINE__, "cl_global_variable_array::find_global", 1, 0)
+            cl_trace::here("cl_global_variable_array::find_global", trace_level::report)
                 .report("Could not load global: %s", name);
         }
     }
@@ -107,7 +107,7 @@ std::vector<std::string> get_global_names() {
 }
 
 void report_global_not_preset(std::string_view name) {
-    cl_trace("qlw_globals", __LINE__, "report_global_not_preset", 1, 0).report("Global not preset properly: %s", name);
+    cl_trace::here("report_global_not_preset", trace_level::report).report("Global not preset properly: %s", name);
 }
 
 // Readers

@@ -73,8 +73,7 @@ double magnitude(const fpt& vector) {
 void fpt::make_unit(double length) {
     const double own_length = magnitude(*this);
     if (!std::isfinite(own_length)) {
-        cl_trace("qlw_math", __LINE__, "fpt::make_unit", 1, 0)
-            .report("Try/Catch Error during punit: %g,%g,%g", x, y, z);
+        cl_trace::here("fpt::make_unit", trace_level::report).report("Try/Catch Error during punit: %g,%g,%g", x, y, z);
         return;
     }
     if (own_length == 0.0)

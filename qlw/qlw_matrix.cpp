@@ -47,7 +47,7 @@ bool cl_matrix::create_from_vectors(const fpt& point, fpt& x_axis, fpt& y_axis, 
     fpt z_axis = cross(x_axis, y_axis);
     z_axis.make_unit(1.0);
     if (magnitude(z_axis) == 0.0) {
-        cl_trace("qlw_matrix", __LINE__, "cl_matrix::create_from_vectors", 1, 0)
+        cl_trace::here("cl_matrix::create_from_vectors", trace_level::report)
             .report("Could not create normal - X and Y vectors are co-linear: %s %s", fpt_to_text(x_axis),
                     fpt_to_text(y_axis));
         return false;

@@ -34,7 +34,7 @@ std::string parent_of(const std::string& path) {
 
 template<class... Arguments>
 void trace_making(int line, int level, std::string_view format, const Arguments&... arguments) {
-    cl_trace("qlw_std", line, "qlw_make_sure_directory_exists", level, 0).report(format, arguments...);
+    cl_trace::here("qlw_make_sure_directory_exists", level, __builtin_FILE(), line).report(format, arguments...);
 }
 
 std::string made_if_missing(const std::string& folder) {
@@ -65,17 +65,17 @@ int qlw_make_sure_directory_exists(std::string path) {
     if (path_exists(path))
         return 1;
     if (const std::string parent = parent_of(path); !parent.empty()) {
-        trace_making(__LINE__, 0, "Making sub-folder: %s", parent);
+        trace_making(__LINE__, trace_level::plain, "Making sub-folder: %s", parent);
         if (!qlw_make_sure_directory_exists(parent)) {
-            trace_making(__LINE__, 0, "Returning False: %s", path);
+            trace_making(__LINE__, trace_level::plain, "Returning False: %s", path);
             return 0;
         }
     }
-    trace_making(__LINE__, 0, "calling qlw_mkdir: %s", path);
+    trace_making(__LINE__, trace_level::plain, "calling qlw_mkdir: %s", path);
     platform::make_folder(path);
     if (!path_exists(path))
-        trace_making(__LINE__, 4, "Could not create folder: %s", path);
-    trace_making(__LINE__, 0, "Directory created: %s", path);
+        trace_making(__LINE__, trace_level::developer_error, "Could not create folder: %s", path);
+    trace_making(__LINE__, trace_level::plain, "Directory created: %s", path);
     return 1;
 }
 
@@ -99,7 +99,7 @@ std::string get_temporary_directory() {
         folder = platform::last_resort_temporary_folder;
     make_directory_tree(folder);
     if (!path_exists(folder)) {
-        cl_trace("qlw_std", __LINE__, "get_temporary_directory", 2, 0)
+        cl_trace::here("get_temporary_directory", trace_level::user_error)
             .report("Cannot create temporary folder: %s", folder);
         folder = platform::last_resort_temporary_folder;
     }
@@ -134,8 +134,8 @@ std::string get_application_folder() {
         application_folder = narrow;
         return narrow;
     }
-    for (const int level : {0, 2})
-        cl_trace("qlw_std", __LINE__, "get_application_folder", level, 0)
+    for (const int level : {trace_level::plain, trace_level::user_error})
+        cl_trace::here("get_application_folder", level)
             .report("Application appl folder not found: %s", application_folder + appl);
     return application_folder;
 }

@@ -10,15 +10,17 @@
 
 namespace {
 
-constexpr int report_level = 1;
-constexpr int first_dialog_level = 2;
-constexpr int listed_error_level = 8;
-constexpr int log_only_level = 9;
-constexpr int log_level = 10;
-
 constexpr double long_delay_seconds = 2.0;
 
 cl_trace_state process_trace_state;
+
+// The name of a source file without folders and ending, as compilers of either platform spell it.
+std::string_view stem_of(std::string_view file) {
+    const std::size_t separator = file.find_last_of("/\\");
+    if (separator != std::string_view::npos)
+        file.remove_prefix(separator + 1);
+    return file.substr(0, file.rfind('.'));
+}
 
 std::string with_six_digits_for_plain_g(std::string_view format) {
     std::string changed(format);
@@ -65,13 +67,14 @@ bool logs_to_file() {
 }
 
 bool shows_dialog(int level) {
-    if (level == listed_error_level)
+    if (level == trace_level::listed_error)
         return !trace_state().error_list_active;
-    return level >= first_dialog_level && level < listed_error_level;
+    return level >= trace_level::user_error && level < trace_level::listed_error;
 }
 
 bool writes_plain_line(int level) {
-    return level < first_dialog_level || level >= log_level || (level == log_only_level && logs_to_file());
+    return level < trace_level::user_error || level >= trace_level::log ||
+           (level == trace_level::log_only && logs_to_file());
 }
 
 void route(cl_trace& trace) {
@@ -95,6 +98,10 @@ cl_trace::cl_trace(std::string source_file_name, int source_line, std::string fu
     trace_state().live_count++;
 }
 
+cl_trace cl_trace::here(std::string function, int level, std::string_view file, int line) {
+    return cl_trace(std::string(stem_of(file)), line, std::move(function), level, 0);
+}
+
 cl_trace::~cl_trace() {
     trace_state().live_count--;
 }
@@ -116,7 +123,9 @@ void cl_trace::report_list(std::string_view format, std::span<const text_argumen
 void cl_trace::write_trace_line(std::string_view text) {
     if (!trace_state().trace_enabled)
         return;
-    const std::string_view prefix = level == report_level ? "REPORT: " : level == log_level ? "LOG: " : "";
+    const std::string_view prefix = level == trace_level::report ? "REPORT: "
+                                    : level == trace_level::log  ? "LOG: "
+                                                                 : "";
     const std::string memory = trace_state().show_memory ? memory_text() : std::string();
     const std::string time = trace_state().show_time ? time_text() : std::string();
     const std::string location = location_of(*this);

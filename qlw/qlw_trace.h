@@ -2,13 +2,11 @@
 
 // The one way in which the program reports anything. A caller makes a cl_trace on the spot and reports through it:
 //
-//     cl_trace("qlw_std", __LINE__, "clear_folder", 2, 0).report("Cannot remove folder: '%s'", name);
+//     cl_trace::here("get_temporary_directory", trace_level::user_error).report("Cannot create: '%s'", name);
 //
-// The level decides where the message goes:
-//   0 debug output; 1 the same with "REPORT: "; 10 with "LOG: "; above 10 as 0
-//   2, 3, 6, 7 the error dialog, then on; 5 the error dialog, then the text is thrown as a std::string
-//   4 a developer's error: an error line in the debug output, no dialog
-//   8 the error list if that is active, else the error dialog; 9 only if the log file is on
+// A message stands under the stem of the source file that holds the line, or under another name that it is known by:
+//
+//     cl_trace("qlw_std", __LINE__, "clear_folder", trace_level::user_error, 0).report("%s", refusal);
 
 #include "qlw/text_format.h"
 
@@ -17,10 +15,27 @@
 #include <string>
 #include <string_view>
 
+// Where a message goes. 3, 6 and 7 are as user_error, what is above log as plain.
+namespace trace_level {
+inline constexpr int plain = 0;           // debug output
+inline constexpr int report = 1;          // the same, with "REPORT: "
+inline constexpr int user_error = 2;      // the error dialog, then on
+inline constexpr int developer_error = 4; // an error line in the debug output, no dialog
+inline constexpr int fatal = 5;           // the error dialog, then the text is thrown as a std::string
+inline constexpr int listed_error = 8;    // the error list if that is active, else the error dialog
+inline constexpr int log_only = 9;        // only if the log file is on
+inline constexpr int log = 10;            // debug output, with "LOG: "
+} // namespace trace_level
+
 class cl_trace {
 public:
     // source_file: base name of the source file, as "qlw_std". line: below 1 if there is none. extra: carried along.
     cl_trace(std::string source_file, int line, std::string function, int level, int extra);
+
+    // One that stands under the stem of the file that calls, "lamps" for ".../walk/lamps.cpp", and its line.
+    static cl_trace here(std::string function, int level, std::string_view file = __builtin_FILE(),
+                         int line = __builtin_LINE());
+
     cl_trace(const cl_trace&) = delete;
     cl_trace& operator=(const cl_trace&) = delete;
     virtual ~cl_trace();

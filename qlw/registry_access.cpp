@@ -16,16 +16,15 @@ namespace {
 constexpr std::uint32_t text_type = 1;
 constexpr std::uint32_t binary_type = 3;
 constexpr std::uint32_t number_type = 4;
-constexpr int report_level = 1;
-constexpr int error_level = 2;
 
 template<class... Arguments>
 void report(int line, const char* function, int level, std::string_view format, const Arguments&... arguments) {
-    cl_trace("qlw_std", line, function, level, 0).report(format, arguments...);
+    cl_trace::here(function, level, __builtin_FILE(), line).report(format, arguments...);
 }
 
 void report_missing_backslash(const char* function, std::string_view path) {
-    report(__LINE__, function, report_level, "Cannot parse registry key %s - Key must contain a backslash", path);
+    report(__LINE__, function, trace_level::report, "Cannot parse registry key %s - Key must contain a backslash",
+           path);
 }
 
 struct registry_place {
@@ -42,7 +41,7 @@ std::optional<registry_place> parsed(const char* function, std::string_view path
     }
     const auto hive = hive_named(pieces->hive);
     if (!hive) {
-        report(__LINE__, function, report_level, "Registry key must start with HKEY: %s", path);
+        report(__LINE__, function, trace_level::report, "Registry key must start with HKEY: %s", path);
         return std::nullopt;
     }
     return registry_place{*hive, pieces->rest};
@@ -69,11 +68,13 @@ Number number_at(const number_shape& shape, std::string_view path, const key_and
                  platform::registry_hive hive, Number default_value, bool quiet) {
     const platform::registry_answer answer = ask(hive, names);
     if (!answer.key_found && !quiet)
-        report(__LINE__, shape.function, report_level, "Cannot locate registry entry: %s: %s", names.value_name, path);
+        report(__LINE__, shape.function, trace_level::report, "Cannot locate registry entry: %s: %s", names.value_name,
+               path);
     if (!answer.key_found || !answer.value_found)
         return default_value;
     if (answer.type != shape.type) {
-        report(__LINE__, shape.function, report_level, shape.wrong_type_format, names.value_name, path, answer.type);
+        report(__LINE__, shape.function, trace_level::report, shape.wrong_type_format, names.value_name, path,
+               answer.type);
         return default_value;
     }
     Number number = default_value;
@@ -95,7 +96,7 @@ Number number_from_registry(const number_shape& shape, std::string_view path, Nu
     try {
         return number_at(shape, path, *names, place->hive, default_value, quiet);
     } catch (...) {
-        report(__LINE__, shape.function, report_level, "Registry error: %s: %s", names->value_name, path);
+        report(__LINE__, shape.function, trace_level::report, "Registry error: %s: %s", names->value_name, path);
         return default_value;
     }
 }
@@ -119,15 +120,15 @@ bool cl_registry_result::read_registry_entry(std::string_view path, std::string_
         }
         const platform::registry_answer answer = ask(place->hive, *names);
         if (!answer.key_found && !quiet)
-            report(__LINE__, function, report_level, "Cannot locate registry entry: %s", path);
+            report(__LINE__, function, trace_level::report, "Cannot locate registry entry: %s", path);
         if (!answer.value_found || answer.data.size() > capacity)
             continue;
         size = static_cast<std::uint32_t>(answer.data.size());
         type = answer.type;
         std::memcpy(data.data(), answer.data.data(), answer.data.size());
         if (type != text_type)
-            report(__LINE__, function, error_level, "Cannot parse registry key - Value is not a %s: %s (%d)", type_name,
-                   path, type);
+            report(__LINE__, function, trace_level::user_error,
+                   "Cannot parse registry key - Value is not a %s: %s (%d)", type_name, path, type);
         return type == text_type;
     }
     return false;

@@ -7,7 +7,7 @@ namespace {
 bool report_unless(bool is_acceptable, int line, const char* function, std::string_view message,
                    std::string_view name) {
     if (!is_acceptable)
-        cl_trace("qlw_globals", line, function, 4, 0).report(message, name);
+        cl_trace("qlw_globals", line, function, trace_level::developer_error, 0).report(message, name);
     return is_acceptable;
 }
 

@@ -43,7 +43,7 @@ void cl_variable_base::set_save_type(save_types new_type) {
     if (new_type < SAVE_PROFILE || new_type > OPTION_NON_DATABASE_GLOBAL)
         return;
     if (save_type != new_type) {
-        cl_trace trace("qlw_globals", __LINE__, "cl_variable_base::set_save_type", 1, 0);
+        cl_trace trace = cl_trace::here("cl_variable_base::set_save_type", trace_level::report);
         if (new_type == SAVE_PROFILE)
             trace.report("Setting save type to SAVE_PROFILE from (%d): %s", static_cast<std::int32_t>(save_type), name);
         else if (new_type == SAVE_DATABASE)

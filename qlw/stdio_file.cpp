@@ -37,7 +37,7 @@ bool cl_stdio_file::read_line(std::string& line) {
     while (read_any_line(line, is_too_long)) {
         if (!is_too_long)
             return true;
-        cl_trace("qlw_std", __LINE__, "cl_stdio_file::read_line", 0, 0)
+        cl_trace::here("cl_stdio_file::read_line", trace_level::plain)
             .report("A line of more than %d bytes is passed over: %s", longest_line, file_path);
     }
     return false;

@@ -67,7 +67,7 @@ std::int32_t cl_hex_encode::decode_hex_string(std::string_view name, std::string
     hex_name = name;
     text_length = static_cast<std::int32_t>(framed_text.size());
     if (const char* const fault = frame_fault(name, framed_text)) {
-        cl_trace("skp_ruby", __LINE__, "cl_hex_encode::decode_hex_string", 4, 0)
+        cl_trace::here("cl_hex_encode::decode_hex_string", trace_level::developer_error)
             .report(fault, hex_name, framed_text.substr(0, 20));
         return 0;
     }

@@ -47,7 +47,7 @@ std::string restore_edited_material(const edited_material& edited, const std::st
 
     const std::string path = joined_inside(folder, file_name);
     if (path.empty() || !write_decoded_file(decoder, path)) {
-        cl_trace("SketchUpReader", __LINE__, "SketchUpReader::get_material_number", 2, 0)
+        cl_trace::here("SketchUpReader::get_material_number", trace_level::user_error)
             .report("Cannot save edited Ornmaterial: %s", joined(folder, file_name));
         return {};
     }

@@ -25,7 +25,7 @@ void apply_attributes(material_values& values, edited_material& edited) {
     for (const cl_tsl_attribute& row : attribute_list)
         if (row.dictionary == material_dictionary && !set_material_value(values, row.key, row.value) &&
             !edited.take(row.key, row.value))
-            cl_trace("SketchUpReader", __LINE__, "SketchUpReader::get_material_number", 0, 0)
+            cl_trace::here("SketchUpReader::get_material_number", trace_level::plain)
                 .report("SKEY NOT USED: %s", row.key);
 }
 

@@ -16,7 +16,8 @@ namespace {
 constexpr std::uint32_t most_pixels = 0x4000000; // 8192 x 8192
 
 void trace(int line, std::string_view format, auto... values) {
-    cl_trace("SketchUpReader", line, "SketchUpReader::get_material_number", 0, 0).report(format, values...);
+    cl_trace::here("SketchUpReader::get_material_number", trace_level::plain, __builtin_FILE(), line)
+        .report(format, values...);
 }
 
 std::string picture_name(SUTextureRef texture, int number, const std::string& encoded_name) {

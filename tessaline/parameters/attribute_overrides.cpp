@@ -28,7 +28,8 @@ struct storing {
 
 template<class... Arguments>
 void trace(int line, std::string_view format, const Arguments&... arguments) {
-    cl_trace("slp_oparms", line, "cl_slp_oparms::store_attributes_in_oparms", 0, 0).report(format, arguments...);
+    cl_trace("slp_oparms", line, "cl_slp_oparms::store_attributes_in_oparms", trace_level::plain, 0)
+        .report(format, arguments...);
 }
 
 struct attribute_rule {

@@ -21,7 +21,7 @@ void write_plant_file(const std::string& path, std::string text) {
 }
 
 void report_old_data(std::string_view name) {
-    cl_trace("SketchUpReader", __LINE__, "SketchUpReader::Write_Zyn_plant", 2, 0)
+    cl_trace::here("SketchUpReader::Write_Zyn_plant", trace_level::user_error)
         .report("'Old 64' base Plant found:\n%s\nPlease send this model to Quillon Systems for testing.", name);
 }
 

@@ -38,7 +38,7 @@ bool open_the_model(const std::string& input_path) {
     if (result == SU_ERROR_NONE)
         return true;
     // Nobody is told: a parent sees that there is no stream.
-    cl_trace("SketchUpReader", __LINE__, "SketchUpReader::ReadSkpFile", 0, 0)
+    cl_trace::here("SketchUpReader::ReadSkpFile", trace_level::plain)
         .report("Cannot open model %s: result %d", input_path, static_cast<int>(result));
     return false;
 }
@@ -85,7 +85,7 @@ void rewrite_option_globals(const std::string& path) {
     write_option_globals_to_open_file(file);
     if (!file.is_open() || file.close() || !before)
         return;
-    cl_trace("model_reading", __LINE__, "rewrite_option_globals", 1, 0).report("Options not rewritten: %s", path);
+    cl_trace::here("rewrite_option_globals", trace_level::report).report("Options not rewritten: %s", path);
     cl_output_file again;
     if (again.open_binary(path, 1))
         again.write_data(before->data(), before->size());

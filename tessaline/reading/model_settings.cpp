@@ -31,7 +31,7 @@ void write_ground_plane(const std::string& path, const std::string& framed_text)
     cl_hex_encode decoder;
     decoder.decode_hex_string("hex_data", framed_text);
     if (!write_decoded_file(decoder, path))
-        cl_trace("SketchUpReader", __LINE__, "SketchUpReader::ReadSkpFile", 2, 0)
+        cl_trace::here("SketchUpReader::ReadSkpFile", trace_level::user_error)
             .report("Cannot save Gound Plane Ornmaterial: %s", path);
 }
 

@@ -112,12 +112,12 @@ bool CTessalineApp::ask_for_missing_paths() {
 
 bool CTessalineApp::paths_are_usable() const {
     if (!input_path.empty() && !platform::exists(input_path)) {
-        cl_trace("Tessaline", __LINE__, "CTessalineApp::InitInstance", 2, 0)
+        cl_trace::here("CTessalineApp::InitInstance", trace_level::user_error)
             .report("Could not find input filename %s.\n", input_path);
         return false;
     }
     if (!input_path.empty() && output_path.empty()) {
-        cl_trace("Tessaline", __LINE__, "CTessalineApp::InitInstance", 2, 0)
+        cl_trace::here("CTessalineApp::InitInstance", trace_level::user_error)
             .report("Could not parse output filename passed to SKP conversion routine.\n");
         return false;
     }
@@ -143,7 +143,7 @@ bool CTessalineApp::run_conversion(std::string model, std::string /*program_fold
         reader.abandon_reading();
     } catch (const std::invalid_argument& failure) { // the model asks for what cannot be; nothing of it is half written
         reader.abandon_reading();
-        cl_trace("Tessaline", __LINE__, "CTessalineApp::run_conversion", 2, 0).report("%s", failure.what());
+        cl_trace::here("CTessalineApp::run_conversion", trace_level::user_error).report("%s", failure.what());
     }
     return true;
 }

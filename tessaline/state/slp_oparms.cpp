@@ -25,7 +25,7 @@ cl_slp_oparms* cl_oparms_array::pop() {
         spare = std::move(levels.back());
         levels.pop_back();
     } else {
-        cl_trace("slp_oparms", __LINE__, "cl_oparms_array::pop", 4, 0).report("Trying to pop first oparms");
+        cl_trace::here("cl_oparms_array::pop", trace_level::developer_error).report("Trying to pop first oparms");
     }
     return at(size() - 1);
 }

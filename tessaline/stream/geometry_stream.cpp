@@ -325,7 +325,7 @@ void geometry_stream::close() {
         return;
     send();
     if (target == sink::file && !file.close() && !write_failed)
-        cl_trace("geometry_stream", __LINE__, "geometry_stream::close", 0, 0)
+        cl_trace::here("geometry_stream::close", trace_level::plain)
             .report("The end of the geometry stream was not written");
     target = sink::none;
 }
@@ -353,7 +353,7 @@ void geometry_stream::send() {
         platform::write_standard_output(gathered);
     } else if (!write_failed && !file.write_all(gathered)) {
         write_failed = true;
-        cl_trace("geometry_stream", __LINE__, "geometry_stream::send", 0, 0)
+        cl_trace::here("geometry_stream::send", trace_level::plain)
             .report("The geometry stream takes no more data; what follows is dropped");
     }
 }

@@ -53,7 +53,7 @@ fpt position_of(SUResult (*end_of)(SUEdgeRef, SUVertexRef*), SUEdgeRef edge) {
 }
 
 void report_too_many(std::size_t most_edges) {
-    cl_trace("edge_lines", __LINE__, "SketchUpReader::ProcessEdge", 1, 0)
+    cl_trace::here("SketchUpReader::ProcessEdge", trace_level::report)
         .report("Only %d edges are shown as lines", most_edges);
 }
 

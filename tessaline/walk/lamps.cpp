@@ -185,7 +185,8 @@ int cl_slp_light::add_lamp(SketchUpReader& reader, const transform16& transform)
     reader.lights.push_back(record_of(*this, number, channel_in_use));
     const std::string folder = joined(theApp.batch_folder, theApp.lights_folder);
     platform::make_folder(folder);
-    cl_trace("slp_oparms", __LINE__, "cl_slp_light::add_lamp", 0, 0).report("ilights_saved: %d", number);
+    cl_trace("slp_oparms", __LINE__, "cl_slp_light::add_lamp", trace_level::plain, 0)
+        .report("ilights_saved: %d", number);
     write_lamp_file(joined(folder, "light_" + std::to_string(number) + ".txt"), *this,
                     {metres_from_inches(location_of(*this, transform)), direction, channel_in_use});
     return number;

@@ -20,7 +20,8 @@
 namespace {
 
 void trace(int line, std::string_view format, auto... values) {
-    cl_trace("SketchUpReader", line, "SketchUpReader::get_material_number", 0, 0).report(format, values...);
+    cl_trace::here("SketchUpReader::get_material_number", trace_level::plain, __builtin_FILE(), line)
+        .report(format, values...);
 }
 
 // Whether the picture on a side of the face is distorted; no if the interface cannot tell.

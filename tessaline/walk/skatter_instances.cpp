@@ -49,7 +49,7 @@ public:
 private:
     void trace_names_up_to(const std::string& name) const {
         for (const named_definition& candidate : in_order) {
-            cl_trace("skatter_instances", __LINE__, "find_definition", 0, 0).report("%s <> %s", name, candidate.name);
+            cl_trace::here("find_definition", trace_level::plain).report("%s <> %s", name, candidate.name);
             if (candidate.name == name)
                 return;
         }
@@ -74,8 +74,7 @@ void SketchUpReader::count_skatter_instances() {
     const std::string path = skatter_file_path(theApp.batch_folder);
     if (!platform::exists(path))
         return;
-    cl_trace("skatter_instances", __LINE__, "SketchUpReader::CountEntities", 0, 0)
-        .report("Skatter_insts.txt file was found");
+    cl_trace::here("SketchUpReader::CountEntities", trace_level::plain).report("Skatter_insts.txt file was found");
     const definitions_of_model definitions;
     if (definitions.empty())
         return;

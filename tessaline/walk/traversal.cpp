@@ -107,10 +107,10 @@ void SketchUpReader::process_images(SUEntitiesRef entities, const transform16& t
                                     int depth) {
     if (blocks.state().beam_pass_running)
         return;
-    for (const SUImageRef image : all_handles(SUEntitiesGetNumImages, SUEntitiesGetImages, entities)) {
-        cl_trace("traversal", __LINE__, "SketchUpReader::ProcessEntities", 0, 0).report("before ProcessImage");
-        log_image_step(depth);
-        ProcessImage(image, transform, path);
+    for (const SUImageRef image : all_handles(SUEntitiesGetNumImages, SUEntitiesGetImages, list.entities)) {
+        cl_trace::here("SketchUpReader::ProcessEntities", trace_level::plain).report("before ProcessImage");
+        log_image_step(list.depth);
+        ProcessImage(image, list.transform, list.path);
         advance_progress();
     }
 }
@@ -119,9 +119,9 @@ void SketchUpReader::process_edges(SUEntitiesRef entities, const transform16& tr
     const int edge_lines = get_global_int("ivl_edge_lines");
     if (edge_lines == no_edges || blocks.state().beam_pass_running)
         return;
-    cl_trace("traversal", __LINE__, "SketchUpReader::ProcessEntities", 0, 0).report("before Edge Lines");
-    for (const SUEdgeRef edge : edges_of(entities, edge_lines == stand_alone_edges)) {
-        ProcessEdge(edge, transform, path);
+    cl_trace::here("SketchUpReader::ProcessEntities", trace_level::plain).report("before Edge Lines");
+    for (const SUEdgeRef edge : edges_of(list.entities, edge_lines == stand_alone_edges)) {
+        ProcessEdge(edge, list.transform, list.path);
         advance_progress();
     }
 }

@@ -109,7 +109,7 @@ TEST_F(CompanyTree, a_failed_write_is_reported_with_the_step_that_failed) {
     const auto lines = trace.take();
     ASSERT_EQ(lines.size(), 3u);
     EXPECT_EQ(lines[0],
-              (traced_line{"qlw_std", "set_registry_string_data",
+              (traced_line{"company_tree", "set_registry_string_data",
                            "*** ERROR: Cannot create registry key: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner:"
                            "  nextpiece could not be opened"}));
     EXPECT_EQ(lines[1].text, "*** ERROR: Cannot create registry key: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner:"

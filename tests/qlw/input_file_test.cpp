@@ -64,7 +64,7 @@ TEST(InputFile, a_binary_file_that_is_missing_is_shown_unless_quiet_and_never_ju
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_binary(folder / "none", 0, "caller", 77)); }),
               "Tessaline - Error: Cannot open file: " + (folder / "none") + ": caller 77");
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#):: *** ERROR: Cannot open file: " + (folder / "none") + ": caller 77\n");
+              "input_file(#):: *** ERROR: Cannot open file: " + (folder / "none") + ": caller 77\n");
 }
 
 TEST(InputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) {
@@ -75,8 +75,8 @@ TEST(InputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) {
     EXPECT_TRUE(file.open(folder.write("x.initial/a.txt", ""), 0, "", 0));
     EXPECT_TRUE(file.open_binary(folder / "user.ini", 0, "", 0));
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#):: Opening .ini file: " + (folder / "user.ini") + "\n" +
-                  "qlw_std(#):: Opening .ini file: " + (folder / "x.initial/a.txt") + "\n");
+              "input_file(#):: Opening .ini file: " + (folder / "user.ini") + "\n" +
+                  "input_file(#):: Opening .ini file: " + (folder / "x.initial/a.txt") + "\n");
 }
 
 // All fields of a line; a line that is never used up would give 20.
@@ -131,7 +131,7 @@ TEST(CsvField, a_quote_inside_an_unquoted_field_starts_an_escape) {
     EXPECT_EQ(cl_input_file::read_field_csv(line), "abxc");
     EXPECT_EQ(line, "d");
     EXPECT_EQ(capture.text_without_line_numbers(), // x has the code 120; the error itself is for developers
-              "qlw_std(#):: *** ERROR: Bad \\ escape character: 120 x (ab\"xc;d)\n");
+              "input_file(#):: *** ERROR: Bad \\ escape character: 120 x (ab\"xc;d)\n");
 }
 
 TEST(CsvField, a_separator_ends_an_unquoted_field_even_behind_a_quote) {
@@ -141,7 +141,8 @@ TEST(CsvField, a_separator_ends_an_unquoted_field_even_behind_a_quote) {
 TEST(CsvField, a_blank_before_the_quote_makes_the_field_unquoted) {
     const trace_capture capture;
     EXPECT_EQ(fields_of(" \"ab;c"), (texts{"ab", "c"}));
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: *** ERROR: Bad \\ escape character: 97 a ( \"ab;c)\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "input_file(#):: *** ERROR: Bad \\ escape character: 97 a ( \"ab;c)\n");
 }
 
 TEST(CsvField, a_line_feed_ends_the_field_even_inside_quotes) {

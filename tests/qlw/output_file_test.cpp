@@ -55,7 +55,8 @@ TEST(OutputFile, that_cannot_be_made_is_shown_in_mode_0) {
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none/a", 0)); }),
               "Tessaline - Error: " + not_created(folder / "none/a"));
     EXPECT_FALSE(file.is_open());
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: *** ERROR: " + not_created(folder / "none/a") + "\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "output_file(#):: *** ERROR: " + not_created(folder / "none/a") + "\n");
 }
 
 TEST(OutputFile, that_cannot_be_made_is_passed_over_in_quiet_mode) {
@@ -73,7 +74,7 @@ TEST(OutputFile, an_ini_file_is_announced) {
     const trace_capture capture;
     cl_output_file file;
     EXPECT_TRUE(file.open(folder / "a.ini", 0));
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: Opening .ini file: " + (folder / "a.ini") + "\n");
+    EXPECT_EQ(capture.text_without_line_numbers(), "output_file(#):: Opening .ini file: " + (folder / "a.ini") + "\n");
 }
 
 TEST(OutputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) {
@@ -106,9 +107,10 @@ TEST(OutputFile, appending_and_binary_opens_report_in_the_same_words) {
               "Tessaline - Error: " + not_created(folder / "none/a"));
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_binary(folder / "none/a", 0)); }),
               "Tessaline - Error: " + not_created(folder / "none/a"));
-    EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#): cl_output_file::open_for_append():: *** ERROR: " + not_created(folder / "none/a") + "\n" +
-                  "qlw_std(#): cl_output_file::open_binary():: *** ERROR: " + not_created(folder / "none/a") + "\n");
+    EXPECT_EQ(
+        capture.text_without_line_numbers(),
+        "output_file(#): cl_output_file::open_for_append():: *** ERROR: " + not_created(folder / "none/a") + "\n" +
+            "output_file(#): cl_output_file::open_binary():: *** ERROR: " + not_created(folder / "none/a") + "\n");
 }
 
 TEST(OutputFile, the_write_test_leaves_an_empty_open_file) {
@@ -150,7 +152,7 @@ TEST(OutputFile, the_write_test_finds_a_file_that_forgets_what_is_written) {
               "Make sure that the file path exists and that the file is not in use by another program.");
     EXPECT_FALSE(file.is_open());
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#):: *** ERROR: Cannot create file: '/proc/self/comm'. Unable to write to, and then re-read "
+              "output_file(#):: *** ERROR: Cannot create file: '/proc/self/comm'. Unable to write to, and then re-read "
               "file\n\nMake sure that the file path exists and that the file is not in use by another program.\n");
     std::ofstream(name) << before;
 }
@@ -181,7 +183,7 @@ TEST(OutputFile, raw_data_that_a_full_disk_refuses_is_traced_and_counts_as_writt
     cl_output_file file;
     ASSERT_TRUE(file.open_binary("/dev/full", 0));
     EXPECT_EQ(shown([&] { EXPECT_TRUE(file.write_data(data.data(), data.size())); }), "");
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: *** ERROR: Cannot write to file: /dev/full.\n");
+    EXPECT_EQ(capture.text_without_line_numbers(), "output_file(#):: *** ERROR: Cannot write to file: /dev/full.\n");
 }
 
 } // namespace

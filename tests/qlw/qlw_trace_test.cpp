@@ -20,6 +20,16 @@ TEST(Trace, says_nothing_until_it_is_enabled) {
     EXPECT_EQ(capture.text(), "source(12):: REPORT: text\n");
 }
 
+TEST(Trace, a_message_stands_under_the_stem_of_the_file_that_holds_its_line) {
+    const trace_capture capture;
+    cl_trace::here("any", trace_level::plain).report("a");
+    cl_trace::here("any", trace_level::plain, "/a.b/c/lamps.cpp", 7).report("b");
+    cl_trace::here("any", trace_level::plain, "C:\\a\\edge_lines.h", 8).report("c");
+    cl_trace::here("any", trace_level::plain, "bare", 9).report("d");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "qlw_trace_test(#):: a\nlamps(#):: b\nedge_lines(#):: c\nbare(#):: d\n");
+}
+
 TEST(Trace, a_plain_trace_carries_the_location_and_no_prefix) {
     const trace_capture capture;
     cl_trace("qlw_std", 12, "clear_folder", 0, 0).report("folder %s has %d", "/a/b", 3);

@@ -235,7 +235,7 @@ TEST_F(SettingSaveType, a_change_into_each_stored_type_is_reported) {
     variable.set_save_type(OPTION_GLOBAL);
     variable.set_save_type(OPTION_NON_DATABASE_GLOBAL);
     const auto line = [](const char* text) {
-        return traced_line{"qlw_globals", "cl_variable_base::set_save_type", text};
+        return traced_line{"setting_variables", "cl_variable_base::set_save_type", text};
     };
     EXPECT_THAT(trace.take(), ElementsAre(line("REPORT: Setting save type to SAVE_PROFILE from (1): ivl_x"),
                                           line("REPORT: Setting save type to SAVE_DATABASE: ivl_x"),
