@@ -48,24 +48,24 @@ struct material_kind {
 };
 
 // clang-format off
-constexpr std::array<material_kind, 12> kinds{{
-    {0, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
-    {98, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
-    {1, " - Matte", unless_kept(0), 1.0, false, untouched, always(0), always(0), {}, untouched},
-    {2, " - Reflective", unless_kept(0.6), 0.9, true, untouched, always(0), always(0), {}, untouched},
-    {3, " - Glass", always(0.5), 1.0, false, always(1.5), always(0), always(1.0), true, untouched},
-    {4, " - Lamp Shade", always(0), 1.0, false, untouched, unless_kept(1.0), always(0.5), {}, untouched},
-    {5, " - Metal", unless_kept(0.9), 1.0, true, untouched, always(0), always(0), {}, untouched},
-    {6, " - Plastic", unless_kept(0.25), 0.2, false, untouched, always(0), always(0), {}, untouched},
-    {7, " - Mirror", unless_kept(1.0), 1.0, false, untouched, always(0), always(0), {}, untouched},
-    {8, " - Water", unless_kept(0.3), 0.8, false, untouched, always(0.6), always(0.5), {}, untouched},
-    {10, " - Clear", always(0.5), 1.0, false, always(1.5), always(0), unless_kept(1.0), false, untouched},
-    {11, " - Glow", always(0), 1.0, false, untouched, always(0), always(0), {}, unless_kept(0.5)},
+constexpr std::array<material_kind, 12> kind_table{{
+    {cl_wizard_materials::no_kind, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
+    {cl_wizard_materials::no_kind_found, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
+    {cl_wizard_materials::matte, " - Matte", unless_kept(0), 1.0, false, untouched, always(0), always(0), {}, untouched},
+    {cl_wizard_materials::reflective, " - Reflective", unless_kept(0.6), 0.9, true, untouched, always(0), always(0), {}, untouched},
+    {cl_wizard_materials::glass, " - Glass", always(0.5), 1.0, false, always(1.5), always(0), always(1.0), true, untouched},
+    {cl_wizard_materials::lamp_shade, " - Lamp Shade", always(0), 1.0, false, untouched, unless_kept(1.0), always(0.5), {}, untouched},
+    {cl_wizard_materials::metal, " - Metal", unless_kept(0.9), 1.0, true, untouched, always(0), always(0), {}, untouched},
+    {cl_wizard_materials::plastic, " - Plastic", unless_kept(0.25), 0.2, false, untouched, always(0), always(0), {}, untouched},
+    {cl_wizard_materials::mirror, " - Mirror", unless_kept(1.0), 1.0, false, untouched, always(0), always(0), {}, untouched},
+    {cl_wizard_materials::water, " - Water", unless_kept(0.3), 0.8, false, untouched, always(0.6), always(0.5), {}, untouched},
+    {cl_wizard_materials::clear, " - Clear", always(0.5), 1.0, false, always(1.5), always(0), unless_kept(1.0), false, untouched},
+    {cl_wizard_materials::glowing, " - Glow", always(0), 1.0, false, untouched, always(0), always(0), {}, unless_kept(0.5)},
 }};
 // clang-format on
 
 bool is_no_kind(std::int32_t type) {
-    return type == 0 || type == 98;
+    return type == cl_wizard_materials::no_kind || type == cl_wizard_materials::no_kind_found;
 }
 
 } // namespace
@@ -82,10 +82,10 @@ void cl_wizard_materials::set_wizard_material_defaults(std::int32_t wanted_type,
     if (!keep)
         reset();
     type = wanted_type;
-    const auto kind = std::find_if(kinds.begin(), kinds.end(),
+    const auto kind = std::find_if(kind_table.begin(), kind_table.end(),
                                    [wanted_type](const material_kind& each) { return each.type == wanted_type; });
-    if (kind == kinds.end()) {
-        cl_trace("wizard_materials", __LINE__, "cl_wizard_materials::set_wizard_material_defaults", 0, 0)
+    if (kind == kind_table.end()) {
+        cl_trace::here("cl_wizard_materials::set_wizard_material_defaults", trace_level::plain)
             .report("Material Type not known: %d", wanted_type);
         return;
     }

@@ -9,9 +9,24 @@
 // colours are 0x00BBGGRR.
 class cl_wizard_materials {
 public:
-    // Sets what the type implies, and the type itself:
-    // 0 and 98 none, 1 matte, 2 reflective, 3 glass, 4 lamp shade, 5 metal, 6 plastic, 7 mirror, 8 water, 10 clear, 11
-    // glow. Any other number is traced; nothing but `type` follows it.
+    // The numbers of the types; models may name others.
+    enum kinds : std::int32_t {
+        no_kind = 0,
+        matte = 1,
+        reflective = 2,
+        glass = 3,
+        lamp_shade = 4,
+        metal = 5,
+        plastic = 6,
+        mirror = 7,
+        water = 8,
+        clear = 10,
+        glowing = 11,
+        no_kind_found = 98,
+    };
+
+    // Sets what the type implies, and the type itself. A number that is none of the kinds is traced; nothing but `type`
+    // follows it.
     // keep: true leaves as it was what the type says for want of a better value; false resets all values first, the
     // colours apart, which types 0 and 98 then make white.
     void set_wizard_material_defaults(std::int32_t type, bool keep);

@@ -1,6 +1,7 @@
 // Empties folders, and goes through their entries.
 
 #include "qlw/folder_refusal.h"
+#include "qlw/letter_case.h"
 #include "qlw/qlw_std.h"
 #include "qlw/qlw_trace.h"
 
@@ -37,14 +38,9 @@ bool may_be_cleared(const std::string& folder, const char* function) {
     return false;
 }
 
-char in_lower_case(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 bool ends_with_ignoring_case(const std::string& name, const std::string& ending) {
-    return name.size() >= ending.size() &&
-           std::equal(ending.rbegin(), ending.rend(), name.rbegin(),
-                      [](char a, char b) { return in_lower_case(a) == in_lower_case(b); });
+    return name.size() >= ending.size() && std::equal(ending.rbegin(), ending.rend(), name.rbegin(),
+                                                      [](char a, char b) { return lower_case(a) == lower_case(b); });
 }
 
 bool contains_any(const std::string& name, const std::vector<std::string>& texts) {

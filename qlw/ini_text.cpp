@@ -40,7 +40,7 @@ std::string as_written(std::string_view value) {
 }
 
 std::string folded(std::string_view name) {
-    return in_lower_case(std::string(without_blanks(name)));
+    return lower_case(without_blanks(name));
 }
 
 std::string place_of(std::string_view folded_section, std::string_view key) {

@@ -4,6 +4,12 @@
 // other letter stay as they are.
 
 #include <string>
+#include <string_view>
 
 std::string in_capitals(std::string text);
-std::string in_lower_case(std::string text);
+
+char lower_case(char letter);
+std::string lower_case(std::string_view text);
+
+// The same into a string that keeps its storage from call to call.
+void set_lower_case(std::string& out, std::string_view text);

@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "qlw/qlw_globals.h"
+#include "qlw/qlw_math.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/text_numbers.h"
 #include "qlw/trimmed.h"
@@ -12,8 +13,6 @@
 #include <string_view>
 
 namespace {
-
-constexpr double same_point = 1e-7; // points nearer than this are one
 
 std::string unescaped(std::string_view text) {
     std::string plain;
@@ -63,7 +62,7 @@ bool store_setting(const std::string& name, std::string_view value) {
         return store_if_other(name, unescaped(value), get_global_string(name), set_global_string);
     case 'p': {
         const fpt wanted = text_to_fpt(value);
-        const bool differs = !fpt_equal(get_global_fpt(name), wanted, same_point);
+        const bool differs = !fpt_equal(get_global_fpt(name), wanted, point_tolerance);
         if (differs)
             set_global_fpt(name, wanted);
         return differs;

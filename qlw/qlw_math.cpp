@@ -14,10 +14,7 @@
 
 namespace {
 
-constexpr double smallest_in_text = 1e-7; // a component below it is written as 0
-constexpr double lumens_per_watt = 17.0;  // of an incandescent bulb
 constexpr double least_watts = 1.0;       // no lamp is darker
-constexpr double round_up_from = 0.49999; // added before floor: an exact half is rounded downwards
 constexpr double large_value_share = 0.1; // of the tolerance, as a ratio to the coordinate
 
 double to_multiple(double value, double step) {

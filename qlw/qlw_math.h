@@ -58,6 +58,17 @@ inline double snap_to_zero(double value, double limit) {
     return value < limit && value > -limit ? 0.0 : value;
 }
 
+// What is nearer to zero than this is written as a plain 0, without a sign, whatever its unit.
+inline constexpr double smallest_in_text = 1e-7;
+
+// Settings that are points differ only if they lie further apart than this.
+inline constexpr double point_tolerance = 1e-7;
+
+// Added before floor when settings and colours are rounded: an exact half goes downwards.
+inline constexpr double round_up_from = 0.49999;
+
+inline constexpr double lumens_per_watt = 17.0; // of an incandescent bulb
+
 // "(%.9g, %.9g, %.9g)", every component below 1e-7 in size written as 0.
 std::string fpt_to_text(const fpt& point);
 

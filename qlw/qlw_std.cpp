@@ -5,6 +5,7 @@
 #include "qlw/folder_refusal.h"
 #include "qlw/qlw_identity.h"
 #include "qlw/qlw_trace.h"
+#include "qlw/replace_all.h"
 #include "qlw/text_format.h"
 
 #include <algorithm>
@@ -127,9 +128,7 @@ std::string get_application_folder() {
     constexpr std::string_view wide_form = "Program Files";
     constexpr std::string_view narrow_form = "Program Files (x86)";
     std::string narrow = application_folder;
-    for (std::size_t at = narrow.find(wide_form); at != std::string::npos;
-         at = narrow.find(wide_form, at + narrow_form.size()))
-        narrow.replace(at, wide_form.size(), narrow_form);
+    replace_all(narrow, wide_form, narrow_form);
     if (path_exists(narrow + appl)) {
         application_folder = narrow;
         return narrow;

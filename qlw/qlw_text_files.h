@@ -31,9 +31,6 @@ public:
 
     std::size_t longest_line = std::size_t{64} << 20; // bytes; no line that anybody writes comes near
 
-    // Up to `size` raw bytes; fewer only at the end of the file.
-    std::size_t read_data(void* buffer, std::size_t size);
-
     // Writes the text; in a text file each line feed becomes CR LF. False if the file is not open or takes no data; a
     // failure may show only in a later call, as bytes are gathered first.
     bool write_string(std::string_view text);

@@ -4,6 +4,7 @@
 #include "qlw/error_list.h"
 #include "qlw/log_file.h"
 #include "qlw/qlw_error_dialog.h"
+#include "qlw/replace_all.h"
 #include "qlw/trace_state.h"
 
 #include <utility>
@@ -24,8 +25,7 @@ std::string_view stem_of(std::string_view file) {
 
 std::string with_six_digits_for_plain_g(std::string_view format) {
     std::string changed(format);
-    for (std::size_t at = changed.find("%g"); at != std::string::npos; at = changed.find("%g", at))
-        changed.replace(at, 2, "%.6g");
+    replace_all(changed, "%g", "%.6g");
     return changed;
 }
 

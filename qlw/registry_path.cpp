@@ -41,6 +41,6 @@ std::optional<std::string> form_for_32_bits(platform::registry_hive hive, std::s
 }
 
 bool lies_in_company_tree(std::string_view path) {
-    const std::string lower = in_lower_case(std::string(path));
+    const std::string lower = lower_case(path);
     return lower.find(company_tree) != std::string::npos && lower.find(still_in_the_registry) == std::string::npos;
 }

@@ -1,5 +1,6 @@
 #include "qlw/setting_variables.h"
 
+#include "qlw/qlw_math.h"
 #include "qlw/qlw_profile.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/text_numbers.h"
@@ -11,9 +12,6 @@
 namespace {
 
 constexpr std::string_view profile_section = "Globals";
-constexpr double smallest_in_text = 1e-7; // a number below it is shown as 0
-constexpr double point_tolerance = 1e-7;  // two points this close are the same value
-constexpr double round_up_from = 0.49999; // added before floor: an exact half is rounded downwards
 constexpr double two_to_63 = 9223372036854775808.0;
 
 enum variable_types : std::int32_t { int_type = 1, string_type, double_type, fpt_type, color_type };

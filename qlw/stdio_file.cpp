@@ -68,17 +68,6 @@ bool cl_stdio_file::read_any_line(std::string& line, bool& is_too_long) {
     return found_any;
 }
 
-std::size_t cl_stdio_file::read_data(void* buffer, std::size_t size) {
-    std::size_t total = 0;
-    while (total < size && fill()) {
-        const std::size_t count = std::min(size - total, read_ahead.size() - read_from);
-        std::copy_n(read_ahead.data() + read_from, count, static_cast<char*>(buffer) + total);
-        read_from += count;
-        total += count;
-    }
-    return total;
-}
-
 bool cl_stdio_file::write_bytes(std::string_view bytes) {
     if (!is_open())
         return false;

@@ -86,7 +86,7 @@ support_facts gather_support_facts(const registry_text_reader& stored) {
     facts.user = stored("SOFTWARE\\Quillon Systems\\User Name");
     if (facts.user.empty() || facts.user == "Windows User")
         facts.user = facts.owner;
-    facts.email = in_lower_case(stored("SOFTWARE\\Quillon Systems\\Email"));
+    facts.email = lower_case(stored("SOFTWARE\\Quillon Systems\\Email"));
     facts.system_version = get_windows_version_text();
     facts.sketchup_version = trace_state().notes.sketchup_version;
     return facts;

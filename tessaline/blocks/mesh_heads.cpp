@@ -2,19 +2,16 @@
 
 #include "tessaline/blocks/block_writer.h"
 
+#include "qlw/letter_case.h"
 #include "qlw/qlw_globals.h"
-#include "tessaline/files/lower_case.h"
 #include "tessaline/state/run_state.h"
 
 namespace {
 
-// Faces on this layer are what one sees of a lamp's light: they stay visible when the lamp's own shape is hidden.
-constexpr std::string_view beam_glow_layer = "qlw_lamp_beam_glow";
-
 constexpr int edge_material = 1; // of every edge
 
 bool shows_head(const mesh_head& head) {
-    return !head.invisible && (!head.hide || lower_case(head.layer_name) == beam_glow_layer);
+    return !head.invisible && (!head.hide || is_beam_glow_layer(lower_case(head.layer_name)));
 }
 
 bool shows_bulb(bool hide, bool invisible) {

@@ -15,8 +15,12 @@ bool back_shows(bool two_sided, int two_sided_setting, int front_number, int bac
 
 } // namespace
 
+bool is_beam_glow_layer(std::string_view lower_layer_name) {
+    return lower_layer_name == beam_glow_layer;
+}
+
 bool is_gated_by_beam(std::string_view lower_layer_name, bool lamp_block_open, bool beam_pass_running) {
-    const bool is_beam = lower_layer_name == beam_glow_layer;
+    const bool is_beam = is_beam_glow_layer(lower_layer_name);
     return (lamp_block_open && !beam_pass_running && is_beam) || (!lamp_block_open && beam_pass_running && !is_beam);
 }
 

@@ -32,6 +32,10 @@ struct face_plan {
 // Where the texture coordinates of a pass come from.
 enum class uvq_source { none, front, back };
 
+// The layer of what one sees of a lamp's light: its faces stay visible when the lamp's own shape is hidden.
+// lower_layer_name: in lower case.
+bool is_beam_glow_layer(std::string_view lower_layer_name);
+
 // Whether the layer keeps a face out of the pass that runs. Beam shapes lie on layers of their own: they stay out of
 // the block of their lamp, and are all that the second walk over a lamp writes. lower_layer_name: in lower case.
 bool is_gated_by_beam(std::string_view lower_layer_name, bool lamp_block_open, bool beam_pass_running);

@@ -60,19 +60,19 @@ void settle_color(material_values& values, SUMaterialRef material) {
 void set_implied(cl_wizard_materials& wizard) {
     constexpr bool keep = true;
     if (wizard.translucency > 0) {
-        wizard.set_wizard_material_defaults(4, keep); // lamp shade
+        wizard.set_wizard_material_defaults(cl_wizard_materials::lamp_shade, keep);
     } else if (wizard.glow > 0) {
-        wizard.set_wizard_material_defaults(11, keep); // glow
+        wizard.set_wizard_material_defaults(cl_wizard_materials::glowing, keep);
     } else if (wizard.transparency > 0) {
         const auto transparency = static_cast<float>(wizard.transparency);
-        wizard.set_wizard_material_defaults(10, !keep); // clear
+        wizard.set_wizard_material_defaults(cl_wizard_materials::clear, !keep);
         wizard.transparency = static_cast<double>(transparency);
-    } else if ((wizard.reflection > 0.9 && !wizard.metallic) || wizard.reflection > 0.8) {
-        wizard.set_wizard_material_defaults(7, keep); // mirror
+    } else if (wizard.reflection > 0.8) {
+        wizard.set_wizard_material_defaults(cl_wizard_materials::mirror, keep);
     } else if (wizard.reflection > 0) {
-        wizard.set_wizard_material_defaults(2, keep); // reflective
+        wizard.set_wizard_material_defaults(cl_wizard_materials::reflective, keep);
     } else {
-        wizard.type = 98; // none
+        wizard.type = cl_wizard_materials::no_kind_found;
     }
 }
 
@@ -99,7 +99,6 @@ void guess_kind(material_values& values) {
     values.translucency = wizard.translucency;
     values.refraction = wizard.refraction;
     // The renderer adjusts for itself what the file says: the kind's transparency goes no further.
-    static_cast<void>(adjust_transparency(wizard.transparency, wizard.translucency));
 }
 
 // The next light of the model that asks for no channel gets one behind all that are taken.

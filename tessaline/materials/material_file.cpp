@@ -2,11 +2,12 @@
 
 #include "tessaline/materials/material_file.h"
 
+#include "qlw/qlw_math.h"
 #include "qlw/qlw_text_files.h"
 
 namespace {
 
-constexpr double lumens_of_full_glow = 1700.0; // of a lamp of 100 watts
+constexpr double lumens_of_full_glow = 100 * lumens_per_watt; // a glow of 1 is a lamp of 100 watts
 
 void write_names(cl_output_file& file, const cl_material_params& params, const std::string& matl_line) {
     file.write_format("Matl: %s\n", matl_line);

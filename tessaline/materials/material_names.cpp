@@ -2,6 +2,7 @@
 
 #include "tessaline/materials/material_names.h"
 
+#include "qlw/replace_all.h"
 #include "qlw/text_format.h"
 #include "tessaline/materials/name_escaping.h"
 #include "tessaline/model/model_text.h"
@@ -14,11 +15,6 @@ constexpr std::string_view material_ending = ".OrnMaterial";
 constexpr std::string_view object_ending = ".qlobj";
 constexpr std::string_view escaped_colon = "%3a"; // a colon cannot stand in a file name
 constexpr std::size_t longest_name = 512;         // UTF-16 units
-
-void replace_all(std::string& text, std::string_view what, std::string_view by) {
-    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size()))
-        text.replace(at, what.size(), by);
-}
 
 // Cuts UTF-8 to as many UTF-16 units, at a whole letter.
 void cut_to_units(std::string& text, std::size_t units) {

@@ -2,6 +2,7 @@
 
 #include "tessaline/start/command_line.h"
 
+#include "qlw/replace_all.h"
 #include "qlw/trimmed.h"
 
 #include <cstddef>
@@ -72,11 +73,6 @@ std::string cut_last_field(std::string& text) {
     if (field)
         return *field;
     return is_quoted ? std::string() : text;
-}
-
-void replace_all(std::string& text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
 }
 
 } // namespace

@@ -16,9 +16,7 @@ char* write_number(char* out, double value);
 // Writes an int as "%d" does, under the same rules.
 char* write_integer(char* out, int value);
 
-// What is nearer to zero than this is written as a plain 0, without a sign: metres, or parts of a unit vector.
-inline constexpr double snap_limit = 1e-7;
-
+// As it is written: metres, or a part of a unit vector.
 inline double snapped(double value) {
-    return snap_to_zero(value, snap_limit);
+    return snap_to_zero(value, smallest_in_text);
 }

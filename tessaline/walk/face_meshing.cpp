@@ -1,9 +1,9 @@
 // Which side of a face becomes which block, and what stands in it. Reads and changes the parameters of the face's
 // level; reads the materials, the texture writer and the flags of the run.
 
+#include "qlw/letter_case.h"
 #include "qlw/qlw_globals.h"
 #include "tessaline/faces/face_geometry.h"
-#include "tessaline/files/lower_case.h"
 #include "tessaline/model/drawing_elements.h"
 #include "tessaline/parameters/attributes.h"
 #include "tessaline/parameters/layer_inheritance.h"

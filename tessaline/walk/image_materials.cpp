@@ -4,7 +4,6 @@
 #include "image/picture.h"
 #include "qlw/fast_image.h"
 #include "qlw/letter_case.h"
-#include "qlw/qlw_globals.h"
 #include "tessaline/files/paths.h"
 #include "tessaline/materials/material_file.h"
 #include "tessaline/materials/material_folders.h"
@@ -155,8 +154,6 @@ bool export_picture(image_material& made, SUImageRef image, std::size_t data_siz
     static constexpr std::string_view kept[] = {".PNG", ".JPG", ".BMP", ".PSD", ".TIF"};
     if (std::find(std::begin(kept), std::end(kept), made.test_word) == std::end(kept))
         made.texture_path += ".PNG";
-    // Asked for and not obeyed: no picture is ever scaled.
-    static_cast<void>(get_global_int("ivl_max_image_resolution"));
     if (bits_per_pixel == bits_without_alpha)
         write_rebuilt(pixels, made.texture_path);
     else

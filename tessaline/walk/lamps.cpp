@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr double lumens_per_watt = 17.0;
 constexpr double widest_field = 180.0; // degrees
 constexpr int white = 0xffffff;
 

@@ -3,8 +3,9 @@
 
 #include "tessaline/walk/placements.h"
 
+#include "qlw/letter_case.h"
 #include "qlw/qlw_globals.h"
-#include "tessaline/files/lower_case.h"
+#include "tessaline/faces/face_sides.h"
 #include "tessaline/model/drawing_elements.h"
 #include "tessaline/model/local_transform.h"
 #include "tessaline/model/model_text.h"
