@@ -125,7 +125,7 @@ bool CTessalineApp::paths_are_usable() const {
 }
 
 void CTessalineApp::run_dialog() {
-    cl_skp_progress_dlg dialog;
+    cl_skp_progress_dlg dialog([this] { run_conversion(input_path, program_folder, output_path, progress_argument); });
     progress_dialog = &dialog;
     dialog.DoModal();
     progress_dialog = nullptr;

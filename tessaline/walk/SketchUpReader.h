@@ -21,6 +21,14 @@
 #include <string_view>
 #include <vector>
 
+// A list of entities on its way through the walk.
+struct list_walk {
+    SUEntitiesRef entities;
+    const transform16& transform; // from the list to the model, inches
+    std::string& path;            // the ids of what encloses the list, each followed by "-"
+    int depth;                    // 0 at the top
+};
+
 // A face where the walk meets it.
 struct face_in_walk {
     SUFaceRef face;
@@ -190,20 +198,29 @@ private:
     void walk_model();
 
     // traversal.cpp: one kind of entity each.
-    void process_groups(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth);
-    void process_instances(SUEntitiesRef entities, const transform16& transform, std::string& path, int depth);
-    void process_group(SUGroupRef group, const transform16& outer, std::string& path, int depth);
-    void process_instance(SUComponentInstanceRef instance, const transform16& outer, std::string& path, int depth);
-    void process_faces(SUEntitiesRef entities, const transform16& transform, const std::string& path);
-    void process_images(SUEntitiesRef entities, const transform16& transform, const std::string& path, int depth);
-    void process_edges(SUEntitiesRef entities, const transform16& transform, const std::string& path);
+    void process_groups(const list_walk& list);
+    void process_instances(const list_walk& list);
+    void process_group(SUGroupRef group, const list_walk& list);
+    void process_instance(SUComponentInstanceRef instance, const list_walk& list);
+    void process_faces(const list_walk& list);
+    void process_images(const list_walk& list);
+    void process_edges(const list_walk& list);
     void process_section_planes(SUEntitiesRef entities);
     void walk_placement(const placement_walk& walk, std::string& path);
     void walk_beams(const placement_walk& walk, std::string& path);
 
     // placements.cpp
-    bool writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
-                         const transform16& transform);
+    // What is written in place of a component's content.
+    enum class stand_in_kind { none, outside_object, plant };
+    struct stand_in {
+        stand_in_kind kind = stand_in_kind::none;
+        rpc_description rpc;
+        plant_description plant;
+    };
+    static stand_in stand_in_of(SUEntityRef definition, bool invisible);
+    void write_stand_in(SUComponentInstanceRef instance, const stand_in& what, const transform16& transform);
+    // What is walked of a level that was pushed: an invisible one only inside a lamp.
+    placement_decision decision_on_level(const placement_walk& walk, bool invisible) const;
 
     // edge_block.cpp
     void write_edge_as_line(const cl_tsl_edge& edge, double pixels);

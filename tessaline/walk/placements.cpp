@@ -66,7 +66,7 @@ bool SketchUpReader::is_let_in(SUDrawingElementRef element, SULayerRef layer, bo
 placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk& walk) {
     const SUDrawingElementRef element = SUGroupToDrawingElement(group);
     const element_layer layer = layer_of(element, layer0_hidden);
-    if (lower_case(layer.name).find("qlw_lamp_beams") != std::string::npos)
+    if (is_beam_helper_layer(lower_case(layer.name)))
         return placement_decision::leave_out;
     bool invisible = false;
     if (!is_let_in(element, layer.layer, invisible))
@@ -85,13 +85,10 @@ placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk&
     current_oparms->store_attributes_in_oparms("Group");
 
     open_lamp(walk, "Group LGHT Lamp", invisible);
-    if (!blocks.state().lamp_block_open && invisible) {
-        oparms_array.forget_all_below(walk.depth); // each enclosing object pops one
-        return placement_decision::leave_out;      // the level stays: the siblings that follow inherit from it
-    }
-    if (extraction_log_is_on())
+    const placement_decision decision = decision_on_level(walk, invisible);
+    if (decision == placement_decision::walk && extraction_log_is_on())
         log_placement("Group", name_by(SUGroupGetName, group), layer.name, walk.transform, walk.depth);
-    return placement_decision::walk;
+    return decision;
 }
 
 placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instance, placement_walk& walk) {
@@ -110,8 +107,10 @@ placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instanc
         turn_to_camera(walk.transform);
     SUComponentDefinitionGetEntities(definition, &walk.entities);
     SUEntityGetID(definition_entity, &walk.id); // so two instances of one definition share a path
-    if (writes_stand_in(instance, definition_entity, invisible, walk.transform))
-        return placement_decision::leave_out;
+    if (const stand_in what = stand_in_of(definition_entity, invisible); what.kind != stand_in_kind::none) {
+        write_stand_in(instance, what, walk.transform);
+        return placement_decision::stand_in;
+    }
 
     const std::string layer_name(layer.name);
     current_oparms = oparms_array.push();
@@ -128,33 +127,41 @@ placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instanc
     if (current_oparms->light.lamp_type == "spot_beams")
         blocks.want_beam_pass();
     open_lamp(walk, "Instance Lamp", invisible);
-    if (!blocks.state().lamp_block_open && invisible) {
-        oparms_array.forget_all_below(walk.depth);
-        return placement_decision::leave_out; // the level stays, as for groups
-    }
-    log_placement("Instance", name, layer_name, walk.transform, walk.depth);
-    return placement_decision::walk;
+    const placement_decision decision = decision_on_level(walk, invisible);
+    if (decision == placement_decision::walk)
+        log_placement("Instance", name, layer_name, walk.transform, walk.depth);
+    return decision;
 }
 
-bool SketchUpReader::writes_stand_in(SUComponentInstanceRef instance, SUEntityRef definition, bool invisible,
-                                     const transform16& transform) {
+placement_decision SketchUpReader::decision_on_level(const placement_walk& walk, bool invisible) const {
+    if (!invisible || blocks.state().lamp_block_open)
+        return placement_decision::walk;
+    oparms_array.forget_all_below(walk.depth); // each enclosing object pops one
+    return placement_decision::leave_level;
+}
+
+SketchUpReader::stand_in SketchUpReader::stand_in_of(SUEntityRef definition, bool invisible) {
+    stand_in what;
     if (SUIsInvalid(definition))
-        return false;
+        return what;
     read_attributes(definition);
-    rpc_description rpc;
-    const bool is_rpc = read_rpc_description(rpc);
-    plant_description plant;
-    const bool is_plant = read_plant_description(plant);
+    const bool is_rpc = read_rpc_description(what.rpc);
+    const bool is_plant = read_plant_description(what.plant);
     if (invisible)
-        return false;
-    if (is_rpc) {
-        write_rpc(instance, rpc, transform);
-        return true;
-    }
-    if (!is_plant || plant.render_as_2d_image || shows_plants_as_images())
-        return false;
-    Write_Zyn_plant(instance, plant, transform, {}, {});
-    return true;
+        return what;
+    if (is_rpc)
+        what.kind = stand_in_kind::outside_object;
+    else if (is_plant && !what.plant.render_as_2d_image && !shows_plants_as_images())
+        what.kind = stand_in_kind::plant;
+    return what;
+}
+
+void SketchUpReader::write_stand_in(SUComponentInstanceRef instance, const stand_in& what,
+                                    const transform16& transform) {
+    if (what.kind == stand_in_kind::outside_object)
+        write_rpc(instance, what.rpc, transform);
+    else
+        Write_Zyn_plant(instance, what.plant, transform, {}, {});
 }
 
 void SketchUpReader::open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden) {

@@ -16,7 +16,10 @@ struct placement_walk {
     int depth = 0;                       // of the list that holds the placement
 };
 
+// What becomes of a placement.
 enum class placement_decision {
-    leave_out, // nothing of it is written and no level was pushed; or one was pushed and stays
-    walk,      // a level was pushed: walk the content and pop it
+    leave_out,   // nothing of it is written, and no level was pushed
+    stand_in,    // a plant or an outside object: one record was written in its place, and no level was pushed
+    leave_level, // its content is left out and its level stays: the siblings that follow inherit from it
+    walk,        // a level was pushed: walk the content and pop it
 };

@@ -1,4 +1,4 @@
-// What the user sees while the conversion runs. Reads theApp and sets nothing.
+// What the user sees while the conversion runs.
 
 #include "tessaline/walk/progress_dlg.h"
 
@@ -16,7 +16,7 @@ void cl_skp_progress_dlg::DoModal() {
 void cl_skp_progress_dlg::OnInitDialog(platform::progress_window& opened) {
     window = &opened;
     window->set_percent(0);
-    theApp.run_conversion(theApp.input_path, theApp.program_folder, theApp.output_path, theApp.progress_argument);
+    conversion();
     window = nullptr;
 }
 

@@ -3,13 +3,19 @@
 // The one window of a run. The conversion takes place while the window is being set up; no input is ever read from it,
 // so a run cannot be stopped.
 
+#include <functional>
+#include <utility>
+
 namespace platform {
 class progress_window;
 }
 
 class cl_skp_progress_dlg {
 public:
-    // Opens the window, runs the conversion of theApp's paths and closes it. A window that cannot be opened ends the
+    // work: the conversion. The dialog knows no more of it, so that the walk below can know the dialog.
+    explicit cl_skp_progress_dlg(std::function<void()> work) : conversion(std::move(work)) {}
+
+    // Opens the window, runs the conversion and closes it. A window that cannot be opened ends the
     // run without a conversion and without a word.
     void DoModal();
 
@@ -20,6 +26,7 @@ public:
     void show_percent(int percent);
 
 private:
+    std::function<void()> conversion;
     platform::progress_window* window = nullptr;
 };
 

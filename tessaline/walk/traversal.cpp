@@ -20,13 +20,14 @@ int SketchUpReader::ProcessEntities(SUEntitiesRef entities, const transform16& t
                                     int depth) {
     if (depth == 0)
         current_oparms = oparms_array.push();
-    process_groups(entities, transform, path, depth);
-    process_instances(entities, transform, path, depth);
+    const list_walk list{entities, transform, path, depth};
+    process_groups(list);
+    process_instances(list);
     if (depth == 0)
         process_skatter_instances();
-    process_faces(entities, transform, path);
-    process_images(entities, transform, path, depth);
-    process_edges(entities, transform, path);
+    process_faces(list);
+    process_images(list);
+    process_edges(list);
     if (depth == 0) {
         process_section_planes(entities);
         log_end_of_walk();
@@ -34,42 +35,39 @@ int SketchUpReader::ProcessEntities(SUEntitiesRef entities, const transform16& t
     return 1;
 }
 
-void SketchUpReader::process_groups(SUEntitiesRef entities, const transform16& transform, std::string& path,
-                                    int depth) {
-    for (const SUGroupRef group : all_handles(SUEntitiesGetNumGroups, SUEntitiesGetGroups, entities))
-        process_group(group, transform, path, depth);
+void SketchUpReader::process_groups(const list_walk& list) {
+    for (const SUGroupRef group : all_handles(SUEntitiesGetNumGroups, SUEntitiesGetGroups, list.entities))
+        process_group(group, list);
 }
 
-void SketchUpReader::process_group(SUGroupRef group, const transform16& outer, std::string& path, int depth) {
+void SketchUpReader::process_group(SUGroupRef group, const list_walk& list) {
     placement_walk walk;
-    walk.transform = outer;
-    walk.depth = depth;
-    if (enter_group(group, walk) == placement_decision::leave_out)
+    walk.transform = list.transform;
+    walk.depth = list.depth;
+    if (enter_group(group, walk) != placement_decision::walk)
         return;
-    walk_placement(walk, path);
-    if (blocks.has_lamp_of_depth(depth))
+    walk_placement(walk, list.path);
+    if (blocks.has_lamp_of_depth(list.depth))
         close_lamp(walk.transform);
     current_oparms = oparms_array.pop();
 }
 
-void SketchUpReader::process_instances(SUEntitiesRef entities, const transform16& transform, std::string& path,
-                                       int depth) {
+void SketchUpReader::process_instances(const list_walk& list) {
     for (const SUComponentInstanceRef instance :
-         all_handles(SUEntitiesGetNumInstances, SUEntitiesGetInstances, entities))
-        process_instance(instance, transform, path, depth);
+         all_handles(SUEntitiesGetNumInstances, SUEntitiesGetInstances, list.entities))
+        process_instance(instance, list);
 }
 
-void SketchUpReader::process_instance(SUComponentInstanceRef instance, const transform16& outer, std::string& path,
-                                      int depth) {
+void SketchUpReader::process_instance(SUComponentInstanceRef instance, const list_walk& list) {
     placement_walk walk;
-    walk.transform = outer;
-    walk.depth = depth;
-    if (enter_instance(instance, walk) == placement_decision::leave_out)
+    walk.transform = list.transform;
+    walk.depth = list.depth;
+    if (enter_instance(instance, walk) != placement_decision::walk)
         return;
-    walk_placement(walk, path);
-    if (blocks.has_lamp_of_depth(depth)) {
+    walk_placement(walk, list.path);
+    if (blocks.has_lamp_of_depth(list.depth)) {
         close_lamp(walk.transform);
-        walk_beams(walk, path);
+        walk_beams(walk, list.path);
     }
     current_oparms = oparms_array.pop();
 }
@@ -89,22 +87,21 @@ void SketchUpReader::walk_beams(const placement_walk& walk, std::string& path) {
     blocks.end_beam_pass();
 }
 
-void SketchUpReader::process_faces(SUEntitiesRef entities, const transform16& transform, const std::string& path) {
-    const auto faces = all_handles(SUEntitiesGetNumFaces, SUEntitiesGetFaces, entities);
+void SketchUpReader::process_faces(const list_walk& list) {
+    const auto faces = all_handles(SUEntitiesGetNumFaces, SUEntitiesGetFaces, list.entities);
     if (faces.empty())
         return;
-    const bool mirrored = is_mirrored(transform);
+    const bool mirrored = is_mirrored(list.transform);
     for (const SUFaceRef face : faces) {
         current_oparms = oparms_array.push();
-        ProcessFace(face, transform, mirrored, path);
+        ProcessFace(face, list.transform, mirrored, list.path);
         current_oparms = oparms_array.pop();
         advance_progress();
     }
     blocks.end_face_list();
 }
 
-void SketchUpReader::process_images(SUEntitiesRef entities, const transform16& transform, const std::string& path,
-                                    int depth) {
+void SketchUpReader::process_images(const list_walk& list) {
     if (blocks.state().beam_pass_running)
         return;
     for (const SUImageRef image : all_handles(SUEntitiesGetNumImages, SUEntitiesGetImages, list.entities)) {
@@ -115,7 +112,7 @@ void SketchUpReader::process_images(SUEntitiesRef entities, const transform16& t
     }
 }
 
-void SketchUpReader::process_edges(SUEntitiesRef entities, const transform16& transform, const std::string& path) {
+void SketchUpReader::process_edges(const list_walk& list) {
     const int edge_lines = get_global_int("ivl_edge_lines");
     if (edge_lines == no_edges || blocks.state().beam_pass_running)
         return;

@@ -22,6 +22,10 @@ public:
 
 class ProgressDialog : public run_fixture {
 protected:
+    static void convert() {
+        theApp.run_conversion(theApp.input_path, theApp.program_folder, theApp.output_path, theApp.progress_argument);
+    }
+
     // What the window shows during the conversion of so many squares, the first `hidden` of which are not written.
     std::vector<std::string> shown_for(int squares, int hidden = 0) {
         model_builder m;
@@ -31,7 +35,7 @@ protected:
             const auto place = m.root().instance(component);
             m.element(place).hidden = at < hidden;
         }
-        cl_skp_progress_dlg dialog;
+        cl_skp_progress_dlg dialog(convert);
         recording_window window;
         convert_under(dialog, window, m);
         return window.shown;
@@ -71,7 +75,7 @@ TEST_F(ProgressDialog, a_percentage_that_did_not_change_is_not_shown_again) {
 }
 
 TEST_F(ProgressDialog, an_update_without_a_dialog_does_nothing) {
-    cl_skp_progress_dlg dialog;
+    cl_skp_progress_dlg dialog(convert);
     recording_window window;
     model_builder m;
     convert_under(dialog, window, m);
