@@ -11,6 +11,8 @@
 
 namespace {
 
+using enum cl_wizard_materials::kinds;
+
 constexpr std::uint32_t white = 0xffffff;
 
 // A value that a type sets: not at all, always, or only in a record whose values are not to be kept.
@@ -49,23 +51,23 @@ struct material_kind {
 
 // clang-format off
 constexpr std::array<material_kind, 12> kind_table{{
-    {cl_wizard_materials::no_kind, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
-    {cl_wizard_materials::no_kind_found, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
-    {cl_wizard_materials::matte, " - Matte", unless_kept(0), 1.0, false, untouched, always(0), always(0), {}, untouched},
-    {cl_wizard_materials::reflective, " - Reflective", unless_kept(0.6), 0.9, true, untouched, always(0), always(0), {}, untouched},
-    {cl_wizard_materials::glass, " - Glass", always(0.5), 1.0, false, always(1.5), always(0), always(1.0), true, untouched},
-    {cl_wizard_materials::lamp_shade, " - Lamp Shade", always(0), 1.0, false, untouched, unless_kept(1.0), always(0.5), {}, untouched},
-    {cl_wizard_materials::metal, " - Metal", unless_kept(0.9), 1.0, true, untouched, always(0), always(0), {}, untouched},
-    {cl_wizard_materials::plastic, " - Plastic", unless_kept(0.25), 0.2, false, untouched, always(0), always(0), {}, untouched},
-    {cl_wizard_materials::mirror, " - Mirror", unless_kept(1.0), 1.0, false, untouched, always(0), always(0), {}, untouched},
-    {cl_wizard_materials::water, " - Water", unless_kept(0.3), 0.8, false, untouched, always(0.6), always(0.5), {}, untouched},
-    {cl_wizard_materials::clear, " - Clear", always(0.5), 1.0, false, always(1.5), always(0), unless_kept(1.0), false, untouched},
-    {cl_wizard_materials::glowing, " - Glow", always(0), 1.0, false, untouched, always(0), always(0), {}, unless_kept(0.5)},
+    {no_kind, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
+    {no_kind_found, "", unless_kept(0), 1.0, false, untouched, always(0), unless_kept(0), {}, untouched},
+    {matte, " - Matte", unless_kept(0), 1.0, false, untouched, always(0), always(0), {}, untouched},
+    {reflective, " - Reflective", unless_kept(0.6), 0.9, true, untouched, always(0), always(0), {}, untouched},
+    {glass, " - Glass", always(0.5), 1.0, false, always(1.5), always(0), always(1.0), true, untouched},
+    {lamp_shade, " - Lamp Shade", always(0), 1.0, false, untouched, unless_kept(1.0), always(0.5), {}, untouched},
+    {metal, " - Metal", unless_kept(0.9), 1.0, true, untouched, always(0), always(0), {}, untouched},
+    {plastic, " - Plastic", unless_kept(0.25), 0.2, false, untouched, always(0), always(0), {}, untouched},
+    {mirror, " - Mirror", unless_kept(1.0), 1.0, false, untouched, always(0), always(0), {}, untouched},
+    {water, " - Water", unless_kept(0.3), 0.8, false, untouched, always(0.6), always(0.5), {}, untouched},
+    {clear, " - Clear", always(0.5), 1.0, false, always(1.5), always(0), unless_kept(1.0), false, untouched},
+    {glowing, " - Glow", always(0), 1.0, false, untouched, always(0), always(0), {}, unless_kept(0.5)},
 }};
 // clang-format on
 
 bool is_no_kind(std::int32_t type) {
-    return type == cl_wizard_materials::no_kind || type == cl_wizard_materials::no_kind_found;
+    return type == no_kind || type == no_kind_found;
 }
 
 } // namespace
