@@ -83,7 +83,8 @@ TEST(OutputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) 
     const trace_capture capture;
     cl_output_file file;
     EXPECT_TRUE(file.open(folder / "x.ini.d/a", 0));
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: Opening .ini file: " + (folder / "x.ini.d/a") + "\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "output_file(#):: Opening .ini file: " + (folder / "x.ini.d/a") + "\n");
 }
 
 TEST(OutputFile, appending_keeps_what_is_there_and_makes_what_is_missing) {
