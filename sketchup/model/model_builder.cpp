@@ -2,6 +2,8 @@
 
 #include "sketchup/model/model_builder.h"
 
+#include "sketchup/model/picture_format.h"
+
 #include <array>
 #include <stdexcept>
 
@@ -10,24 +12,6 @@ namespace sketchup {
 namespace {
 
 constexpr std::string_view material_prefix = "Layer_"; // the program names a layer's private material so
-
-// The number that the classic container gives a picture format, from the first bytes of the file.
-std::uint32_t format_of(const std::vector<std::uint8_t>& bytes) {
-    const auto begins = [&](std::initializer_list<int> signature) {
-        std::size_t i = 0;
-        for (const int byte : signature)
-            if (i >= bytes.size() || bytes[i++] != byte)
-                return false;
-        return true;
-    };
-    if (begins({0xFF, 0xD8, 0xFF}))
-        return 1;
-    if (begins({'B', 'M'}))
-        return 2;
-    if (begins({'I', 'I', 42, 0}) || begins({'M', 'M', 0, 42}))
-        return 3;
-    return begins({0x89, 'P', 'N', 'G'}) ? 4 : 0;
-}
 
 } // namespace
 
@@ -211,7 +195,7 @@ index model_builder::add_definition(std::string_view name, definition_kind kind)
 index model_builder::add_picture(std::vector<std::uint8_t> picture_file, std::string_view file_name) {
     picture made;
     made.name = file_name;
-    made.format = format_of(picture_file);
+    made.format = picture_format(picture_file);
     made.load = [bytes = std::make_shared<const std::vector<std::uint8_t>>(std::move(picture_file))] { return *bytes; };
     model_->pictures.push_back(std::move(made));
     return static_cast<index>(model_->pictures.size() - 1);

@@ -123,7 +123,8 @@ void model_reader::read_attribute_container(std::uint32_t slot) {
 // CAttributeNamed
 void model_reader::read_attribute_named(std::uint32_t) {
     sketchup::attribute_dictionary d;
-    d.id = m_.give_id();
+    if (!in_properties_)
+        d.id = m_.give_id();
     read_entity(d); // its attributes are the dictionaries nested in this one
     skip_numbers(1);
     d.name = in_.text();

@@ -43,7 +43,9 @@ void model_reader::read_model_head() {
     m_.description = in_.text();
     if (number >= 21) {
         skip_options();
+        in_properties_ = true;
         m_.properties = container_ref().dictionaries;
+        in_properties_ = false;
         ref(object_class::dib); // a second thumbnail
     }
     m_.camera = number >= 11 ? camera_ref() : read_old_camera();

@@ -236,6 +236,7 @@ private:
 
     int depth_ = 0;
     index open_loop_ = sketchup::no_index; // the loop whose uses are being read
+    bool in_properties_ = false;           // in the file's own dictionaries: none is handed out, so none takes an id
     bool in_private_layers_ = false;       // in the list of layers that a definition has for itself
 
     // These two hold one another, so they wait for the model where their addresses stay when more are introduced.

@@ -41,8 +41,9 @@ public:
     void raw(std::span<const std::uint8_t> bytes) { append(bytes.data(), bytes.size()); }
     void raw(std::string_view bytes) { append(bytes.data(), bytes.size()); }
 
-    // Sets four bytes that were written before, the first of them at that count.
+    // Sets bytes that were written before, the first of them at that count.
     void set_u32(std::size_t at, std::uint32_t value) { std::memcpy(bytes_.data() + at, &value, sizeof(value)); }
+    void set_u64(std::size_t at, std::uint64_t value) { std::memcpy(bytes_.data() + at, &value, sizeof(value)); }
 
     std::size_t count() const { return bytes_.size(); }
     std::vector<std::uint8_t> take() { return std::move(bytes_); }

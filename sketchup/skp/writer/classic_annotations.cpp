@@ -45,11 +45,11 @@ void write_text(classic_output& c) {
     write_point_reference(c);
     out.v3({0, 0, 0}); // leader
     out.v3({0, 1, 0}); // view direction
-    out.u32(0);        // kind of leader
+    out.u32(2);        // kind of leader
     out.u32(1);        // line weight
     out.boolean(false);
     out.boolean(false);
-    out.u32(0);         // arrow
+    out.u32(3);         // arrow
     out.boolean(false); // the leader is shown
     out.str({});
     out.boolean(false);

@@ -2,6 +2,9 @@
 
 #include "sketchup/skp/writer/classic_bodies.h"
 
+#include <algorithm>
+#include <span>
+
 namespace skp {
 
 using sketchup::index_range;
@@ -69,7 +72,79 @@ void write_persistent_id(classic_output& c, std::int64_t id) {
             out.u8(static_cast<std::uint8_t>(bits >> (8 * i)));
 }
 
+// Whether files always give an id to what is of that kind. The others have one only if the model does.
+bool is_always_numbered(sketchup::entity_kind kind, const object_archive& out) {
+    using enum sketchup::entity_kind;
+    constexpr int first_with_numbered_definitions = 29; // layout of CSketchUpModel, as far as samples tell
+    switch (kind) {
+    case component_definition:
+        return out.number("CSketchUpModel") >= first_with_numbered_definitions;
+    case vertex:
+    case edge:
+    case face:
+    case curve:
+    case group:
+    case component_instance:
+    case image:
+    case section_plane:
+    case annotation:
+    case scene:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// What the files of a version always say in "ModelProperties".
+struct file_property {
+    const char* key;
+    value_code code;
+    int from; // layout of CSketchUpModel
+};
+constexpr file_property file_properties[] = {
+    {"Description", value_code::string, 29},
+    {"IsClassified", value_code::boolean, 24},
+    {"IsDynamic", value_code::boolean, 21},
+    {"Name", value_code::string, 29},
+};
+constexpr std::string_view name_of_properties = "ModelProperties";
+
+typed_value no_value(value_code code) {
+    return code == value_code::boolean ? typed_value{code, false} : typed_value{code, std::string()};
+}
+
+// The model's own dictionary with what it lacks; null: a new one with all that a file says.
+sketchup::attribute_dictionary completed(const sketchup::attribute_dictionary* own, int layout) {
+    sketchup::attribute_dictionary made = own == nullptr ? sketchup::attribute_dictionary() : *own;
+    made.name = name_of_properties;
+    for (const file_property& one : file_properties)
+        if ((own == nullptr || layout >= one.from) &&
+            std::ranges::find(made.entries, one.key, &sketchup::attribute::key) == made.entries.end())
+            made.entries.push_back({one.key, no_value(one.code)});
+    return made;
+}
+
 } // namespace
+
+// The file's own dictionaries: a container that hangs on nothing else. "ModelProperties" is always among them.
+void write_properties(classic_output& c) {
+    object_archive& out = c.out;
+    const int layout = out.number("CSketchUpModel");
+    const std::span<const sketchup::attribute_dictionary> own =
+        std::span(c.model.dictionaries).subspan(c.model.properties.first, c.model.properties.count);
+    out.object("CAttributeContainer", [&] {
+        write_plain_entity(c);
+        bool is_there = false;
+        for (const sketchup::attribute_dictionary& one : own) {
+            const bool is_that = one.name == name_of_properties;
+            is_there = is_there || is_that;
+            out.object("CAttributeNamed", [&] { write_dictionary(c, is_that ? completed(&one, layout) : one); });
+        }
+        if (!is_there)
+            out.object("CAttributeNamed", [&] { write_dictionary(c, completed(nullptr, layout)); });
+        out.null();
+    });
+}
 
 void mention_container(classic_output& c, const sketchup::entity& e, const sketchup::texture_mapping* mapping) {
     if (e.dictionaries.count > 0 || mapping != nullptr)
@@ -80,7 +155,8 @@ void mention_container(classic_output& c, const sketchup::entity& e, const sketc
 
 void write_entity(classic_output& c, const sketchup::entity& e, const sketchup::texture_mapping* mapping) {
     mention_container(c, e, mapping);
-    write_persistent_id(c, e.persistent_id);
+    const bool is_given = e.persistent_id == 0 && is_always_numbered(e.kind, c.out);
+    write_persistent_id(c, is_given ? static_cast<std::int64_t>(c.next_id++) : e.persistent_id);
 }
 
 void write_plain_entity(classic_output& c) {

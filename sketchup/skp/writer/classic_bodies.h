@@ -4,6 +4,7 @@
 // counterpart of each stands in the classic reader under the same name with `read_`.
 
 #include "sketchup/model/model.h"
+#include "sketchup/skp/classic/option_fields.h"
 #include "sketchup/skp/writer/object_archive.h"
 
 #include <cstdint>
@@ -16,7 +17,10 @@ struct classic_output {
     const sketchup::model& model;
     object_archive& out;
     std::vector<std::uint32_t> edges_of_curves; // how many edges each curve has
-    int open_definitions = 0;                   // bodies begun and not yet ended
+    std::uint64_t next_id = 1;                  // larger than all persistent ids of the model and those given out
+    std::size_t next_id_at = 0;                 // where the file states it
+    char font = 0;                              // these stand for the one font and the one style of a file
+    char style = 0;
 };
 
 // classic_attributes.cpp
@@ -24,6 +28,7 @@ void write_entity(classic_output& c, const sketchup::entity& e, const sketchup::
 void mention_container(classic_output& c, const sketchup::entity& e, // null if the entity carries nothing
                        const sketchup::texture_mapping* mapping = nullptr);
 void write_plain_entity(classic_output& c); // of what has neither attributes nor an id
+void write_properties(classic_output& c);
 void write_typed_value(classic_output& c, const sketchup::typed_value& value);
 
 // classic_materials.cpp
@@ -38,6 +43,8 @@ void write_drawing_element(classic_output& c, const sketchup::drawing_element& e
                            bool smooth = false, bool locked = false,
                            const sketchup::texture_mapping* mapping = nullptr);
 void mention_face(classic_output& c, sketchup::index face);
+// Whether every corner of the loop turns to the same side and the loop goes round once. normal: of its face.
+bool is_convex(const sketchup::model& m, const sketchup::loop& loop, const sketchup::vec3& normal, bool is_outer);
 void mention_edge(classic_output& c, sketchup::index edge);
 
 // classic_components.cpp
@@ -54,6 +61,10 @@ void write_camera(classic_output& c, const sketchup::camera& camera);
 void write_rendering_options(classic_output& c, const sketchup::rendering_options& options,
                              const sketchup::shadow_info& shadows);
 void write_shadow_info(classic_output& c, const sketchup::shadow_info& info);
+// The value of an option of that type: the model's, else the usual one, else zero. name: null gives zero, but the flag
+// of the shadows and the numbers of the sections need none.
+void write_option(object_archive& out, option_type type, const char* name, const sketchup::rendering_options& options,
+                  const sketchup::shadow_info& shadows);
 void write_axes(classic_output& c);
 void write_scenes(classic_output& c);
 
@@ -63,5 +74,11 @@ void write_dimension_style(classic_output& c);
 void write_text_style(classic_output& c);
 void write_fonts(classic_output& c);
 void mention_font(classic_output& c);
+void write_line_styles(classic_output& c);
+void write_preview(classic_output& c);
+
+// classic_style_items.cpp
+void write_styles(classic_output& c);
+void mention_style(classic_output& c);
 
 } // namespace skp

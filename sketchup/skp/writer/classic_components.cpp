@@ -1,7 +1,10 @@
 // Entity lists, definitions and placements in the classic container.
 
 #include "sketchup/skp/writer/classic_bodies.h"
-#include "sketchup/skp/writer/classic_writer.h"
+#include "sketchup/skp/writer/definition_order.h"
+#include "sketchup/skp/writer/usual_settings.h"
+#include "sketchup/skp/writer/written_cameras.h"
+#include "sketchup/skp/writer/written_guids.h"
 #include "sketchup/skp/writer/written_lists.h"
 
 #include <stdexcept>
@@ -38,7 +41,7 @@ void mention_placement(classic_output& c, index placement) {
         if (layout >= 4)
             out.str(p.name);
         if (layout >= 5)
-            out.raw(p.guid);
+            out.raw(written_guid(p.guid, guid_owner::placement, placement));
     });
 }
 
@@ -100,29 +103,41 @@ void write_materials(classic_output& c, bool is_root) {
     out.null(); // the paint tool's material
 }
 
-void write_definition(classic_output& c, const sketchup::component_definition& d) {
+// The view of a definition as its files show it; never drawn here.
+void write_thumbnail(classic_output& c) {
     object_archive& out = c.out;
+    write_plain_entity(c);
+    out.object("CCamera", [&] { write_camera(c, thumbnail_camera()); });
+    out.null(); // picture
+}
+
+void write_definition(classic_output& c, index at) {
+    object_archive& out = c.out;
+    const sketchup::component_definition& d = c.model.definitions[at];
     write_component(c, d.entities, d, false);
-    out.raw(d.guid);
+    out.raw(written_guid(d.guid, guid_owner::definition, at));
     out.str(d.name);
     out.str(d.description);
     out.str(d.path);
-    out.u32(d.time);
+    out.u32(d.time == 0 ? usual_time : d.time);
     out.boolean(false); // modified
     out.v3(d.insertion_point);
     write_behavior(c, d.behavior);
     out.u32(static_cast<std::uint32_t>(d.what));
-    out.null(); // thumbnail
+    out.object("CThumbnail", [&] { write_thumbnail(c); });
+}
+
+// In the model's list, where each stands behind those that it places.
+void write_definitions(classic_output& c) {
+    object_archive& out = c.out;
+    out.size(c.model.definitions.size());
+    for (const index one : definitions_children_first(c.model))
+        out.object("CComponentDefinition", &c.model.definitions[one], [&] { write_definition(c, one); });
 }
 
 void mention_definition(classic_output& c, index definition) {
-    const sketchup::component_definition& d = c.model.definitions[definition];
-    c.out.object("CComponentDefinition", &d, [&] {
-        if (++c.open_definitions > deepest_open_definitions)
-            throw std::length_error("definitions are introduced within one another too deep for a classic file");
-        write_definition(c, d);
-        --c.open_definitions;
-    });
+    c.out.object("CComponentDefinition", &c.model.definitions[definition],
+                 [] { throw std::invalid_argument("definitions contain one another in a ring"); });
 }
 
 } // namespace
@@ -136,10 +151,10 @@ void write_component(classic_output& c, const sketchup::entity_list& list, const
         write_layer_manager(c);
     else
         write_definition_layers(c);
-    out.size(is_root ? c.model.definitions.size() : 0);
     if (is_root)
-        for (index i = 0; i < c.model.definitions.size(); ++i)
-            mention_definition(c, i);
+        write_definitions(c);
+    else
+        out.size(0);
     write_entities(c, list);
     write_relationships(c, list);
     mention_section_plane(c, list.active_section_plane);

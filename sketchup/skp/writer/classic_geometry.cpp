@@ -1,11 +1,17 @@
 // Faces, loops, edges, vertices and curves in the classic container.
 
+#include "sketchup/model/loop_corners.h"
+#include "sketchup/model/vector_math.h"
 #include "sketchup/skp/writer/classic_bodies.h"
+
+#include <cmath>
+#include <numbers>
 
 namespace skp {
 
 using sketchup::index;
 using sketchup::no_index;
+using sketchup::vec3;
 
 namespace {
 
@@ -38,11 +44,16 @@ void mention_curve(classic_output& c, index curve) {
     c.out.object(is_arc ? "CArcCurve" : "CCurve", made, [&] { write_curve(c, *made); });
 }
 
-void mention_loop(classic_output& c, index loop_index, bool is_outer) {
+// How far the loop turns to the left between two steps, as an angle within half a turn.
+double turn(const vec3& before, const vec3& behind, const vec3& normal) {
+    return std::atan2(dot(cross(before, behind), normal), dot(before, behind));
+}
+
+void mention_loop(classic_output& c, index loop_index, const vec3& normal, bool is_outer) {
     object_archive& out = c.out;
     const sketchup::loop& loop = c.model.loops[loop_index];
     const auto write_use = [&](const sketchup::edge_use& use) {
-        sketchup::entity own(sketchup::entity_kind::edge);
+        sketchup::entity own(sketchup::entity_kind::entities); // of no kind that is given an id
         own.persistent_id = use.persistent_id;
         write_entity(c, own);
         mention_edge(c, use.edge);
@@ -52,7 +63,7 @@ void mention_loop(classic_output& c, index loop_index, bool is_outer) {
     out.object("CLoop", &loop, [&] {
         write_plain_entity(c);
         out.boolean(is_outer);
-        out.boolean(false); // convex: not worked out, and no reader needs it
+        out.boolean(is_convex(c.model, loop, normal, is_outer));
         for (index i = 0; i < loop.uses.count; ++i) {
             const sketchup::edge_use& use = c.model.edge_uses[loop.uses.first + i];
             out.object("CEdgeUse", [&] { write_use(use); });
@@ -77,6 +88,23 @@ void write_drawing_element(classic_output& c, const sketchup::drawing_element& e
     mention_layer(c, e.layer);
 }
 
+bool is_convex(const sketchup::model& m, const sketchup::loop& loop, const vec3& normal, bool is_outer) {
+    constexpr double straight = 1e-9; // radians
+    const index corners = loop.uses.count;
+    if (corners == 0)
+        return false;
+    const auto corner = [&](index i) { return sketchup::corner_position(m, loop.uses.first + i % corners); };
+    double sum = 0;
+    for (index i = 0; i < corners; ++i) {
+        const double angle = turn(corner(i + 1) - corner(i), corner(i + 2) - corner(i + 1), normal);
+        const double to_inside = is_outer ? angle : -angle; // a hole runs the other way round
+        if (!(to_inside > straight))
+            return false;
+        sum += to_inside;
+    }
+    return sum < 3 * std::numbers::pi; // one round is two, and a star goes round twice
+}
+
 void mention_edge(classic_output& c, index edge) {
     const sketchup::edge& e = c.model.edges[edge];
     c.out.object("CEdge", &e, [&] {
@@ -98,7 +126,7 @@ void mention_face(classic_output& c, index face) {
             out.f64(number);
         out.u32(f.loops.count);
         for (index i = 0; i < f.loops.count; ++i)
-            mention_loop(c, f.loops.first + i, i == 0);
+            mention_loop(c, f.loops.first + i, f.plane.normal(), i == 0);
         mention_material(c, f.back_material);
     });
 }

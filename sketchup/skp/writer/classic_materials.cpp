@@ -1,5 +1,6 @@
 // Materials, pictures and layers in the classic container.
 
+#include "sketchup/model/picture_format.h"
 #include "sketchup/skp/writer/classic_bodies.h"
 #include "sketchup/skp/writer/written_lists.h"
 
@@ -15,11 +16,13 @@ namespace {
 void write_picture(classic_output& c, const sketchup::picture& picture) {
     object_archive& out = c.out;
     const std::vector<std::uint8_t> bytes = picture.load();
-    out.u32(picture.format);
+    constexpr std::uint32_t usual_quality = 75; // of 99
+    const std::uint32_t format = picture.format != 0 ? picture.format : sketchup::picture_format(bytes);
+    out.u32(format);
     out.size(bytes.size());
     out.raw(bytes);
-    if (out.number("CDib") >= 3 && picture.format == 1)
-        out.u32(picture.quality);
+    if (out.number("CDib") >= 3 && format == 1)
+        out.u32(picture.quality != 0 ? picture.quality : usual_quality);
 }
 
 // Of a material that has one.
@@ -116,8 +119,9 @@ void write_definition_layers(classic_output& c) {
     own.name = "Layer0";
     write_plain_entity(c);
     out.size(1);
-    out.object("CLayer", [&] { write_layer(c, own); });
-    out.null();
+    out.object("CLayer", &own, [&] { write_layer(c, own); });
+    out.object("CLayer", &own, [] {}); // the active one
+    out.forget(&own);
     if (out.number("CLayerManager") >= 7) {
         write_plain_entity(c);
         out.str({});

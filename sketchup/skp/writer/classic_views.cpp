@@ -3,6 +3,7 @@
 #include "sketchup/skp/writer/classic_bodies.h"
 
 #include "sketchup/skp/classic/option_fields.h"
+#include "sketchup/skp/writer/blank_preview.h"
 #include "sketchup/skp/writer/written_cameras.h"
 #include "sketchup/skp/writer/written_lists.h"
 
@@ -25,7 +26,7 @@ void write_scene(classic_output& c, const sketchup::scene& scene) {
         out.object("CCamera", [&] { write_camera(c, c.model.cameras[scene.camera]); });
     if (scene.rendering_options) {
         write_rendering_options(c, *scene.rendering_options, scene.shadow_info.value_or(sketchup::shadow_info()));
-        out.null(); // style
+        mention_style(c);
     }
     if (scene.shadow_info) {
         write_shadow_info(c, *scene.shadow_info);
@@ -52,12 +53,14 @@ void write_scene(classic_output& c, const sketchup::scene& scene) {
     out.f64(-1); // delay: the default
     out.null();  // background
     if (layout >= 12) {
-        out.boolean(false); // shows the background
-        out.boolean(false); // has a picture
+        out.boolean(true); // shows the background
+        out.boolean(true); // has a picture
+        out.boolean(true); // whose bytes follow
+        out.size(blank_preview().size());
+        out.raw(blank_preview());
     }
 }
 
-// The value of an option of that type: the model's, else the usual one, else zero. name: null gives zero.
 template<class T>
 T option_value(const sketchup::rendering_options& options, const char* name) {
     const sketchup::typed_value* value = name == nullptr ? nullptr : written_option(options, name);
@@ -65,10 +68,11 @@ T option_value(const sketchup::rendering_options& options, const char* name) {
     return held == nullptr ? T() : *held;
 }
 
-void write_option(object_archive& out, const option_field& field, const sketchup::rendering_options& options,
+} // namespace
+
+void write_option(object_archive& out, option_type type, const char* name, const sketchup::rendering_options& options,
                   const sketchup::shadow_info& shadows) {
-    const char* name = field.name != nullptr ? field.name : field.setting;
-    switch (field.type) {
+    switch (type) {
     case option_type::integer:
         out.u32(static_cast<std::uint32_t>(option_value<std::int64_t>(options, name)));
         break;
@@ -90,8 +94,6 @@ void write_option(object_archive& out, const option_field& field, const sketchup
         break;
     }
 }
-
-} // namespace
 
 void write_camera(classic_output& c, const sketchup::camera& of_model) {
     object_archive& out = c.out;
@@ -123,7 +125,7 @@ void write_rendering_options(classic_output& c, const sketchup::rendering_option
     const int layout = out.number("CRenderingOptions");
     for (const option_field& field : option_fields())
         if (field.is_in(layout))
-            write_option(out, field, options, shadows);
+            write_option(out, field.type, field.name != nullptr ? field.name : field.setting, options, shadows);
 }
 
 void write_shadow_info(classic_output& c, const sketchup::shadow_info& info) {

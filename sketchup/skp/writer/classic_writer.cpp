@@ -3,6 +3,8 @@
 #include "sketchup/skp/writer/classic_writer.h"
 
 #include "sketchup/skp/writer/classic_bodies.h"
+#include "sketchup/skp/writer/usual_settings.h"
+#include "sketchup/skp/writer/written_guids.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -18,9 +20,9 @@ void write_header(classic_output& c, classic_version version) {
     object_archive& out = c.out;
     out.str("SketchUp Model");
     out.str(stamps[static_cast<std::size_t>(version)]);
-    out.raw(c.model.guid);
+    out.raw(written_guid(c.model.guid, guid_owner::model));
     out.str({}); // where it was saved
-    out.u32(0);  // when
+    out.u32(usual_time);
     constexpr std::string_view map_class = "CVersionMap";
     out.u16(0xFFFF);
     out.u16(0);
@@ -38,10 +40,17 @@ void write_header(classic_output& c, classic_version version) {
 // Persistent ids are given out in rising order; the file keeps the next one.
 std::uint64_t next_persistent_id(const sketchup::model& m) {
     std::int64_t highest = 0;
-    const auto look = [&](const auto& array) {
-        for (const auto& one : array)
-            highest = std::max(highest, one.persistent_id);
-    };
+    const auto consider = [&](const auto& one) { highest = std::max(highest, one.persistent_id); };
+    const auto look = [&](const auto& array) { std::ranges::for_each(array, consider); };
+    consider(m.root);
+    consider(m.rendering_options);
+    consider(m.shadow_info);
+    for (const sketchup::scene& s : m.scenes) {
+        if (s.rendering_options)
+            consider(*s.rendering_options);
+        if (s.shadow_info)
+            consider(*s.shadow_info);
+    }
     look(m.vertices);
     look(m.edges);
     look(m.edge_uses);
@@ -59,33 +68,27 @@ std::uint64_t next_persistent_id(const sketchup::model& m) {
     return static_cast<std::uint64_t>(highest) + 1;
 }
 
-// The file's own dictionaries: a container that hangs on nothing else.
-void write_properties(classic_output& c) {
-    sketchup::entity own(sketchup::entity_kind::model);
-    own.dictionaries = c.model.properties;
-    mention_container(c, own);
-}
-
 void write_before_root(classic_output& c, int layout) {
     object_archive& out = c.out;
     out.u32(1);
     out.u32(utf16_code_page);
-    out.u32(0); // product family
+    out.u32(2); // product family
+    c.next_id_at = out.count();
     if (layout >= 26)
-        out.u64(next_persistent_id(c.model));
-    out.null();         // thumbnail
-    out.boolean(false); // renew it on saving
+        out.u64(0); // the next persistent id, known when all is written
+    write_preview(c);
+    out.boolean(true); // renew it on saving
     write_behavior(c, {});
     out.str(c.model.description);
     if (layout >= 21) {
         write_options(c);
         write_properties(c);
-        out.null(); // second preview
+        write_preview(c);
     }
     out.object("CCamera", [&] { write_camera(c, c.model.camera); });
     write_rendering_options(c, c.model.rendering_options, c.model.shadow_info);
     out.u32(0);
-    out.u32(0); // checked
+    out.u32(1); // checked
 }
 
 void write_behind_root(classic_output& c, int layout) {
@@ -100,13 +103,10 @@ void write_behind_root(classic_output& c, int layout) {
     write_dimension_style(c);
     write_text_style(c);
     write_fonts(c);
-    if (layout >= 29) {
-        write_plain_entity(c);
-        out.size(0); // line styles
-    }
+    if (layout >= 29)
+        write_line_styles(c);
     out.null(); // background
-    write_plain_entity(c);
-    out.size(0); // styles
+    write_styles(c);
     write_plain_entity(c);
     out.size(0); // watermarks
     if (layout >= 20)
@@ -131,7 +131,8 @@ std::vector<std::uint32_t> count_edges_of_curves(const sketchup::model& m) {
 
 std::vector<std::uint8_t> write_classic(const sketchup::model& m, classic_version version) {
     object_archive out(version);
-    classic_output c{m, out, count_edges_of_curves(m), 0};
+    classic_output c{m, out, count_edges_of_curves(m)};
+    c.next_id = next_persistent_id(m);
     const int layout = out.number("CSketchUpModel");
     write_header(c, version);
     write_before_root(c, layout);
@@ -140,6 +141,8 @@ std::vector<std::uint8_t> write_classic(const sketchup::model& m, classic_versio
     owner.persistent_id = m.root.persistent_id;
     write_component(c, m.root, owner, true);
     write_behind_root(c, layout);
+    if (layout >= 26)
+        out.set_u64(c.next_id_at, c.next_id);
     return out.take();
 }
 

@@ -42,6 +42,9 @@ public:
         body();
     }
 
+    // From here on that key stands for another object, one that was not written yet.
+    void forget(const void* key) { objects_.erase(key); }
+
     // An object that is mentioned only here.
     template<class Body>
     void object(std::string_view class_name, Body body) {

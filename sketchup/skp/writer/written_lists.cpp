@@ -58,6 +58,7 @@ sketchup::material plain_layer_material(const sketchup::layer& layer) {
     sketchup::material shown;
     shown.name = "Layer_" + layer.name;
     shown.is_private = true;
+    shown.color = {255, 84, 84, 255}; // the program's own for a layer that nobody has given one
     return shown;
 }
 

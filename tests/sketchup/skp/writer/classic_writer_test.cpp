@@ -4,6 +4,7 @@
 
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/read_model.h"
+#include "sketchup/skp/writer/classic_bodies.h"
 
 #include <gtest/gtest.h>
 
@@ -77,6 +78,37 @@ TEST(ClassicWriter, attributes_with_an_empty_key_are_left_out) {
     m.attribute(m.root().list(), "d", "", whole_number(1));
     m.attribute(m.root().list(), "d", "kept", whole_number(2));
     const auto read = round_trip(*m.finish());
-    ASSERT_EQ(read->dictionaries.size(), 1u);
-    EXPECT_EQ(read->dictionaries[0].entries, (std::vector<attribute>{{"kept", whole_number(2)}}));
+    ASSERT_EQ(read->root.dictionaries.count, 1u);
+    EXPECT_EQ(read->dictionaries[read->root.dictionaries.first].entries,
+              (std::vector<attribute>{{"kept", whole_number(2)}}));
+}
+
+namespace {
+
+// Whether the outline of a face through these points, which lies level, counts as convex.
+bool outline_is_convex(std::initializer_list<vec3> points) {
+    model_builder m;
+    const face& made = m.face(m.root().face(points));
+    return skp::is_convex(m.model(), m.model().loops[made.loops.first], made.plane.normal(), true);
+}
+
+} // namespace
+
+TEST(ClassicWriter, a_square_is_convex_seen_from_either_side) {
+    EXPECT_TRUE(outline_is_convex({{0, 0, 0}, {2, 0, 0}, {2, 2, 0}, {0, 2, 0}}));
+    EXPECT_TRUE(outline_is_convex({{0, 2, 0}, {2, 2, 0}, {2, 0, 0}, {0, 0, 0}}));
+}
+
+TEST(ClassicWriter, an_angle_a_straight_corner_and_a_star_are_not_convex) {
+    EXPECT_FALSE(outline_is_convex({{0, 0, 0}, {2, 0, 0}, {2, 1, 0}, {1, 1, 0}, {1, 2, 0}, {0, 2, 0}}));
+    EXPECT_FALSE(outline_is_convex({{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {2, 2, 0}, {0, 2, 0}}));
+    EXPECT_FALSE(outline_is_convex({{0, 10, 0}, {-6, -8, 0}, {9, 3, 0}, {-9, 3, 0}, {6, -8, 0}}));
+}
+
+TEST(ClassicWriter, a_square_hole_is_convex_though_it_runs_the_other_way_round) {
+    model_builder m;
+    const std::vector<vec3> outline = {{0, 0, 0}, {9, 0, 0}, {9, 9, 0}, {0, 9, 0}};
+    const std::vector<std::vector<vec3>> holes = {{{1, 1, 0}, {2, 1, 0}, {2, 2, 0}, {1, 2, 0}}};
+    const face& made = m.face(m.root().face(outline, holes));
+    EXPECT_TRUE(skp::is_convex(m.model(), m.model().loops[made.loops.first + 1], made.plane.normal(), false));
 }

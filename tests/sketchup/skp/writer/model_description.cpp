@@ -59,6 +59,7 @@ private:
     }
 
     void dictionaries(const sketchup::index_range& range, bool of_material = false);
+    void properties();
     void dictionary(const sketchup::attribute_dictionary& d, bool of_material);
     // fact: whose id it is.
     void entity(const sketchup::entity& e, const std::string& fact);
@@ -111,6 +112,22 @@ void describer::dictionaries(const sketchup::index_range& range, bool of_materia
         dictionary(m_.dictionaries[range.first + i], of_material);
 }
 
+// What every file says of itself without being told means nothing: that the model has no name and is not dynamic.
+void describer::properties() {
+    const auto says_nothing = [](const sketchup::attribute& a) {
+        return a.value == sketchup::typed_value{sketchup::value_code::boolean, false} ||
+               a.value == sketchup::typed_value{sketchup::value_code::string, std::string()};
+    };
+    for (index i = 0; i < m_.properties.count; ++i) {
+        sketchup::attribute_dictionary d = m_.dictionaries[m_.properties.first + i];
+        const bool is_own = d.name != "ModelProperties";
+        if (!is_own)
+            std::erase_if(d.entries, says_nothing);
+        if (is_own || !d.entries.empty() || d.dictionaries.count > 0)
+            dictionary(d, false);
+    }
+}
+
 // A dictionary finds its entries by their keys, so their order means nothing.
 void describer::dictionary(const sketchup::attribute_dictionary& d, bool of_material) {
     under("dictionary " + text_of(d.name), [&] {
@@ -158,8 +175,8 @@ void describer::texture(const sketchup::texture& t) {
         const sketchup::picture& picture = m_.pictures[t.picture];
         const std::vector<std::uint8_t> bytes = picture.load();
         say("picture " + text_of(std::string(bytes.begin(), bytes.end())));
-        tells("number of a picture's format", std::to_string(picture.format));
-        tells("quality of a picture", std::to_string(picture.quality));
+        tells_if_any("number of a picture's format", picture.format != 0, std::to_string(picture.format));
+        tells_if_any("quality of a picture", picture.quality != 0, std::to_string(picture.quality));
     });
 }
 
@@ -420,7 +437,7 @@ std::vector<std::string> describer::describe() {
     tells_if_any("guid", is_any(m_.guid), text_of(m_.guid));
     say("description " + text_of(m_.description));
     if (!leaves_out("properties of the model"))
-        dictionaries(m_.properties);
+        properties();
     camera(m_.camera);
     options(m_.rendering_options);
     shadows(m_.shadow_info);

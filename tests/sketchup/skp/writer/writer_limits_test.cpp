@@ -79,14 +79,25 @@ TEST(WriterLimits, nesting_1000_deep_comes_back) {
     EXPECT_EQ(read_modern(*chain(1000, 1, false))->definitions.size(), 1000u);
 }
 
+TEST(WriterLimits, nesting_4096_deep_comes_back_from_a_classic_file_whichever_way_it_is_listed) {
+    EXPECT_EQ(read_classic(*chain(4096, 1, true))->definitions.size(), 4096u);
+    EXPECT_EQ(read_classic(*chain(4096, 1, false))->definitions.size(), 4096u);
+}
+
 TEST(WriterLimits, nesting_10000_deep_is_refused_when_read) {
     const std::string reason = "placements nest deeper than 4096";
     EXPECT_NE(refusal([] { read_classic(*chain(10000, 1, true)); }).find(reason), std::string::npos);
+    EXPECT_NE(refusal([] { read_classic(*chain(10000, 1, false)); }).find(reason), std::string::npos);
     EXPECT_NE(refusal([] { read_modern(*chain(10000, 1, false)); }).find(reason), std::string::npos);
 }
 
-TEST(WriterLimits, a_classic_file_cannot_hold_10000_definitions_within_one_another) {
-    EXPECT_THROW(skp::write_classic(*chain(10000, 1, false), skp::classic_version::v17), std::length_error);
+TEST(WriterLimits, a_classic_file_cannot_hold_definitions_that_contain_one_another) {
+    model_builder m;
+    list_builder one = m.component("one");
+    list_builder other = m.component("other");
+    one.instance(other);
+    other.instance(one);
+    EXPECT_THROW(skp::write_classic(*m.finish(), skp::classic_version::v17), std::invalid_argument);
 }
 
 // 31 components in a chain of two placements each: 2^30 edges in the end, and 2^31 - 2 placements on the way.
