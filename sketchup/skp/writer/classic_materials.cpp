@@ -2,6 +2,7 @@
 
 #include "sketchup/model/picture_format.h"
 #include "sketchup/skp/writer/classic_bodies.h"
+#include "sketchup/skp/writer/written_colors.h"
 #include "sketchup/skp/writer/written_lists.h"
 
 #include <vector>
@@ -35,7 +36,7 @@ void write_texture(classic_output& c, const sketchup::material& m) {
     out.f64(texture.width);
     out.f64(texture.height);
     out.str(texture.file_name);
-    out.rgba(written_average_color(c.model, m));
+    out.rgba(written_shown_average(c.model, m));
 }
 
 void write_layer(classic_output& c, const sketchup::layer& layer) {

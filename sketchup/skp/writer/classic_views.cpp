@@ -6,6 +6,7 @@
 #include "sketchup/skp/writer/blank_preview.h"
 #include "sketchup/skp/writer/written_cameras.h"
 #include "sketchup/skp/writer/written_lists.h"
+#include "sketchup/skp/writer/written_sun.h"
 
 namespace skp {
 
@@ -128,8 +129,9 @@ void write_rendering_options(classic_output& c, const sketchup::rendering_option
             write_option(out, field.type, field.name != nullptr ? field.name : field.setting, options, shadows);
 }
 
-void write_shadow_info(classic_output& c, const sketchup::shadow_info& info) {
+void write_shadow_info(classic_output& c, const sketchup::shadow_info& of_model) {
     object_archive& out = c.out;
+    const sketchup::shadow_info info = written_sun(of_model);
     write_entity(c, info);
     out.u32(static_cast<std::uint32_t>(info.time));
     out.boolean(info.daylight_saving);

@@ -15,4 +15,11 @@ sketchup::rgba written_average(const sketchup::model& m, const sketchup::texture
     return pixels ? sketchup::average_color(*pixels) : grey;
 }
 
+sketchup::rgba written_shown_average(const sketchup::model& m, const sketchup::material& of) {
+    const sketchup::texture& t = m.textures[of.texture];
+    if (sketchup::is_recolored(of) && t.average_color == sketchup::rgba{})
+        return {of.color.red, of.color.green, of.color.blue, 255};
+    return written_average(m, t);
+}
+
 } // namespace skp

@@ -1,7 +1,5 @@
 #include "sketchup/skp/writer/written_lists.h"
 
-#include "image/decode_picture.h"
-#include "sketchup/model/colorize.h"
 #include "sketchup/model/usual_options.h"
 
 #include <algorithm>
@@ -27,17 +25,6 @@ const sketchup::typed_value* written_option(const sketchup::rendering_options& o
         return &found->value;
     const sketchup::typed_value* usual = sketchup::usual_option(name);
     return usual != nullptr ? usual : sketchup::usual_setting(name);
-}
-
-sketchup::rgba written_average_color(const sketchup::model& m, const sketchup::material& material) {
-    const sketchup::texture& texture = m.textures[material.texture];
-    if (texture.average_color != sketchup::rgba())
-        return texture.average_color;
-    const sketchup::rgba& own = material.color;
-    if (!sketchup::is_recolored(material) && texture.picture != no_index)
-        if (const auto decoded = image::decode_picture(m.pictures[texture.picture].load()))
-            return sketchup::average_color(*decoded);
-    return {own.red, own.green, own.blue, 255};
 }
 
 std::vector<index> materials_of_list(const sketchup::model& m) {

@@ -27,10 +27,6 @@ std::uint32_t written_flags(const sketchup::scene& scene);
 // of a setting that it does not show (model/usual_options.h).
 const sketchup::typed_value* written_option(const sketchup::rendering_options& options, std::string_view name);
 
-// The average colour of the material's texture: the one that is set, else that of the picture as it is shown, else,
-// where the picture cannot be decoded, the material's own. Never zero. material: has a texture.
-sketchup::rgba written_average_color(const sketchup::model& m, const sketchup::material& material);
-
 // The materials of the model's list: those of the host's list in its order, then the private ones of images, which the
 // program does not show. Those of layers are stored with their layers.
 std::vector<sketchup::index> materials_of_list(const sketchup::model& m);

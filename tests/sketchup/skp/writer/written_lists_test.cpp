@@ -2,6 +2,7 @@
 
 #include "sketchup/model/model_builder.h"
 #include "sketchup/skp/writer/blank_preview.h"
+#include "sketchup/skp/writer/written_colors.h"
 
 #include <gtest/gtest.h>
 
@@ -24,12 +25,12 @@ std::unique_ptr<model> painted_white() {
 TEST(WrittenLists, an_average_colour_that_the_texture_has_is_kept) {
     const auto m = painted_white();
     m->textures[0].average_color = {1, 2, 3, 0};
-    EXPECT_EQ(skp::written_average_color(*m, m->materials[m->listed_materials[0]]), (rgba{1, 2, 3, 0}));
+    EXPECT_EQ(skp::written_shown_average(*m, m->materials[m->listed_materials[0]]), (rgba{1, 2, 3, 0}));
 }
 
 TEST(WrittenLists, a_texture_without_an_average_colour_gets_that_of_its_picture) {
     const auto m = painted_white();
-    EXPECT_EQ(skp::written_average_color(*m, m->materials[m->listed_materials[0]]), (rgba{255, 255, 255, 255}));
+    EXPECT_EQ(skp::written_shown_average(*m, m->materials[m->listed_materials[0]]), (rgba{255, 255, 255, 255}));
 }
 
 TEST(WrittenLists, the_average_of_a_recoloured_picture_is_the_colour_wanted) {
@@ -37,14 +38,7 @@ TEST(WrittenLists, the_average_of_a_recoloured_picture_is_the_colour_wanted) {
     material& one = m->materials[m->listed_materials[0]];
     one.type = material_type::colorized;
     one.color = {200, 100, 50, 0};
-    EXPECT_EQ(skp::written_average_color(*m, one), (rgba{200, 100, 50, 255}));
-}
-
-TEST(WrittenLists, the_average_of_a_picture_that_cannot_be_decoded_is_the_colour_of_its_material) {
-    model_builder m;
-    const sketchup::index made = m.textured_material("odd", {'n', 'o'}, "odd.xyz", 1, 1);
-    m.model().materials[made].color = {7, 8, 9, 0};
-    EXPECT_EQ(skp::written_average_color(m.model(), m.model().materials[made]), (rgba{7, 8, 9, 255}));
+    EXPECT_EQ(skp::written_shown_average(*m, one), (rgba{200, 100, 50, 255}));
 }
 
 TEST(WrittenLists, a_setting_that_the_interface_does_not_show_has_its_usual_value) {
