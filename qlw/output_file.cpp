@@ -39,7 +39,7 @@ bool cl_output_file::passes_write_test() {
     write_string(written);
     close();
     cl_input_file reader;
-    if (!reader.open(name, 1, {}, 0)) {
+    if (!reader.open(name, quiet_open, {}, 0)) {
         cl_trace::here("cl_output_file::open", trace_level::user_error)
             .report("Cannot create file: '%s'. Unable to write to, and then re-open file\n\nMake sure that the file "
                     "path exists and that the file is not in use by another program.",

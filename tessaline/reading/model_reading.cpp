@@ -87,7 +87,7 @@ void rewrite_option_globals(const std::string& path) {
         return;
     cl_trace::here("rewrite_option_globals", trace_level::report).report("Options not rewritten: %s", path);
     cl_output_file again;
-    if (again.open_binary(path, 1))
+    if (again.open_binary(path, quiet_open))
         again.write_data(before->data(), before->size());
 }
 
