@@ -12,7 +12,7 @@ struct cl_material_params {
     std::string display_name{};
     std::string orig_name{};
     std::string image_path{}; // full name of the picture; empty if there is none
-    double tile_x = 0;      // factors of the picture's texture coordinates
+    double tile_x = 0;        // factors of the picture's texture coordinates
     double tile_y = 0;
     material_values values{.refraction = 0, .bump_color_strength = 1.0, .bump_intensity = 5.0};
     // Nothing fills these. Marbling that the model asks for goes to the record of the run alone.
