@@ -88,7 +88,7 @@ private:
         }
         if (nearest_end != no_index) {
             point = nearest_end;
-        } else if (nearest_line != nullptr) {
+        } else if (nearest_line != nullptr && line_distance <= tolerance_) { // the line may have moved away
             const line_ends line = ends(nearest_line->line_loop, nearest_line->line_place);
             const place_on_line found = nearest_on(line, p);
             shape_.points[point] = found.position;
@@ -110,8 +110,10 @@ private:
 
     void split(index loop, index place, index point) {
         const line_ends line = ends(loop, place);
-        if (point != line.from && point != line.to) {
-            splits_.push_back({loop, place, nearest_on(line, position(point)).along, point});
+        const place_on_line nearest = nearest_on(line, position(point));
+        const bool is_near = distance(position(point), nearest.position) <= tolerance_;
+        if (is_near && point != line.from && point != line.to) {
+            splits_.push_back({loop, place, nearest.along, point});
         }
     }
 

@@ -161,6 +161,15 @@ TEST(PlaneCut, openings_that_touch_each_other_become_one_hole) {
     }
 }
 
+TEST(PlaneCut, outlines_each_a_little_off_the_last_do_not_all_draw_together) {
+    loops openings = {};
+    for (int i = 0; i < 10; ++i) {
+        openings.add(rectangle(1, 1, 3 + 0.9e-3 * i, 3));
+    }
+    // Each second one joins the one before: right sides at 3, 3, 3.0018, 3.0018, ... 3.0072, 3.0072.
+    EXPECT_NEAR(cut(wall, openings).area, 80 - 2 * 2.0072, 1e-9);
+}
+
 TEST(PlaneCut, an_opening_that_touches_a_hole_widens_it) {
     const plane_cut left = cut(wall_with_a_hole, {rectangle(6 + 5e-4, 2, 8, 4)});
     EXPECT_EQ(left.sizes.size(), 2u);
@@ -171,6 +180,12 @@ TEST(PlaneCut, an_opening_that_reaches_over_the_border_takes_what_lies_inside) {
     const plane_cut left = cut(wall, {rectangle(-2, -1, 3, 2)});
     EXPECT_EQ(contour(left, 0), (points{{10, 0, 0}, {10, 8, 0}, {0, 8, 0}, {0, 2, 0}, {3, 2, 0}, {3, 0, 0}}));
     EXPECT_EQ(left.area, 74);
+}
+
+TEST(PlaneCut, an_opening_that_reaches_in_by_less_than_the_tolerance_leaves_the_corners_where_they_are) {
+    const plane_cut left = cut(wall, {rectangle(-2, -1, 5e-4, 9)});
+    EXPECT_EQ(contour(left, 0), rectangle(0, 0, 10, 8));
+    EXPECT_EQ(left.area, 80);
 }
 
 TEST(PlaneCut, an_opening_inside_a_hole_takes_nothing) {
