@@ -181,6 +181,13 @@ TEST(ResolveFilePath, the_application_folder_is_made_if_it_is_missing) {
     EXPECT_TRUE(folder.has("none"));
 }
 
+TEST(ResolveFilePath, the_application_folder_is_not_made_for_a_folder_within) {
+    const temporary_folder folder;
+    const with_application_folder application(folder / "none");
+    told([&] { EXPECT_EQ(resolve_file_path("", "sub", "b.txt"), folder / "none/appl/sub/b.txt"); });
+    EXPECT_FALSE(folder.has("none"));
+}
+
 std::string version(int platform_id, int major, int minor) {
     platform::os_version numbers;
     numbers.platform_id = platform_id;

@@ -170,6 +170,21 @@ TEST_F(FaceMeshing, a_face_that_is_a_lamp_gets_a_block_of_its_own) {
     EXPECT_EQ(current_oparms->light.face_x_axis, (fpt{1, 0, 0}));
 }
 
+// The z axis looks along x at 4 times its length; the origin is at 100, 200, 300 inches.
+TEST_F(FaceMeshing, a_face_that_is_a_lamp_stands_and_looks_as_the_list_that_holds_it) {
+    constexpr transform16 turned{0, 2, 0, 0, 0, 0, 3, 0, 4, 0, 0, 0, 100, 200, 300, 1};
+    for (const char* const type : {"rect_glow", "bulb"})
+        builder.attribute(builder.root().square(100), "qlw_lamp", "sorndll_lamp_type", sketchup::text(type));
+    open();
+    process_faces(turned);
+    EXPECT_NE(batch.read("ZynBatch_Lights/light_0.txt").find("direction;(1.000000,0.000000,0.000000)\r\n"),
+              std::string::npos);
+    EXPECT_NE(batch.read("ZynBatch_Lights/light_1.txt")
+                  .find("location;(2.540000,5.080000,7.620000)\r\n"
+                        "direction;(0.000000,0.000000,-1.000000)\r\n"),
+              std::string::npos);
+}
+
 TEST_F(FaceMeshing, the_faces_of_a_direct_light_stand_bare_and_close_each) {
     builder.root().square(100);
     open();
