@@ -12,8 +12,9 @@ using testing::UnorderedElementsAre;
 
 using NestedPlacements = run_fixture;
 
-// The camera looks along (0.6, 0.8), so the first axis points along (0.8, -0.6), and the group doubles both and the
-// height: the corner (8, 0) comes to (12.8, -9.6, 10) inches and the corner (0, 8) to (9.6, 12.8, 10).
+// The camera looks along (0.6, 0.8), so the first axis points along (0.8, -0.6) however group and component are turned,
+// and the group doubles both and the height: the corner (8, 0) comes to (12.8, -9.6, 10) inches and the corner (0, 8)
+// to (9.6, 12.8, 10).
 TEST_F(NestedPlacements, a_component_that_faces_the_camera_is_turned_behind_its_group_and_keeps_the_scale_of_both) {
     model_builder m;
     m.model().camera.eye = {0, 0, 50};
@@ -23,7 +24,7 @@ TEST_F(NestedPlacements, a_component_that_faces_the_camera_is_turned_behind_its_
     m.definition(tree).behavior.always_faces_camera = true;
     m.root()
         .group({}, sketchup::after(sketchup::turned_about_z(90), sketchup::scaled(2, 2, 2)))
-        .instance(tree, sketchup::moved({0, 0, 5}));
+        .instance(tree, sketchup::after(sketchup::moved({0, 0, 5}), sketchup::turned_about_z(30)));
     EXPECT_THAT(tagged(body_of(m), "VERT"),
                 UnorderedElementsAre("VERT;(0.32512,-0.24384,0.254)", "VERT;(0,0,0.254)",
                                      "VERT;(0.24384,0.32512,0.254)", "VERT;(0.56896,0.08128,0.254)"));
