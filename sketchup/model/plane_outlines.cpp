@@ -142,8 +142,7 @@ line_graph::line_graph(std::span<const segment2> segments, double tolerance) {
     }
     points_ = merged.take();
     std::ranges::sort(lines_);
-    const auto doubled = std::ranges::unique(lines_);
-    lines_.erase(doubled.begin(), doubled.end());
+    lines_.erase(std::unique(lines_.begin(), lines_.end()), lines_.end());
     list_halves();
 }
 
