@@ -16,14 +16,16 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   target_compile_options(tessaline_flags INTERFACE -Wno-restrict)
 endif()
 
-if(TESSALINE_SANITIZE OR TESSALINE_FUZZ)
-  set(sanitizers address,undefined)
-  if(TESSALINE_FUZZ)
-    set(sanitizers ${sanitizers},fuzzer-no-link)
-  endif()
+# One build serves the sanitized tests and the fuzz targets: the rooms count where they were for libFuzzer, and the
+# tests, which do not count, only link the counters.
+set(for_the_fuzzer)
+if(TESSALINE_SANITIZE)
   target_compile_options(tessaline_flags INTERFACE
-    -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(tessaline_flags INTERFACE -fsanitize=${sanitizers})
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tessaline_flags INTERFACE -fsanitize=address,undefined)
+  if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+    set(for_the_fuzzer -fsanitize=fuzzer-no-link)
+  endif()
 endif()
 
 if(TESSALINE_COVERAGE)
@@ -44,6 +46,7 @@ function(tessaline_room name)
   if(sources)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC tessaline_flags ${room_LINK})
+    target_compile_options(${name} PRIVATE ${for_the_fuzzer})
   else()
     add_library(${name} INTERFACE)
     target_link_libraries(${name} INTERFACE tessaline_flags ${room_LINK})
@@ -67,6 +70,10 @@ function(tessaline_test name label)
     # Half of what a test takes to compile is these two.
     target_precompile_headers(${name} PRIVATE
       "$<$<COMPILE_LANGUAGE:CXX>:<gtest/gtest.h$<ANGLE-R>>" "$<$<COMPILE_LANGUAGE:CXX>:<gmock/gmock.h$<ANGLE-R>>")
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+      # Else a compiler cache would give objects that refuse a precompiled header of the same bytes.
+      target_compile_options(${name} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
+    endif()
     target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
       PROPERTIES LABELS ${label} TIMEOUT 600)
