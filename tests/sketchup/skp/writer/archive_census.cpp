@@ -139,7 +139,7 @@ void count_entry(place_map& places, const std::string& name, byte_view bytes) {
 
 void archive_census::add(const std::vector<std::uint8_t>& file) {
     constexpr std::string_view mark = "PK\3\4";
-    const auto start = std::ranges::search(file, mark).begin();
+    const auto start = std::search(file.begin(), file.end(), mark.begin(), mark.end());
     const std::size_t size = static_cast<std::size_t>(file.end() - start);
     zip_source_t* source = zip_source_buffer_create(file.data() + (file.size() - size), size, 0, nullptr);
     const std::unique_ptr<zip_t, archive_closer> archive(zip_open_from_source(source, ZIP_RDONLY, nullptr));

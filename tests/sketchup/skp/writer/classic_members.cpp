@@ -501,6 +501,7 @@ void add_facts(classic_facts& sum, const classic_facts& more) {
         known->second.times += facts.times;
         known->second.empty += facts.empty;
         if (known->second.names && facts.names)
-            std::erase_if(*known->second.names, [&](const std::string& name) { return !facts.names->contains(name); });
+            std::erase_if(*known->second.names,
+                          [&names = *facts.names](const std::string& name) { return !names.contains(name); });
     }
 }
