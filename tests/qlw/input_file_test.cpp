@@ -127,11 +127,15 @@ TEST(CsvField, blanks_around_a_field_go_also_inside_quotes) {
 
 TEST(CsvField, a_quote_inside_an_unquoted_field_starts_an_escape) {
     const trace_capture capture;
+    trace_state().show_function = true;
     std::string line = "ab\"xc;d";
+    testing::internal::CaptureStderr();
     EXPECT_EQ(cl_input_file::read_field_csv(line), "abxc");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "an error for developers, without a dialog";
     EXPECT_EQ(line, "d");
-    EXPECT_EQ(capture.text_without_line_numbers(), // x has the code 120; the error itself is for developers
-              "input_file(#):: *** ERROR: Bad \\ escape character: 120 x (ab\"xc;d)\n");
+    EXPECT_EQ(
+        capture.text_without_line_numbers(), // x has the code 120; the error itself is for developers
+        "input_file(#): cl_input_file::read_field_csv():: *** ERROR: Bad \\ escape character: 120 x (ab\"xc;d)\n");
 }
 
 TEST(CsvField, a_separator_ends_an_unquoted_field_even_behind_a_quote) {

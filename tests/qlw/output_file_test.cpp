@@ -180,11 +180,13 @@ TEST(OutputFile, raw_data_in_a_text_file_stays_raw) {
 
 TEST(OutputFile, raw_data_that_a_full_disk_refuses_is_traced_and_counts_as_written) {
     const trace_capture capture;
+    trace_state().show_function = true;
     const std::string data(100000, 'x');
     cl_output_file file;
     ASSERT_TRUE(file.open_binary("/dev/full", 0));
     EXPECT_EQ(shown([&] { EXPECT_TRUE(file.write_data(data.data(), data.size())); }), "");
-    EXPECT_EQ(capture.text_without_line_numbers(), "output_file(#):: *** ERROR: Cannot write to file: /dev/full.\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "output_file(#): cl_output_file::write_data():: *** ERROR: Cannot write to file: /dev/full.\n");
 }
 
 } // namespace

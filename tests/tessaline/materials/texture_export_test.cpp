@@ -209,10 +209,12 @@ TEST_F(TextureExport, the_picture_of_a_distorted_side_is_the_straightened_one) {
 
 TEST_F(TextureExport, the_straightening_is_traced) {
     const trace_capture trace;
+    trace_state().show_function = true;
     exported_distorted(png, "wall.png");
-    EXPECT_EQ(trace.text_without_line_numbers(), "texture_export(#):: txtr id: 1, is_front: 1\n"
-                                                 "texture_export(#):: after SUTextureWriterLoadFace\n"
-                                                 "texture_export(#):: before SUTextureWriterWriteTexture\n");
+    EXPECT_EQ(trace.text_without_line_numbers(),
+              "texture_export(#): SketchUpReader::get_material_number():: txtr id: 1, is_front: 1\n"
+              "texture_export(#): SketchUpReader::get_material_number():: after SUTextureWriterLoadFace\n"
+              "texture_export(#): SketchUpReader::get_material_number():: before SUTextureWriterWriteTexture\n");
 }
 
 TEST_F(TextureExport, a_straightened_picture_falls_back_to_a_straightened_jpeg) {

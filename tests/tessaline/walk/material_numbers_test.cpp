@@ -452,14 +452,17 @@ TEST_F(MaterialNumbers, what_each_textured_side_asks_the_writer_is_traced) {
     square(textured(12, "Brick"));
     open_painted();
     const trace_capture trace;
+    trace_state().show_function = true;
     number_of(faces()[0]);
-    EXPECT_EQ(trace.text_without_line_numbers(), "material_numbers(#):: txtr id: 1, is_front: 1\n"
-                                                 "material_numbers(#):: textureId? 1  back_textureId: 0\n");
+    EXPECT_EQ(trace.text_without_line_numbers(),
+              "material_numbers(#): SketchUpReader::get_material_number():: txtr id: 1, is_front: 1\n"
+              "material_numbers(#): SketchUpReader::get_material_number():: textureId? 1  back_textureId: 0\n");
     number_of(faces()[0]);
-    EXPECT_EQ(trace.text_without_line_numbers(), "material_numbers(#):: txtr id: 1, is_front: 1\n"
-                                                 "material_numbers(#):: textureId? 1  back_textureId: 0\n"
-                                                 "material_numbers(#):: txtr id: 1, is_front: 1\n"
-                                                 "material_numbers(#):: textureId? 1  back_textureId: 0\n");
+    EXPECT_EQ(trace.text_without_line_numbers(),
+              "material_numbers(#): SketchUpReader::get_material_number():: txtr id: 1, is_front: 1\n"
+              "material_numbers(#): SketchUpReader::get_material_number():: textureId? 1  back_textureId: 0\n"
+              "material_numbers(#): SketchUpReader::get_material_number():: txtr id: 1, is_front: 1\n"
+              "material_numbers(#): SketchUpReader::get_material_number():: textureId? 1  back_textureId: 0\n");
 }
 
 TEST_F(MaterialNumbers, folders_that_cannot_be_made_cost_the_files_and_nothing_else) {
