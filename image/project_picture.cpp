@@ -24,6 +24,9 @@ struct plain_place {
     double y;
 };
 
+plain_place plain(const projected_place& p) {
+    return {p.x / p.q, p.y / p.q};
+}
 plain_place operator+(const plain_place& a, const plain_place& b) {
     return {a.x + b.x, a.y + b.y};
 }
@@ -42,11 +45,13 @@ projected_place moved(const projected_place& p, const projected_place& by, doubl
     return {p.x + by.x * factor, p.y + by.y * factor, p.q + by.q * factor};
 }
 
-plain_place plain(const projected_place& p) {
-    return {p.x / p.q, p.y / p.q};
+// The whole number next to one that is not negative. std::lround would be a call into the library.
+inline std::int64_t nearest_whole(double number) {
+    constexpr double half = 0.5;
+    return static_cast<std::int64_t>(number + half);
 }
 
-// Along a row or column or a level: 0x10000 parts to each pixel.
+// Along a row or a column of a level: 0x10000 parts to each pixel.
 constexpr int part_bits = 16;
 constexpr std::int64_t one_pixel = 1 << part_bits;
 
@@ -67,10 +72,10 @@ struct tap_place {
     std::int64_t y;
 };
 
-// place: in pictures. `shift`: in parts, of less than a pixel.
+// place: in pictures. shift: in parts, less than a pixel.
 std::int64_t parts_of(double place, std::int64_t all, std::int64_t shift) {
     const double part = place - std::floor(place);
-    const std::int64_t parts = std::llround(part * static_cast<double>(all)) + shift;
+    const std::int64_t parts = nearest_whole(part * static_cast<double>(all)) + shift;
     return parts < 0 ? parts + all : parts >= all ? parts - all : parts;
 }
 
@@ -151,8 +156,8 @@ struct tap_grid {
 tap_grid grid_for(double pixels_across, double pixels_down, std::size_t last_level) {
     for (std::size_t level = 0; level < last_level; ++level) {
         if (pixels_across < most_taps + 0.5 && pixels_down < most_taps + 0.5) {
-            const int across = std::max(static_cast<int>(pixels_across + 0.5), 1);
-            const int down = std::max(static_cast<int>(pixels_down + 0.5), 1);
+            const int across = std::max(static_cast<int>(nearest_whole(pixels_across)), 1);
+            const int down = std::max(static_cast<int>(nearest_whole(pixels_down)), 1);
             if (across * down <= most_taps)
                 return {level, across, down};
         }
@@ -245,7 +250,7 @@ private:
                     sum = sum + tap<channels>(level, at);
             }
             put<channels>(sum, pixel, [share](std::uint32_t channel) {
-                return static_cast<std::uint8_t>(static_cast<std::int32_t>(channel * share + 0.5));
+                return static_cast<std::uint8_t>(nearest_whole(channel * share));
             });
         }
     }

@@ -13,6 +13,7 @@
 #include "tools/command_line/answers.h"
 
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -156,6 +157,17 @@ bool write_picture_seeds(const std::filesystem::path& folder) {
     return written;
 }
 
+// A perspective of a square, and one whose horizon crosses it: as many numbers as the target takes, then a size.
+bool write_straighten_seeds(const std::filesystem::path& folder) {
+    const auto seed = [](double q_across, double q_up) {
+        const double numbers[] = {1, 0.5, q_across, 0, 1, q_up, 0, 0, 1, 0, 0, 10, 0, 10, 10, 0, 10};
+        std::vector<std::uint8_t> bytes(sizeof numbers + 3, 31);
+        std::memcpy(bytes.data(), numbers, sizeof numbers);
+        return bytes;
+    };
+    return write(folder / "perspective", seed(0.01, 0.05)) && write(folder / "horizon", seed(-0.2, 0.15));
+}
+
 bool write_option_seeds(const std::filesystem::path& folder) {
     return write_text(folder / "fuzz_option_file" / "all", option_seeds::option_file) &&
            write_text(folder / "fuzz_view_file" / "all", option_seeds::view_file);
@@ -172,7 +184,8 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = argv[1];
     if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder) &&
         write_document_seeds(folder / "fuzz_document") && write_modern_seeds(folder / "fuzz_modern") &&
-        write_picture_seeds(folder / "fuzz_picture") && write_option_seeds(folder) && write_text_seeds(argv[1]))
+        write_picture_seeds(folder / "fuzz_picture") && write_straighten_seeds(folder / "fuzz_straighten_texture") &&
+        write_option_seeds(folder) && write_text_seeds(argv[1]))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
