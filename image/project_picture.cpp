@@ -220,7 +220,7 @@ private:
                    const picture& target, std::uint32_t count, std::uint8_t* pixel) const {
         const plain_place across = movement(middle, through_.across, 1.0 / target.width());
         const plain_place down = movement(middle, through_.down, 1.0 / target.height());
-        if (!is_near(from) || !is_near(from + step * count) || !is_near(across) || !is_near(down))
+        if (!is_near(from + step * count) || !is_near(across) || !is_near(down))
             return put_mean_of_all(count, pixel);
         const tap_grid grid =
             grid_for(std::sqrt(pixels_squared(across)), std::sqrt(pixels_squared(down)), levels_.size() - 1);

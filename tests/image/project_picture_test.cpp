@@ -102,6 +102,49 @@ TEST(ProjectPicture, mirrors_and_turns_the_source_without_loss) {
             }
 }
 
+TEST(ProjectPicture, mixes_two_neighbours_alike_half_a_pixel_on_and_the_last_with_the_first) {
+    const picture source = noise(5, 3);
+    const picture right = project_picture(source, {{0.5 / 5, 0, 1}, {1, 0, 0}, {0, 1, 0}}, 5, 3);
+    const picture below = project_picture(source, {{0, 0.5 / 3, 1}, {1, 0, 0}, {0, 1, 0}}, 5, 3);
+    for (std::uint32_t y = 0; y < 3; ++y)
+        for (std::uint32_t i = 0; i < 15; ++i) {
+            ASSERT_EQ(right.row(y)[i], (source.row(y)[i] + source.row(y)[(i + 3) % 15] + 1) / 2) << i << " " << y;
+            ASSERT_EQ(below.row(y)[i], (source.row(y)[i] + source.row((y + 1) % 3)[i] + 1) / 2) << i << " " << y;
+        }
+}
+
+// A colour is mixed of 256 parts: a thousandth of a pixel is none.
+TEST(ProjectPicture, takes_a_place_next_to_the_middle_of_a_pixel_for_the_middle) {
+    const picture source = noise(8, 8);
+    for (const double beside : {-0.001, 0.001})
+        EXPECT_EQ(project_picture(source, {{beside / 8, beside / 8, 1}, {1, 0, 0}, {0, 1, 0}}, 8, 8), source) << beside;
+}
+
+// The place 3.8 t / (1 + 3 t) runs from 0 to 0.95, four times as fast at the left as the whole and 16 times as fast as
+// at the right. The source is as blue as its column, so that a place in it is its colour and half a pixel more.
+TEST(ProjectPicture, keeps_to_the_perspective_within_a_row) {
+    picture source = *picture::make({256, 1, 24});
+    for (std::uint32_t x = 0; x < 256; ++x)
+        source.row(0)[3 * x] = static_cast<std::uint8_t>(x);
+    const picture found = project_picture(source, {{0, 0, 1}, {3.8, 0, 3}, {0, 1, 0}}, 400, 1);
+    for (std::uint32_t x = 1; x < 400; ++x) { // the first pixel reaches over the left edge
+        const double t = (x + 0.5) / 400;
+        ASSERT_NEAR(found.row(0)[3 * x], 256 * 3.8 * t / (1 + 3 * t) - 0.5, 1) << x;
+    }
+}
+
+// All pixels of the row lie on one place, the upper edge, but q runs from 1 to 4, and their height is a q-th of the
+// source. A quarter of the source beside that edge is white: a quarter of the whole at the left, all there is at the
+// right.
+TEST(ProjectPicture, fits_areas_that_change_along_a_row) {
+    picture source = *picture::make({1, 64, 24});
+    for (std::uint32_t y = 0; y < 64; ++y)
+        std::fill_n(source.row(y), 3, static_cast<std::uint8_t>(y < 8 || y >= 56 ? 255 : 0));
+    const picture found = project_picture(source, {{0.5, -0.5, 1}, {1.5, 0, 3}, {0, 1, 0}}, 16, 1);
+    EXPECT_NEAR(found.row(0)[0], 255 / 4.0, 25);
+    EXPECT_NEAR(found.row(0)[3 * 15], 255, 10);
+}
+
 TEST(ProjectPicture, gives_the_means_of_whole_pixels) {
     const picture source = noise(24, 24, 32);
     for (const auto& [across, down] : {std::pair(2u, 2u), {4u, 2u}, {1u, 8u}, {3u, 1u}}) {
@@ -161,6 +204,8 @@ TEST(ProjectPicture, where_there_is_no_place_is_the_mean_of_the_source) {
         EXPECT_EQ(project_picture(source, {{0, 0, 1}, {1, 0, 0}, {0, bad, 0}}, 1, 1).bytes(), mean) << bad;
     }
     EXPECT_EQ(project_picture(source, {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, 1, 1).bytes(), mean) << "q is 0 everywhere";
+    EXPECT_EQ(project_picture(source, {{0, -0.5, 1e-310}, {0, 0, 0}, {0, 1, 0}}, 1, 1).bytes(), mean)
+        << "a place whose movement is endless";
 }
 
 TEST(ProjectPicture, of_a_size_that_no_picture_has_is_empty) {
