@@ -194,13 +194,13 @@ TEST(ProjectPicture, is_near_the_means_of_many_places) {
 }
 
 TEST(ProjectPicture, where_there_is_no_place_is_the_mean_of_the_source) {
-    picture source = *picture::make({2, 1, 24});
-    source.bytes() = {0, 10, 20, 100, 110, 120};
+    picture source = *picture::make({4, 1, 24});
+    source.bytes() = {0, 10, 20, 100, 110, 120, 100, 110, 120, 0, 10, 20};
     const std::vector<std::uint8_t> mean = {50, 60, 70};
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     constexpr double endless = std::numeric_limits<double>::infinity();
     for (const double bad : {none, endless, -endless, 1e300, -1e300}) {
-        EXPECT_EQ(project_picture(source, {{bad, 0, 1}, {1, 0, 0}, {0, 1, 0}}, 1, 1).bytes(), mean) << bad;
+        EXPECT_EQ(project_picture(source, {{bad, 0, 1}, {0.25, 0, 0}, {0, 1, 0}}, 1, 1).bytes(), mean) << bad;
         EXPECT_EQ(project_picture(source, {{0, 0, 1}, {1, 0, 0}, {0, bad, 0}}, 1, 1).bytes(), mean) << bad;
     }
     EXPECT_EQ(project_picture(source, {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, 1, 1).bytes(), mean) << "q is 0 everywhere";
