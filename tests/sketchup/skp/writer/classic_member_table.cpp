@@ -7,7 +7,7 @@
 //   `if MEMBER`, `if MEMBER&MASK`, `if MEMBER=VALUE`, `unless MEMBER`: it is there as an earlier member says.
 // Layouts that no file since version 6 has are left out.
 
-#include "tests/sketchup/skp/writer/classic_members.h"
+#include "tests/sketchup/skp/writer/classic_member_specs.h"
 
 std::string_view classic_member_table() {
     return R"(

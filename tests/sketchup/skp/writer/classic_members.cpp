@@ -1,7 +1,8 @@
 #include "tests/sketchup/skp/writer/classic_members.h"
 
+#include "tests/sketchup/skp/writer/classic_member_specs.h"
+
 #include <algorithm>
-#include <cctype>
 #include <cstring>
 #include <memory>
 #include <sstream>
@@ -10,98 +11,9 @@
 
 namespace {
 
-struct condition {
-    std::size_t member = 0;
-    std::uint32_t mask = 0xFFFFFFFF;
-    std::optional<std::uint32_t> value; // to be met; else anything but zero will do
-    bool inverted = false;
-};
-
-struct member {
-    std::string type;
-    std::size_t times = 1; // of "u32*16"; of an array the bytes of an element
-    std::string name;
-    std::set<std::string> classes;
-    std::string gate; // the class whose layout number counts
-    std::uint32_t from = 0;
-    std::uint32_t to = 0xFFFFFFFF;
-    std::optional<condition> when;
-};
-
-struct class_spec {
-    std::string name;
-    std::vector<member> members;
-};
-
-using class_specs = std::map<std::string, class_spec, std::less<>>;
-
-std::size_t member_named(const class_spec& spec, const std::string& name) {
-    const auto found = std::ranges::find(spec.members, name, &member::name);
-    if (found == spec.members.end())
-        throw std::logic_error(spec.name + " has no member " + name + " to ask");
-    return static_cast<std::size_t>(found - spec.members.begin());
-}
-
-// "flags&16", "format=1" or "edge"
-condition parse_condition(const class_spec& spec, const std::string& word, bool inverted) {
-    condition c;
-    c.inverted = inverted;
-    const std::size_t operation = word.find_first_of("&=");
-    c.member = member_named(spec, word.substr(0, operation));
-    if (operation == std::string::npos)
-        return c;
-    const auto number = static_cast<std::uint32_t>(std::stoul(word.substr(operation + 1)));
-    if (word[operation] == '&')
-        c.mask = number;
-    else
-        c.value = number;
-    return c;
-}
-
-member parse_member(const class_spec& spec, std::istringstream& words) {
-    member m;
-    m.gate = spec.name;
-    words >> m.type >> m.name;
-    if (const std::size_t star = m.type.find('*'); star != std::string::npos) {
-        m.times = std::stoul(m.type.substr(star + 1));
-        m.type.resize(star);
-    }
-    for (std::string word; words >> word;) {
-        std::string value;
-        if (word == "from" && words >> value) {
-            m.from = static_cast<std::uint32_t>(std::stoul(value));
-        } else if (word == "to" && words >> value) {
-            m.to = static_cast<std::uint32_t>(std::stoul(value));
-        } else if (word == "of") {
-            words >> m.gate;
-        } else if ((word == "if" || word == "unless") && words >> value) {
-            m.when = parse_condition(spec, value, word == "unless");
-        } else {
-            std::istringstream classes(word);
-            for (std::string one; std::getline(classes, one, '|');)
-                m.classes.insert(one);
-        }
-    }
-    return m;
-}
-
-class_specs parse_table() {
-    class_specs specs;
-    class_spec* current = nullptr;
-    std::istringstream lines{std::string(classic_member_table())};
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream words(line);
-        std::string first;
-        if (line.starts_with("class ")) {
-            words >> first >> first;
-            current = &specs[first];
-            current->name = first;
-        } else if (!line.empty()) {
-            current->members.push_back(parse_member(*current, words));
-        }
-    }
-    return specs;
-}
+using classic_table::class_spec;
+using classic_table::class_specs;
+using classic_table::member;
 
 // What was seen of a body: of an object with a tag, or of one without that stands inside another.
 struct body_facts {
@@ -112,7 +24,7 @@ struct body_facts {
 
 class observer {
 public:
-    explicit observer(std::span<const std::uint8_t> file) : file_(file), specs_(parse_table()) {}
+    explicit observer(std::span<const std::uint8_t> file) : file_(file), specs_(classic_table::parse_table()) {}
 
     classic_facts observe() {
         slots_.resize(3);
@@ -196,6 +108,8 @@ private:
     names read_body(const std::string& name);
     names read_members(body_facts& body);
     std::uint32_t read_member(body_facts& body, std::size_t at, names& found);
+    std::optional<std::uint32_t> read_named(body_facts& body, std::size_t at, names& inner, names& found);
+    std::uint32_t read_plain(body_facts& body, std::size_t at, names& found);
     static void note(member_facts& facts, bool filled, const names* found);
     static void tell(const std::string& path, const body_facts& body, classic_facts& facts);
 
@@ -390,65 +304,74 @@ observer::names observer::read_members(body_facts& body) {
 // Gives what a condition may ask: a number, a count, or whether there is something.
 std::uint32_t observer::read_member(body_facts& body, std::size_t at, names& found) {
     const member& m = body.spec->members[at];
-    member_facts& facts = body.members[at];
-    names inner;
-    bool is_named = true;
-    std::uint32_t value = 0;
     if (m.type == "inline") {
         read_members(facts_inside(body, at, *m.classes.begin()));
         return 0;
     }
+    names inner;
+    const std::optional<std::uint32_t> named = read_named(body, at, inner, found);
+    const std::uint32_t value = named ? *named : read_plain(body, at, found);
+    note(body.members[at], value != 0, named ? &inner : nullptr);
+    return value;
+}
+
+// A member that holds objects or named records; nothing if it is of another type. inner: the names in it.
+std::optional<std::uint32_t> observer::read_named(body_facts& body, std::size_t at, names& inner, names& found) {
+    const member& m = body.spec->members[at];
     if (m.type == "ref") {
         const std::size_t slot = checked_reference(m);
-        value = slot != 0 ? 1 : 0;
         if (slot != 0)
             inner = slots_[slot].names;
-    } else if (m.type == "list") {
-        value = list(count(2), m, inner);
-    } else if (m.type == "until_null") {
-        for (std::size_t slot = checked_reference(m); slot != 0; slot = checked_reference(m), ++value)
+        return slot != 0 ? 1 : 0;
+    }
+    if (m.type == "list")
+        return list(count(2), m, inner);
+    if (m.type == "until_null") {
+        std::uint32_t elements = 0;
+        for (std::size_t slot = checked_reference(m); slot != 0; slot = checked_reference(m), ++elements)
             found.insert(slots_[slot].names.begin(), slots_[slot].names.end());
-    } else if (m.type == "providers") {
+        return elements;
+    }
+    if (m.type == "providers")
         inner = providers();
-        value = inner.empty() ? 0 : 1;
-    } else if (m.type == "style_items") {
+    else if (m.type == "style_items")
         inner = style_items(body, at);
-        value = inner.empty() ? 0 : 1;
-    } else if (m.type == "map") {
+    else if (m.type == "map")
         inner = version_map();
-        value = 1;
-    } else if (m.type == "values") {
+    else if (m.type == "values")
         inner = entries();
-        value = inner.empty() ? 0 : 1;
+    else
+        return std::nullopt;
+    if (m.type == "values")
         for (const std::string& key : inner)
             found.insert(dictionary_ + "/" + key);
-    } else {
-        is_named = false;
-        if (m.type == "str") {
-            const std::string read = text();
-            value = read.empty() ? 0 : 1;
-            if (body.spec->name == "CAttributeNamed") {
-                dictionary_ = read;
-                found.insert(read);
-            }
-        } else if (m.type == "bytes") {
-            value = take(u32()).empty() ? 0 : 1;
-        } else if (m.type == "array") {
-            const std::uint32_t n = count(m.times);
-            value = take(n * m.times).empty() ? 0 : 1;
-        } else if (m.type == "pid") {
-            const std::uint8_t mask = number<std::uint8_t>();
-            for (unsigned bit = 0; bit < 8; ++bit)
-                take((mask >> bit) & 1U);
-            value = mask;
-        } else if (m.type == "u32" && m.times == 1) {
-            value = u32();
-        } else {
-            value = number_is_filled(m) ? 1 : 0;
+    return inner.empty() ? 0 : 1;
+}
+
+// Any other member.
+std::uint32_t observer::read_plain(body_facts& body, std::size_t at, names& found) {
+    const member& m = body.spec->members[at];
+    if (m.type == "str") {
+        const std::string read = text();
+        if (body.spec->name == "CAttributeNamed") {
+            dictionary_ = read;
+            found.insert(read);
         }
+        return read.empty() ? 0 : 1;
     }
-    note(facts, value != 0, is_named ? &inner : nullptr);
-    return value;
+    if (m.type == "bytes")
+        return take(u32()).empty() ? 0 : 1;
+    if (m.type == "array")
+        return take(count(m.times) * m.times).empty() ? 0 : 1;
+    if (m.type == "pid") {
+        const std::uint8_t mask = number<std::uint8_t>();
+        for (unsigned bit = 0; bit < 8; ++bit)
+            take((mask >> bit) & 1U);
+        return mask;
+    }
+    if (m.type == "u32" && m.times == 1)
+        return u32();
+    return number_is_filled(m) ? 1 : 0;
 }
 
 void observer::note(member_facts& facts, bool filled, const names* found) {
@@ -473,20 +396,6 @@ void observer::tell(const std::string& path, const body_facts& body, classic_fac
 }
 
 } // namespace
-
-int major_version_of_classic(std::span<const std::uint8_t> file) {
-    constexpr std::size_t product = 4 + 2 * 14;  // its marker, length and characters
-    constexpr std::size_t version = product + 4; // behind the marker and length of the next string
-    if (file.size() <= version || file[version] != '{')
-        return 0;
-    const std::string_view all(reinterpret_cast<const char*>(file.data()), std::min<std::size_t>(file.size(), 2000));
-    if (all.find("CVersionMap") == std::string_view::npos)
-        return 0;
-    int major = 0;
-    for (std::size_t at = version + 2; at < file.size() && std::isdigit(file[at]) != 0; at += 2)
-        major = 10 * major + (file[at] - '0');
-    return major;
-}
 
 classic_facts facts_of_classic(std::span<const std::uint8_t> file) {
     return observer(file).observe();

@@ -10,10 +10,6 @@
 #include <set>
 #include <span>
 #include <string>
-#include <string_view>
-
-// The layouts, in the words that classic_member_table.cpp explains.
-std::string_view classic_member_table();
 
 // One member of one class. A member of a body without a tag belongs to the object around it.
 struct member_facts {
@@ -26,9 +22,6 @@ struct member_facts {
 
 // By class and path: "CFace.drawing.material".
 using classic_facts = std::map<std::string, member_facts>;
-
-// The major version of a file of this container; 0 for any other file.
-int major_version_of_classic(std::span<const std::uint8_t> file);
 
 // The facts of one file. Throws std::runtime_error, with the place in it, if the file does not follow the table to its
 // last byte.

@@ -7,14 +7,13 @@
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tests/run_program.h"
 #include "tests/samples_folder.h"
+#include "tests/sketchup/skp/writer/classic_samples.h"
 #include "tests/sketchup/skp/writer/member_exceptions.h"
 #include "tests/sketchup/skp/writer/random_model.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,25 +22,12 @@ namespace {
 
 using bytes = std::vector<std::uint8_t>;
 
-constexpr std::size_t fewest_files = 3; // that hold a member before anything is concluded from them
+constexpr std::size_t fewest_files = 2; // that hold a member before anything is concluded from them
 
 struct written_version {
     int major;
     skp::classic_version version;
 };
-
-// The samples of one version.
-std::vector<std::pair<std::string, bytes>> samples_of(int major) {
-    std::vector<std::pair<std::string, bytes>> found;
-    for (const auto& entry : std::filesystem::directory_iterator(samples_folder())) {
-        if (entry.path().extension() != ".skp")
-            continue;
-        bytes file = file_bytes(entry.path().string());
-        if (major_version_of_classic(file) == major)
-            found.emplace_back(entry.path().filename().string(), std::move(file));
-    }
-    return found;
-}
 
 // What is never so in real files and is so in this one; empty if there is nothing.
 std::string breaches(const classic_facts& real, const classic_facts& ours) {
@@ -73,7 +59,7 @@ protected:
     void SetUp() override {
         if (samples_folder().empty())
             GTEST_SKIP() << "no folder of sample models";
-        samples_ = samples_of(GetParam().major);
+        samples_ = classic_samples(GetParam().major);
         ASSERT_FALSE(samples_.empty());
         for (const auto& [name, file] : samples_) {
             SCOPED_TRACE(name);
@@ -84,7 +70,7 @@ protected:
     std::string breaches_in(const bytes& file) const { return breaches(real_, facts_of_classic(file)); }
     bytes written(const sketchup::model& m) const { return skp::write_classic(m, GetParam().version); }
 
-    std::vector<std::pair<std::string, bytes>> samples_;
+    std::vector<classic_sample> samples_;
     classic_facts real_;
 };
 

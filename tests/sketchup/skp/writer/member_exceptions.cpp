@@ -16,6 +16,7 @@ constexpr member_exception exceptions[] = {
     {"*.receives_shadows", "a switch of the element"},
     {"CFaceTextureCoords.front_flags", "a face may be mapped on its back alone"},
     {"CMaterial.color", "black with alpha 0 is a colour; random models and pictures have it"},
+    {"CMaterial.transparency", "an opaque material has none"},
     {"CCamera.perspective", "a switch of the view"},
     {"CCamera.fov_is_vertical", "as above"},
     {"CDib.format", "a picture without a known signature, which random models have, has no number"},
@@ -32,6 +33,7 @@ constexpr member_exception exceptions[] = {
     {"CSketchUpModel.root.definitions.definitions", "a model may place nothing"},
     {"CSketchUpModel.root.entities", "a model may be empty"},
     {"CSketchUpModel.root.drawing.entity.attributes*", "the user's dictionaries: what tools and map services leave"},
+    {"CComponentInstance.drawing.entity.attributes", "the dictionaries of an element are the user's"},
     {"CSketchUpModel.schemas", "a schema of classes is a file of its own that the user loads"},
     // A model keeps that there are annotations, and neither where they lie nor what they say.
     {"CConstructionLine.point", "guides are written at the origin"},

@@ -5,18 +5,15 @@
 #include "sketchup/skp/writer/classic_writer.h"
 #include "sketchup/skp/writer/modern_writer.h"
 #include "tests/samples_folder.h"
-#include "tests/sketchup/skp/writer/classic_members.h"
+#include "tests/sketchup/skp/writer/classic_samples.h"
 #include "tests/sketchup/skp/writer/model_description.h"
 #include "tests/sketchup/skp/writer/version_gaps.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <filesystem>
 #include <fstream>
-#include <map>
 #include <memory>
-#include <optional>
 #include <set>
 #include <string>
 
@@ -38,43 +35,35 @@ std::set<std::string> facts_that_may_differ() {
     return facts;
 }
 
-// The version that write_classic gives a file of that major version.
-std::optional<skp::classic_version> own_version(int major) {
-    switch (major) {
-    case 6:
-        return skp::classic_version::v6;
-    case 8:
-        return skp::classic_version::v8;
-    case 17:
-        return skp::classic_version::v17;
-    case 20:
-        return skp::classic_version::v20;
-    default:
-        return std::nullopt;
-    }
-}
+struct own_version {
+    int major;
+    skp::classic_version version;
+    std::size_t samples; // of that version
+};
 
 } // namespace
 
-TEST(SampleRoundTrip, a_classic_file_written_in_its_own_version_is_the_same_model_field_for_field) {
-    const std::string folder = samples_folder();
-    if (folder.empty())
+class SampleRoundTripInItsVersion : public testing::TestWithParam<own_version> {};
+
+TEST_P(SampleRoundTripInItsVersion, a_real_model_is_the_same_field_for_field) {
+    if (samples_folder().empty())
         GTEST_SKIP() << "no folder of sample models";
-    std::map<int, int> models; // by version
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        std::vector<std::uint8_t> bytes = file_bytes(entry.path().string());
-        const int major = major_version_of_classic(bytes);
-        const std::optional<skp::classic_version> version = own_version(major);
-        if (!version)
-            continue;
-        SCOPED_TRACE(entry.path().filename().string());
-        ++models[major];
-        const auto original = skp::read_model(std::move(bytes));
-        const auto anew = skp::read_model(skp::write_classic(*original, *version));
+    const std::vector<classic_sample> samples = classic_samples(GetParam().major);
+    for (const classic_sample& one : samples) {
+        SCOPED_TRACE(one.name);
+        const auto original = skp::read_model(std::vector<std::uint8_t>(one.bytes));
+        const auto anew = skp::read_model(skp::write_classic(*original, GetParam().version));
         EXPECT_EQ(first_difference(description_of(*original), description_of(*anew)), "");
     }
-    EXPECT_EQ(models, (std::map<int, int>{{6, 5}, {8, 16}, {17, 32}, {20, 9}}));
+    EXPECT_EQ(samples.size(), GetParam().samples);
 }
+
+INSTANTIATE_TEST_SUITE_P(All, SampleRoundTripInItsVersion,
+                         testing::Values(own_version{6, skp::classic_version::v6, 5},
+                                         own_version{8, skp::classic_version::v8, 16},
+                                         own_version{17, skp::classic_version::v17, 32},
+                                         own_version{20, skp::classic_version::v20, 9}),
+                         [](const auto& one) { return "version_" + std::to_string(one.param.major); });
 
 TEST(SampleRoundTrip, every_real_model_is_the_same_when_written_anew) {
     const std::string folder = samples_folder();
