@@ -214,7 +214,7 @@ observer::names observer::providers() {
         const std::string provider = text();
         found.insert(provider);
         for (const std::string& key : entries())
-            found.insert(provider + "/" + key);
+            found.insert(std::string(provider).append("/").append(key));
     }
     return found;
 }

@@ -48,8 +48,8 @@ std::string breaches(const classic_facts& real, const classic_facts& ours) {
         if (!fact.names)
             continue;
         for (const std::string& name : *fact.names)
-            if (!own->second.names->contains(name) && !is_excepted(path + ": " + name))
-                found += path + " lacks " + name + "\n";
+            if (!own->second.names->contains(name) && !is_excepted(std::string(path).append(": ").append(name)))
+                found.append(path).append(" lacks ").append(name).append("\n");
     }
     return found;
 }
