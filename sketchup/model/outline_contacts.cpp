@@ -17,8 +17,18 @@ end_sides sides_of(const outline_line& line, const outline_line& other) {
     return {turn(line.from, line.to, other.from), turn(line.from, line.to, other.to)};
 }
 
-// Lines that lie upon each other may seem to cross by rounding, by no more than this part of their lengths.
+// What may be off by rounding, as a part of the size of the face: far more than the coordinates lose.
 constexpr double rounding = 1e-9;
+
+double size_of_face(const outlines& shape) {
+    double size = 0;
+    for (std::size_t l = 0; l < shape.face_loops; ++l) {
+        for (const index p : shape.loops[l]) {
+            size = std::max({size, std::abs(shape.points[p].s), std::abs(shape.points[p].t)});
+        }
+    }
+    return size;
+}
 
 // Whether two lines cross, all ends further than `depth` from the other line.
 bool cross_deeper_than(double depth, const outline_line& a, const outline_line& b) {
@@ -26,8 +36,8 @@ bool cross_deeper_than(double depth, const outline_line& a, const outline_line& 
            sides_of(b, a).are_apart(depth * distance(b.from, b.to));
 }
 
-bool is_near(const sweep_point& p, const outline_line& line, double tolerance) {
-    return distance(p, point_on(line.from, line.to, nearest_place(line.from, line.to, p))) <= tolerance;
+double distance_to(const outline_line& line, const sweep_point& p) {
+    return distance(p, point_on(line.from, line.to, nearest_place(line.from, line.to, p)));
 }
 
 } // namespace
@@ -67,20 +77,20 @@ outline_survey survey(const outlines& shape, double tolerance, std::size_t& pair
     outline_survey found;
     found.touched.resize(shape.loops.size());
     const std::vector<outline_line> lines = lines_of(shape);
+    const double touch = std::max(tolerance, rounding * size_of_face(shape));
     std::size_t crossings = 0;
     const auto note = [&](const outline_line& point, const outline_line& line) {
-        const bool near = is_near(point.from, line, tolerance);
-        if (near) {
+        const double away = distance_to(line, point.from);
+        if (away <= tolerance) {
             found.contacts.push_back({point.loop, point.place, line.loop, line.place});
         }
-        return near;
+        return away <= touch;
     };
     const auto look = [&](const outline_line& a, const outline_line& b) {
         const bool cross = cross_deeper_than(0, a, b);
         crossings += cross ? 1 : 0;
         if (a.loop == b.loop || (shape.is_of_face(a.loop) && shape.is_of_face(b.loop))) {
-            const double lengths = distance(a.from, a.to) + distance(b.from, b.to);
-            return !(cross && cross_deeper_than(std::max(tolerance, rounding * lengths), a, b));
+            return !(cross && cross_deeper_than(touch, a, b));
         }
         const bool one_is_near = note(a, b);
         const bool other_is_near = note(b, a);
@@ -90,7 +100,7 @@ outline_survey survey(const outlines& shape, double tolerance, std::size_t& pair
         }
         return crossings + found.contacts.size() <= 1000 + most_contacts * lines.size();
     };
-    found.is_unfit = !for_each_near_pair(lines, tolerance, pairs_left, look);
+    found.is_unfit = !for_each_near_pair(lines, touch, pairs_left, look);
     return found;
 }
 

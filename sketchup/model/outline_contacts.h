@@ -21,7 +21,8 @@ struct outline_survey {
     // A loop crosses itself, or two loops of the face cross each other, by more than the tolerance; or the outlines are
     // so entangled that working on would be out of all proportion.
     bool is_unfit = false;
-    // For each loop whether an opening comes within the tolerance of it, or it of one.
+    // For each loop whether an opening comes within the tolerance of it, or it of one, or so near that rounding cannot
+    // tell.
     std::vector<bool> touched;
     std::vector<outline_contact> contacts;
 };

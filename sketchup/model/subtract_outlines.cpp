@@ -201,26 +201,32 @@ private:
     std::vector<piece> pieces_;
 };
 
-// The turn of the plane keeps directions, so a loop that runs counter-clockwise here does so for Clipper. Clipper adds
-// up how often openings wind around a place; all must wind the same way.
+// The parts of an opening, all counter-clockwise, in which no line crosses another: snapping may have twisted it.
+// Clipper adds up how often openings wind around a place, so all must wind the same way.
+void append_untwisted(const ClipperLib::Path& opening, ClipperLib::Paths& parts) {
+    ClipperLib::Clipper clipper(ClipperLib::ioPreserveCollinear);
+    ClipperLib::Paths found;
+    // What has no area is refused, and adds nothing.
+    if (clipper.AddPath(opening, ClipperLib::ptSubject, true)) {
+        clipper.Execute(ClipperLib::ctUnion, found, ClipperLib::pftEvenOdd);
+    }
+    std::copy_if(found.begin(), found.end(), std::back_inserter(parts), ClipperLib::Orientation);
+}
+
 bool add_loops(outlines& shape, step_grid& grid, ClipperLib::Clipper& clipper) {
     ClipperLib::Paths face;
     ClipperLib::Paths openings;
     for (std::size_t l = 0; l < shape.loops.size(); ++l) {
-        ClipperLib::Path path = grid.steps(shape.loops[l]);
+        const ClipperLib::Path path = grid.steps(shape.loops[l]);
         if (shape.is_of_face(l)) {
-            face.push_back(std::move(path));
-            continue;
+            face.push_back(path);
+        } else if (grid.is_in_range()) {
+            append_untwisted(path, openings);
         }
-        if (!ClipperLib::Orientation(path)) {
-            ClipperLib::ReversePath(path);
-        }
-        openings.push_back(std::move(path));
     }
     if (!grid.is_in_range()) {
         return false;
     }
-    // What has no area adds nothing and is refused; that is no failure.
     clipper.AddPaths(face, ClipperLib::ptSubject, true);
     clipper.AddPaths(openings, ClipperLib::ptClip, true);
     return true;

@@ -2,6 +2,7 @@
 
 #include "print_points.h"
 #include "shapes.h"
+#include "sketchup/model/plane_frame.h"
 #include "sketchup/model/vector_math.h"
 
 #include <gmock/gmock.h>
@@ -301,6 +302,29 @@ TEST(PlaneCut, openings_without_area_take_nothing) {
     EXPECT_TRUE(cut(wall, {{{1, 1, 0}, {1, 1, 0}, {1, 1, 0}, {1, 1, 0}}}).is_whole);
     EXPECT_TRUE(cut(wall, {{}}).is_whole);
     EXPECT_TRUE(cut(wall, {}).is_whole);
+}
+
+TEST(PlaneCut, an_opening_beside_the_face_takes_nothing_though_rounding_puts_a_corner_of_it_inside) {
+    const vec3 normal = vec3{-6, 3, 2} / 7.0;
+    const plane_frame frame({3, -2, 5}, normal);
+    const auto lifted = [&frame](std::initializer_list<sweep_point> flat) {
+        points p;
+        for (const sweep_point& corner : flat) {
+            p.push_back(frame.lift(corner));
+        }
+        return p;
+    };
+    const loops face = {lifted({{5, 18}, {23, 18}, {23, 36}, {5, 36}})};
+    const loops openings = {lifted({{18, 18}, {18, 0}, {31.0011, 16}})};
+    const plane_cut left = cut_openings(face.list(), normal, openings.list(), {.tolerance = 0});
+    EXPECT_TRUE(left.is_whole || std::abs(left.area - 324) < 1e-9) << left.area; // 18 x 18
+}
+
+TEST(PlaneCut, an_opening_that_joining_twists_is_taken_off_all_the_same) {
+    // The right side of the second window runs from 8e-4 left to 8e-4 right of the first one's.
+    const points first = rectangle(1, 1, 3, 7);
+    const points second = {{2, 1, 0}, {3 - 8e-4, 1, 0}, {3 + 8e-4, 7, 0}, {2, 7, 0}};
+    EXPECT_NEAR(cut(wall, {first, second}).area, 68, 1e-9); // 80 - 2 x 6
 }
 
 TEST(PlaneCut, what_is_no_number_takes_nothing) {
