@@ -15,8 +15,8 @@ struct contours {
     double area = 0;
 };
 
-// What is left of the face's loops (odd rule) without the union of the other loops, whichever way they run. None of the
-// openings may cross itself. Points that it meets keep their numbers, bit for bit; where lines cross, points are added
+// What is left of the face's loops (odd rule) without the union of the other loops, whichever way they run, each by the
+// odd rule. Points that it meets keep their numbers, bit for bit; where lines cross, points are added
 // to shape.points. Pieces whose mean width is below `least_width` are left out. Each loop begins with its lowest
 // number, outlines counter-clockwise, holes clockwise, in the order of these numbers, the holes of a piece after its
 // outline. False if the plane cannot be computed with: an opening reaches more than 4,000 times the size of the face.

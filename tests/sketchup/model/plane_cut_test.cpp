@@ -320,7 +320,7 @@ TEST(PlaneCut, an_opening_beside_the_face_takes_nothing_though_rounding_puts_a_c
     EXPECT_TRUE(left.is_whole || std::abs(left.area - 324) < 1e-9) << left.area; // 18 x 18
 }
 
-TEST(PlaneCut, an_opening_that_joining_twists_is_taken_off_all_the_same) {
+TEST(PlaneCut, openings_whose_sides_run_slantwise_along_each_other_are_joined) {
     // The right side of the second window runs from 8e-4 left to 8e-4 right of the first one's.
     const points first = rectangle(1, 1, 3, 7);
     const points second = {{2, 1, 0}, {3 - 8e-4, 1, 0}, {3 + 8e-4, 7, 0}, {2, 7, 0}};
