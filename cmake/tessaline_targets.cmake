@@ -7,10 +7,13 @@ set(CMAKE_C_STANDARD 11)
 set(CMAKE_C_STANDARD_REQUIRED ON)
 
 add_library(tessaline_flags INTERFACE)
-target_include_directories(tessaline_flags INTERFACE ${PROJECT_SOURCE_DIR})
 # A fused multiply-add rounds once instead of twice, so the text of a number would depend on the processor.
 target_compile_options(tessaline_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off)
+# The provider is a shared library too, which shows the calls of the C interface and nothing else.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   # g++ 12 sees overlapping copies in every `"literal" + string` once it inlines the library (its bug 105651).
   target_compile_options(tessaline_flags INTERFACE -Wno-restrict)
@@ -33,24 +36,39 @@ if(TESSALINE_COVERAGE)
   target_link_options(tessaline_flags INTERFACE --coverage)
 endif()
 
-# tessaline_room(NAME LINK TARGET... [FOLDERS FOLDER...]): a static library of every .cpp of the current folder and of
-# the folders named. A room links only what it may include, so a forbidden include fails to compile or to link.
-function(tessaline_room name)
-  cmake_parse_arguments(room "" "" "LINK;FOLDERS" ${ARGN})
-  set(patterns ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-  foreach(folder ${room_FOLDERS})
-    list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+# tessaline_show(TARGET SCOPE PATH...): who links the target may include what lies at these paths, files or folders from
+# the root of the project, and learns no other path: <build>/include/TARGET holds links to them and nothing else. So an
+# include of a room that is not linked finds no file.
+function(tessaline_show target scope)
+  set(shown ${PROJECT_BINARY_DIR}/include/${target})
+  foreach(path ${ARGN})
+    get_filename_component(folder ${shown}/${path} DIRECTORY)
+    file(MAKE_DIRECTORY ${folder})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${path} ${shown}/${path} SYMBOLIC)
   endforeach()
-  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
-  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-  if(sources)
-    add_library(${name} STATIC ${sources})
-    target_link_libraries(${name} PUBLIC tessaline_flags ${room_LINK})
-    target_compile_options(${name} PRIVATE ${for_the_fuzzer})
-  else()
-    add_library(${name} INTERFACE)
-    target_link_libraries(${name} INTERFACE tessaline_flags ${room_LINK})
+  target_include_directories(${target} ${scope} ${shown})
+endfunction()
+
+# tessaline_room(NAME LINK TARGET... [FOLDERS FOLDER...] [SHOW PATH...] [SOURCES FILE...]): a static library of every
+# .cpp of the current folder and of the folders named, or of the files named. It shows its folder, or the paths named.
+function(tessaline_room name)
+  cmake_parse_arguments(room "" "" "LINK;FOLDERS;SHOW;SOURCES" ${ARGN})
+  set(sources ${room_SOURCES})
+  if(NOT sources)
+    set(patterns ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    foreach(folder ${room_FOLDERS})
+      list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+    endforeach()
+    file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   endif()
+  if(NOT room_SHOW)
+    file(RELATIVE_PATH room_SHOW ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+  endif()
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC tessaline_flags ${room_LINK})
+  target_compile_options(${name} PRIVATE ${for_the_fuzzer})
+  tessaline_show(${name} PUBLIC ${room_SHOW})
 endfunction()
 
 # tessaline_test(NAME LABEL LINK TARGET... [FOLDERS FOLDER...]): one GoogleTest program of every *_test.cpp (and *.c,
@@ -64,7 +82,7 @@ function(tessaline_test name label)
   file(GLOB sources CONFIGURE_DEPENDS ${patterns})
   if(sources)
     add_executable(${name} ${sources})
-    target_link_libraries(${name} PRIVATE tessaline_flags ${test_LINK} own_settings GTest::gmock)
+    target_link_libraries(${name} PRIVATE tessaline_flags tests_shown ${test_LINK} own_settings GTest::gmock)
     # What is tested is optimised; optimising the tests themselves would only lengthen the build.
     target_compile_options(${name} PRIVATE -O0)
     # Half of what a test takes to compile is these two.

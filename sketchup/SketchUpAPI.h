@@ -30,6 +30,11 @@
 extern "C" {
 #endif
 
+// The calls are what a shared library of the provider shows; all else of the project is compiled hidden.
+#if defined(__GNUC__) && !defined(_WIN32)
+#pragma GCC visibility push(default)
+#endif
+
 // clang-format off
 // ---- Handles ----------------------------------------------------------------------------------------------------
 
@@ -622,6 +627,10 @@ enum SUResult SUSceneGetCamera(SUSceneRef scene, SUCameraRef* camera);
 // NO_DATA for an unknown key. A rendering option that the file does not store has the value of a new model.
 enum SUResult SURenderingOptionsGetValue(SURenderingOptionsRef options, const char* key, SUTypedValueRef* value);
 enum SUResult SUShadowInfoGetValue(SUShadowInfoRef info, const char* key, SUTypedValueRef* value);
+
+#if defined(__GNUC__) && !defined(_WIN32)
+#pragma GCC visibility pop
+#endif
 
 #ifdef __cplusplus
 }
