@@ -116,6 +116,11 @@ void batch::set_date(std::string seconds, std::string time_zone) {
     zone = std::move(time_zone);
 }
 
+std::string tested_program() {
+    const char* other = std::getenv("TESSALINE_TESTED_PROGRAM");
+    return other != nullptr ? other : TESSALINE_PROGRAM;
+}
+
 run_outcome batch::run(const std::vector<std::string>& more_arguments) const {
     std::vector<std::string> arguments = {full_name + "/geometry.qlm"};
     arguments.insert(arguments.end(), more_arguments.begin(), more_arguments.end());
@@ -126,7 +131,7 @@ std::string batch::command_with(const std::vector<std::string>& arguments, const
     std::string command = "cd " + shell_quoted(current_folder) + " && env -u TESSALINE_TRACE -u XDG_CONFIG_HOME";
     command += date.empty() ? " -u SOURCE_DATE_EPOCH" : " SOURCE_DATE_EPOCH=" + shell_quoted(date);
     command += " HOME=" + shell_quoted(outside / "home") + " TMPDIR=" + shell_quoted(outside / "tmp") +
-               " TZ=" + shell_quoted(zone) + " " + shell_quoted(TESSALINE_PROGRAM);
+               " TZ=" + shell_quoted(zone) + " " + shell_quoted(tested_program());
     for (const std::string& argument : arguments)
         command += " " + shell_quoted(argument);
     return command;

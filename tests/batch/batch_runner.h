@@ -35,6 +35,9 @@ struct encoded_picture {
     int tolerance = 0; // how far a byte may be off; for formats that lose something
 };
 
+// The program that batches are converted with: the one of this build, or the one that TESSALINE_TESTED_PROGRAM names.
+std::string tested_program();
+
 using files_by_name = std::map<std::string, std::string>; // names from the batch folder on, with "/" between
 
 // The files of a folder and of those inside; none if there is no such folder.

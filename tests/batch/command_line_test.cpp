@@ -82,7 +82,7 @@ TEST(CommandLineBatch, a_marker_file_makes_a_run_show_what_it_was_passed) {
     const std::string model = b / "geometry.qlm";
     const std::string stream = b / "batch_file.txt";
     const run_outcome outcome = b.run_with({model, stream, "-is_animation"});
-    EXPECT_EQ(outcome.errors, "TEMP/qlw_show_command_line found: " TESSALINE_PROGRAM " " + model + " " + stream +
+    EXPECT_EQ(outcome.errors, "TEMP/qlw_show_command_line found: " + tested_program() + " " + model + " " + stream +
                                   " -is_animation\nsin: " + model + "\nsout: " + stream + "\n" +
                                   std::string(quiet_errors));
     EXPECT_TRUE(b.has("batch_file.txt"));
