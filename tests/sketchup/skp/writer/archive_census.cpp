@@ -143,8 +143,10 @@ void archive_census::add(const std::vector<std::uint8_t>& file) {
     const std::size_t size = static_cast<std::size_t>(file.end() - start);
     zip_source_t* source = zip_source_buffer_create(file.data() + (file.size() - size), size, 0, nullptr);
     const std::unique_ptr<zip_t, archive_closer> archive(zip_open_from_source(source, ZIP_RDONLY, nullptr));
-    if (!archive)
+    if (!archive) {
+        zip_source_free(source); // the archive's, had it opened
         throw std::runtime_error("no archive");
+    }
     std::set<std::string> entries;
     for (zip_int64_t i = 0; i < zip_get_num_entries(archive.get(), 0); ++i) {
         const auto at = static_cast<zip_uint64_t>(i);

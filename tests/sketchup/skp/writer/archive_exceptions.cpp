@@ -53,6 +53,7 @@ constexpr archive_exception exceptions[] = {
     {"1501/14001/14002/10000", lack::absent, "a list of dictionaries, of a face whose texture lies as by default"},
     {"1501/14001/14002/14003/14005/*", lack::absent, attributes},
     {"1501/14001/14002/14003/14005/*", lack::empty, attributes},
+    {"1501/14001/14002/14003/14005/*", lack::zero, attributes},
     {"1501/14001/14002/14003/14005", lack::empty, attributes},
     // What a model in memory does not have.
     {"100/111", lack::empty, "a model in memory has no path"},
@@ -72,6 +73,10 @@ bool is_end_of(const std::string& path, const std::string& end) {
 
 std::span<const archive_exception> archive_exceptions() {
     return exceptions;
+}
+
+bool is_up_to_the_model(const archive_exception& exception) {
+    return exception.reason == options || exception.reason == sun || exception.reason == attributes;
 }
 
 bool excuses(const archive_exception& exception, const finding& found) {
