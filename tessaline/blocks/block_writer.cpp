@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view label_of_edges = "Edges";
 constexpr std::string_view layer_of_lines = "Edges";
-constexpr std::string_view layer_of_beams = "Layer0"; // whatever layers the edges are on
+constexpr std::string_view layer_of_beams = default_layer_name; // whatever layers the edges are on
 
 } // namespace
 

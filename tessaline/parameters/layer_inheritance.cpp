@@ -11,10 +11,8 @@ element_layer layer_of(SUDrawingElementRef element, bool layer0_hidden) {
     if (found.name != default_layer_name || !current_oparms)
         return found;
 
-    // A record's name was itself resolved against the records below it, and a new record starts as a copy: if any
-    // enclosing level has a real layer, the top record names the nearest.
-    const std::string& inherited = current_oparms->layer_name.str();
-    if (inherited.empty() || inherited == default_layer_name)
+    const std::string& inherited = current_oparms->inherited_layer();
+    if (inherited.empty())
         return found;
     found.name = inherited;
     if (layer0_hidden)

@@ -1,13 +1,11 @@
 #pragma once
 
 // Which layer an element counts as being on: one that stands on "Layer0" is on the layer of the nearest enclosing group
-// or instance that has a real one.
+// or instance that has a real one; a layer without a name is none.
 
 #include "sketchup/SketchUpAPI.h"
 
 #include <string_view>
-
-inline constexpr std::string_view default_layer_name = "Layer0";
 
 struct element_layer {
     SULayerRef layer = SU_INVALID; // whose visibility decides

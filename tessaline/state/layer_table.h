@@ -5,8 +5,12 @@
 #include "sketchup/SketchUpAPI.h"
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
+
+// The layer of all that was put on no other; the model's own list has it too.
+inline constexpr std::string_view default_layer_name = "Layer0";
 
 class layer_table {
 public:

@@ -9,6 +9,14 @@
 #include <stdexcept>
 #include <utility>
 
+namespace {
+
+bool names_real_layer(std::string_view layer_name) {
+    return !layer_name.empty() && layer_name != default_layer_name;
+}
+
+} // namespace
+
 cl_slp_oparms* cl_oparms_array::push() {
     std::unique_ptr<cl_slp_oparms> level = spare ? std::move(spare) : std::make_unique<cl_slp_oparms>();
     if (levels.empty())
@@ -50,7 +58,13 @@ void cl_oparms_array::clear() {
     forgotten = 0;
 }
 
+const std::string& cl_slp_oparms::inherited_layer() const {
+    return names_real_layer(layer_name) ? layer_name.str() : enclosing_layer.str();
+}
+
 void set_layer(cl_slp_oparms& oparms, const std::string& layer_name) {
+    if (names_real_layer(oparms.layer_name)) // still the copy of the level below
+        oparms.enclosing_layer = oparms.layer_name;
     oparms.layer_name = layer_name;
     if (!theApp.is_doing_animation)
         return; // nobody asks for the chain, and levels that stay on the stack would let it grow without end

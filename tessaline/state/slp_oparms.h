@@ -53,8 +53,9 @@ struct cl_slp_light {
 // The parameters of one level of the walk. A new level starts as a copy of the one above it.
 struct cl_slp_oparms {
     int level = -1;
-    shared_text layer_name;
-    shared_text layer_chain; // layer indices from the outermost level down, joined by commas; in an animation alone
+    shared_text layer_name;      // of the group or instance
+    shared_text enclosing_layer; // the nearest name on the levels below this one that is a real layer's
+    shared_text layer_chain;     // layer indices from the outermost level down, joined by commas; in an animation alone
     double reflection = 0;
     SUMaterialRef material = SU_INVALID; // of the enclosing group or instance
     cl_slp_light light;
@@ -67,6 +68,11 @@ struct cl_slp_oparms {
     bool invisible = false; // hidden from the camera
     shared_text groundcover_file;
     int groundcover_orientation = -1;
+
+    // What an element on "Layer0" inherits: the name of the nearest level, from this one outwards, that is neither
+    // empty nor "Layer0"; empty if there is none. Kept on each level, since a model may nest thousands of them around
+    // every face. Valid while the level is on the stack and set_layer does not change it.
+    const std::string& inherited_layer() const;
 
     // Fills what is still open from the attribute list of the run; an outer object wins over an inner one.
     // source_label: what the attributes belong to, "Group" for instance; without effect.
@@ -102,6 +108,6 @@ private:
     int forgotten = 0;
 };
 
-// Names the layer of a level that was just entered and, in an animation, appends the layer's index to the chain that
-// current_oparms holds. A layer that the model's table lacks leaves the chain as inherited.
+// Names the layer of a level that was just pushed, once for each, and, in an animation, appends the layer's index to
+// the chain that current_oparms holds. A layer that the model's table lacks leaves the chain as inherited.
 void set_layer(cl_slp_oparms& oparms, const std::string& layer_name);

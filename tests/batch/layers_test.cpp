@@ -37,6 +37,18 @@ TEST(LayersBatch, what_is_on_layer0_counts_as_on_the_layer_of_the_nearest_group_
     expect_run(b, "layers_of_nested_groups");
 }
 
+TEST(LayersBatch, a_layer_without_a_name_lets_the_layer_of_the_group_around_it_through) {
+    batch b;
+    model_builder m;
+    const sketchup::index walls = m.layer("Walls");
+    const sketchup::index unnamed = m.layer("");
+    list_builder inner = add_group(m, add_group(m, m.root(), walls), unnamed);
+    add_square(inner);
+    m.element(add_square(inner, 20)).layer = unnamed;
+    b.put_model(m);
+    expect_run(b, "layer_without_a_name");
+}
+
 TEST(LayersBatch, hidden_faces_groups_and_instances_are_left_out) {
     batch b;
     model_builder m;

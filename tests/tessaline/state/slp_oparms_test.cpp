@@ -200,6 +200,41 @@ TEST_F(LayerChain, no_chain_is_kept_outside_an_animation) {
     EXPECT_EQ(current_oparms->layer_chain, "");
 }
 
+// As a group on Layer0 in one without a layer's name, in one on "Walls", in one on "Doors".
+TEST(InheritedLayer, is_the_nearest_one_that_has_a_name_and_is_not_layer0) {
+    cl_oparms_array stack;
+    set_layer(*stack.push(), "Doors");
+    set_layer(*stack.push(), "Walls");
+    cl_slp_oparms* const unnamed = stack.push();
+    set_layer(*unnamed, "");
+    cl_slp_oparms* const inner = stack.push();
+    set_layer(*inner, "Layer0");
+    EXPECT_EQ(inner->inherited_layer(), "Walls");
+    EXPECT_EQ(stack.push()->inherited_layer(), "Walls") << "the level of a face names no layer of its own";
+    stack.pop();
+    EXPECT_EQ(stack.pop(), unnamed);
+    EXPECT_EQ(unnamed->inherited_layer(), "Walls");
+    EXPECT_EQ(stack.pop()->inherited_layer(), "Walls");
+    EXPECT_EQ(stack.pop()->inherited_layer(), "Doors");
+}
+
+TEST(InheritedLayer, is_none_where_no_level_has_a_real_one) {
+    cl_oparms_array stack;
+    stack.push();
+    EXPECT_EQ(stack.at(0)->inherited_layer(), "");
+    set_layer(*stack.push(), "Layer0");
+    set_layer(*stack.push(), "");
+    EXPECT_EQ(stack.at(2)->inherited_layer(), "");
+}
+
+TEST(InheritedLayer, outlives_the_levels_that_are_forgotten) {
+    cl_oparms_array stack;
+    set_layer(*stack.push(), "Walls");
+    set_layer(*stack.push(), "");
+    stack.forget_all_below(0);
+    EXPECT_EQ(stack.at(1)->inherited_layer(), "Walls");
+}
+
 TEST(LampTest, a_type_as_text_or_as_number_makes_a_lamp) {
     cl_slp_light light;
     EXPECT_FALSE(is_lamp(light));

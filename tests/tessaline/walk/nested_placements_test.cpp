@@ -55,6 +55,38 @@ TEST_F(LayersOfAComponent, that_is_placed_on_another_layer_hide_nothing) {
     EXPECT_THAT(layers_on("Roof"), ElementsAre("TLAY;Walls", "TLAY;Beside", "TLAY;Roof"));
 }
 
+// A layer may have no name; what stands on it says so, and what is inside inherits from further out.
+TEST_F(NestedPlacements, a_group_or_an_instance_on_a_layer_without_a_name_lets_the_outer_layer_through) {
+    model_builder m;
+    const auto walls = m.layer("Walls");
+    const auto unnamed = m.layer("");
+    list_builder part = m.component("part");
+    part.square(10);
+    list_builder outer = m.root().group();
+    m.element(outer.placement()).layer = walls;
+    list_builder inner = outer.group();
+    m.element(inner.placement()).layer = unnamed;
+    inner.group().square(20);
+    inner.square(30);
+    m.element(inner.square(40)).layer = unnamed;
+    m.element(outer.instance(part)).layer = unnamed;
+    EXPECT_THAT(tagged(body_of(m), "TLAY"), ElementsAre("TLAY;Walls", "TLAY;Walls", "TLAY;", "TLAY;Walls"));
+}
+
+// Layer0 is off, so the layer of the outer group decides.
+TEST_F(NestedPlacements, with_layer0_hidden_the_layer_beyond_one_without_a_name_decides_what_is_seen) {
+    model_builder m;
+    m.model().layers[0].hidden = true;
+    const auto on = m.layer("On");
+    const auto unnamed = m.layer("");
+    list_builder outer = m.root().group();
+    m.element(outer.placement()).layer = on;
+    list_builder inner = outer.group();
+    m.element(inner.placement()).layer = unnamed;
+    inner.square(10);
+    EXPECT_THAT(tagged(body_of(m), "TLAY"), ElementsAre("TLAY;On"));
+}
+
 // The end of the group pops the level of the last of them, so what follows the group inherits from the second.
 TEST_F(NestedPlacements, instances_dropped_inside_a_group_leave_their_levels_to_what_follows) {
     set_global_bool("bvl_process_invisible_lights", true);
