@@ -229,6 +229,12 @@ std::optional<std::vector<std::byte>> read_file(const std::string& name, std::ui
 
 // ---- files that several processes write (shared_file.cpp)
 
+enum class lock_result {
+    taken,
+    held_elsewhere, // for longer than one was ready to wait
+    impossible,     // the lock file cannot be made, or its file system knows no locks
+};
+
 // Keeps other processes from what the lock file stands for. The lock file exists only while somebody holds or awaits
 // the lock. A process that dies gives the lock back.
 class file_lock {
@@ -238,9 +244,9 @@ public:
     file_lock& operator=(const file_lock&) = delete;
     ~file_lock();
 
-    // Waits until nobody else holds the lock of that name, in this process or another. At most once for each object.
-    // False if that takes longer than `patience` milliseconds, or if the lock file cannot be made.
-    bool take(const std::string& name, int patience);
+    // Waits until nobody else holds the lock of that name, in this process or another, for `patience` milliseconds; 0
+    // tries once. At most one lock for each object.
+    lock_result take(const std::string& name, int patience);
 
 private:
     std::string lock_name;

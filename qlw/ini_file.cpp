@@ -78,7 +78,10 @@ void write_string_to_ini_file(std::string_view section, std::string_view key, st
     const std::string file = profile_file_name(file_base);
     if (file.empty() || !make_directory_tree(profile_folder()))
         return;
-    profile_state().ini_files.write(file, section, key, value);
+    if (profile_state().ini_files.write(file, section, key, value) == ini_write::gave_up_waiting)
+        cl_trace::here("write_string_to_ini_file", trace_level::user_error)
+            .report("Cannot write profile: '%s' is held by another program. Settings of this run may not be kept",
+                    file);
 }
 
 std::string get_string_from_default_ini(std::string_view section, std::string_view key, std::string_view default_value,

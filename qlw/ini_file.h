@@ -16,7 +16,8 @@ std::string get_string_from_ini_file(std::string_view section, std::string_view 
 // The same with nothing for what is missing.
 std::optional<std::string> find_in_ini_file(std::string_view section, std::string_view key, std::string_view file_base);
 
-// Stores a value in such a file. A value that stands there already leaves the file alone. Failures are silent.
+// Stores a value in such a file. A value that stands there already leaves the file alone. Failures are silent,
+// but that a file held by another process is waited for once in a run, and the user told if that was in vain.
 void write_string_to_ini_file(std::string_view section, std::string_view key, std::string_view value,
                               std::string_view file_base);
 

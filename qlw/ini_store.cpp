@@ -10,7 +10,6 @@
 namespace {
 
 constexpr std::uint64_t largest_file = 4u << 20; // some 600 settings of at most 4,096 bytes take less
-constexpr int patience_milliseconds = 2000;      // a rewrite takes less than one
 
 // The text on the disk, empty for a missing file; nothing for one that is not to be touched.
 std::optional<ini_text> text_on_disk(const std::string& name) {
@@ -29,22 +28,27 @@ const ini_text& ini_store::file(const std::string& name) {
     return files.emplace(name, text_on_disk(name).value_or(ini_text())).first->second;
 }
 
-void ini_store::write(const std::string& name, std::string_view section, std::string_view key, std::string_view value) {
+ini_write ini_store::write(const std::string& name, std::string_view section, std::string_view key,
+                           std::string_view value) {
     // Replacing is one step, so a look without the lock sees a whole file, and mostly there is nothing to do.
     std::optional<ini_text> text = text_on_disk(name);
     const ini_text seen = text.value_or(ini_text());
     files.insert_or_assign(name, seen);
     if (!text || !text->set_value(section, key, value))
-        return;
+        return ini_write::ended;
     platform::file_lock lock;
-    if (!lock.take(name + ".lock", patience_milliseconds))
-        return;
+    const platform::lock_result locked = lock.take(name + ".lock", patience_left);
+    if (locked == platform::lock_result::held_elsewhere && std::exchange(patience_left, 0) > 0)
+        return ini_write::gave_up_waiting;
+    if (locked != platform::lock_result::taken)
+        return ini_write::ended;
     text = text_on_disk(name);
     if (!text)
-        return;
+        return ini_write::ended;
     const bool is_changed = text->set_value(section, key, value);
     if (text->bytes().size() > largest_file) // the next run would read nothing of it
-        return;
+        return ini_write::ended;
     if (!is_changed || platform::replace_file(name, text->bytes()))
         files.insert_or_assign(name, *std::move(text));
+    return ini_write::ended;
 }

@@ -14,7 +14,7 @@ int get_profile_int(std::string_view section, std::string_view key, int default_
 double get_profile_double(std::string_view section, std::string_view key, double default_value, bool quiet);
 
 // Store a value in the profile under a section and a key. A value that stands there already leaves the file alone; a
-// profile that cannot be written stays as it is without a word.
+// profile that cannot be written stays as it is without a word, but for one if another process holds it.
 void write_profile_string(std::string_view section, std::string_view key, std::string_view value);
 void write_profile_int(std::string_view section, std::string_view key, int value);
 void write_profile_double(std::string_view section, std::string_view key, double value);

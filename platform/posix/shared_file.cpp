@@ -19,13 +19,15 @@ using clock = std::chrono::steady_clock;
 constexpr auto time_between_tries = std::chrono::milliseconds(1);
 constexpr mode_t permission_bits = 07777;
 
-bool lock_before(int descriptor, clock::time_point deadline) {
+lock_result lock_before(int descriptor, clock::time_point deadline) {
     while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-        if ((errno != EWOULDBLOCK && errno != EINTR) || clock::now() >= deadline)
-            return false;
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return lock_result::impossible;
+        if (clock::now() >= deadline)
+            return lock_result::held_elsewhere;
         std::this_thread::sleep_for(time_between_tries);
     }
-    return true;
+    return lock_result::taken;
 }
 
 // Whether the name still leads to the open file: the last holder may have deleted it while we waited.
@@ -60,21 +62,21 @@ file_lock::~file_lock() {
     ::close(static_cast<int>(handle));
 }
 
-bool file_lock::take(const std::string& name, int patience) {
+lock_result file_lock::take(const std::string& name, int patience) {
     const clock::time_point deadline = clock::now() + std::chrono::milliseconds(patience);
     for (;;) {
         const int descriptor = ::open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
         if (descriptor < 0)
-            return false;
-        const bool is_locked = lock_before(descriptor, deadline);
-        if (is_locked && still_names(name, descriptor)) {
+            return lock_result::impossible;
+        const lock_result result = lock_before(descriptor, deadline);
+        if (result == lock_result::taken && still_names(name, descriptor)) {
             handle = descriptor;
             lock_name = name;
-            return true;
+            return result;
         }
         ::close(descriptor);
-        if (!is_locked)
-            return false;
+        if (result != lock_result::taken)
+            return result;
     }
 }
 

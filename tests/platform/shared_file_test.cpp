@@ -10,6 +10,8 @@
 
 namespace {
 
+using platform::lock_result;
+
 unsigned permissions_of(const std::string& name) {
     struct stat status = {};
     EXPECT_EQ(stat(name.c_str(), &status), 0);
@@ -20,7 +22,7 @@ TEST(FileLock, exists_on_the_disk_only_while_it_is_held) {
     const temporary_folder folder;
     {
         platform::file_lock lock;
-        EXPECT_TRUE(lock.take(folder / "a.lock", 0));
+        EXPECT_EQ(lock.take(folder / "a.lock", 0), lock_result::taken);
         EXPECT_TRUE(folder.has("a.lock"));
     }
     EXPECT_FALSE(folder.has("a.lock"));
@@ -30,21 +32,21 @@ TEST(FileLock, a_second_holder_gives_up_after_its_patience) {
     const temporary_folder folder;
     platform::file_lock first;
     platform::file_lock second;
-    ASSERT_TRUE(first.take(folder / "a.lock", 0));
-    EXPECT_FALSE(second.take(folder / "a.lock", 10));
+    ASSERT_EQ(first.take(folder / "a.lock", 0), lock_result::taken);
+    EXPECT_EQ(second.take(folder / "a.lock", 10), lock_result::held_elsewhere);
     EXPECT_TRUE(folder.has("a.lock"));
 }
 
 TEST(FileLock, a_second_holder_gets_it_when_the_first_lets_go) {
     const temporary_folder folder;
     auto first = std::make_unique<platform::file_lock>();
-    ASSERT_TRUE(first->take(folder / "a.lock", 0));
+    ASSERT_EQ(first->take(folder / "a.lock", 0), lock_result::taken);
     std::thread releasing([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
         first.reset();
     });
     platform::file_lock second;
-    EXPECT_TRUE(second.take(folder / "a.lock", 10000));
+    EXPECT_EQ(second.take(folder / "a.lock", 10000), lock_result::taken);
     releasing.join();
     EXPECT_TRUE(folder.has("a.lock"));
 }
@@ -53,21 +55,21 @@ TEST(FileLock, locks_of_different_names_do_not_wait_for_each_other) {
     const temporary_folder folder;
     platform::file_lock first;
     platform::file_lock second;
-    EXPECT_TRUE(first.take(folder / "a.lock", 0));
-    EXPECT_TRUE(second.take(folder / "b.lock", 0));
+    EXPECT_EQ(first.take(folder / "a.lock", 0), lock_result::taken);
+    EXPECT_EQ(second.take(folder / "b.lock", 0), lock_result::taken);
 }
 
 TEST(FileLock, what_a_dead_process_left_does_not_hold) {
     const temporary_folder folder;
     folder.write("a.lock", "");
     platform::file_lock lock;
-    EXPECT_TRUE(lock.take(folder / "a.lock", 0));
+    EXPECT_EQ(lock.take(folder / "a.lock", 0), lock_result::taken);
 }
 
 TEST(FileLock, fails_where_no_file_can_be_made) {
     const temporary_folder folder;
     platform::file_lock lock;
-    EXPECT_FALSE(lock.take(folder / "missing/a.lock", 0));
+    EXPECT_EQ(lock.take(folder / "missing/a.lock", 0), lock_result::impossible);
 }
 
 TEST(ReplaceFile, makes_a_missing_file_and_leaves_nothing_beside_it) {

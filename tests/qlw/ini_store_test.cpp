@@ -1,5 +1,6 @@
 #include "qlw/ini_store.h"
 
+#include "tests/support/lock_holder.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -124,6 +125,58 @@ TEST(IniStore, nothing_of_many_processes_that_write_at_once_is_lost) {
             EXPECT_EQ(text.value("s" + std::to_string(process), "k" + std::to_string(i)), "1") << process << " " << i;
     EXPECT_TRUE(text.bytes().starts_with("; kept\n"));
     EXPECT_EQ(names_in(folder), (std::set<std::string>{"a.ini"}));
+}
+
+TEST(IniStore, another_process_that_holds_a_file_is_waited_for_once_and_told_of_once) {
+    const temporary_folder folder;
+    const std::string name = folder.write("a.ini", "[a]\nkey=1\n");
+    const lock_holder other(name + ".lock");
+    ini_store store(5);
+    EXPECT_EQ(store.patience(), 5);
+    EXPECT_EQ(store.write(name, "a", "key", "2"), ini_write::gave_up_waiting);
+    EXPECT_EQ(store.patience(), 0);
+    EXPECT_EQ(store.write(name, "a", "key", "3"), ini_write::ended);
+    EXPECT_EQ(store.patience(), 0);
+    EXPECT_EQ(folder.read("a.ini"), "[a]\nkey=1\n");
+    EXPECT_EQ(store.file(name).value("a", "key"), "1");
+}
+
+TEST(IniStore, nobody_waits_for_a_second_file_either) {
+    const temporary_folder folder;
+    const lock_holder first(folder / "a.ini.lock");
+    const lock_holder second(folder / "b.ini.lock");
+    ini_store store(5);
+    EXPECT_EQ(store.write(folder / "a.ini", "a", "key", "1"), ini_write::gave_up_waiting);
+    EXPECT_EQ(store.write(folder / "b.ini", "a", "key", "1"), ini_write::ended);
+}
+
+TEST(IniStore, a_value_that_stands_there_already_waits_for_nobody) {
+    const temporary_folder folder;
+    const std::string name = folder.write("a.ini", "[a]\nkey=1\n");
+    const lock_holder other(name + ".lock");
+    ini_store store(5);
+    EXPECT_EQ(store.write(name, "a", "key", "1"), ini_write::ended);
+    EXPECT_EQ(store.patience(), 5);
+}
+
+TEST(IniStore, values_are_kept_again_when_the_other_process_has_let_go) {
+    const temporary_folder folder;
+    const std::string name = folder / "a.ini";
+    lock_holder other(name + ".lock");
+    ini_store store(5);
+    EXPECT_EQ(store.write(name, "a", "key", "1"), ini_write::gave_up_waiting);
+    other.let_go();
+    EXPECT_EQ(store.write(name, "a", "key", "2"), ini_write::ended);
+    EXPECT_EQ(folder.read("a.ini"), "[a]\r\nkey=2\r\n");
+}
+
+TEST(IniStore, a_lock_that_cannot_be_made_is_no_wait) {
+    const temporary_folder folder;
+    folder.make_folder("a.ini.lock");
+    ini_store store(5);
+    EXPECT_EQ(store.write(folder / "a.ini", "a", "key", "1"), ini_write::ended);
+    EXPECT_EQ(store.patience(), 5);
+    EXPECT_FALSE(folder.has("a.ini"));
 }
 
 TEST(IniStore, a_file_larger_than_any_profile_is_neither_read_nor_touched) {

@@ -3,8 +3,10 @@
 #include "tests/tessaline/run_fixture.h"
 
 #include "platform/platform.h"
+#include "qlw/profile_state.h"
 #include "qlw/qlw_trace.h"
 #include "tests/support/answering_desktop.h"
+#include "tests/support/lock_holder.h"
 #include "tests/support/ordinary_user.h"
 
 #include <filesystem>
@@ -78,6 +80,20 @@ TEST_F(RunMessages, an_unwritable_home_is_no_reason_for_one) {
     const with_environment home("HOME", file + "/home");
     const with_environment profile("XDG_CONFIG_HOME", file + "/home/config");
     EXPECT_THAT(messages_of_run(), IsEmpty());
+    EXPECT_THAT(batch.read("batch_file.txt"), testing::EndsWith("END;\r\n"));
+}
+
+TEST_F(RunMessages, a_profile_that_another_process_holds_costs_one_message_and_nothing_of_the_stream) {
+    model_builder m;
+    save(m);
+    batch.write("option_globals.txt", "rvlb_camera_height;60\nivl_dialog_x;7\n"); // both are kept in the profile
+    const std::string profile = batch.make_folder("config/Quillon Systems") + "/Profile.ini";
+    const lock_holder other(profile + ".lock");
+    profile_state().ini_files = ini_store(5);
+    const std::vector<std::string> messages = messages_of_run();
+    reset_profile_state();
+    EXPECT_THAT(messages, ElementsAre("Cannot write profile: '" + profile +
+                                      "' is held by another program. Settings of this run may not be kept"));
     EXPECT_THAT(batch.read("batch_file.txt"), testing::EndsWith("END;\r\n"));
 }
 
