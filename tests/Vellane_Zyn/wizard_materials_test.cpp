@@ -131,7 +131,6 @@ TEST(WizardMaterials, glass_has_its_own_values_whether_or_not_others_are_kept) {
 TEST(WizardMaterials, a_number_that_is_no_type_is_traced_and_changes_nothing_but_the_type) {
     for (const std::int32_t number : {9, 12, 97, 99, -1}) {
         const trace_capture trace;
-        trace_state().show_function = true;
         cl_wizard_materials wizard = odd_values();
         wizard.set_wizard_material_defaults(number, keep);
         expect_values(wizard, {number, " - Odd", 0.11, 0.12, true, 1.13, 0.14, 0.15, true, 0.16});

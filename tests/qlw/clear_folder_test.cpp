@@ -34,7 +34,6 @@ protected:
     // Both operations refuse the name with that message and say so under their own name.
     static void expect_refusal(const std::string& name, const std::string& message, const std::string& ending = "") {
         const trace_capture capture;
-        trace_state().show_function = true;
         EXPECT_EQ(told([&] { clear_folder(name, true, ending); }), "Tessaline - Error: " + message);
         EXPECT_EQ(told([&] { clear_folder_except(name, ending, {}); }), "Tessaline - Error: " + message);
         EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#): clear_folder():: *** ERROR: " + message + "\n" +

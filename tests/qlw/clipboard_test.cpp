@@ -18,8 +18,6 @@ protected:
         return capture.text_without_line_numbers();
     }
 
-    CopyToClipboard() { trace_state().show_function = true; }
-
     trace_capture capture;
     answering_desktop desktop;
 };

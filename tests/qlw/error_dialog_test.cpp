@@ -129,7 +129,7 @@ TEST_F(DialogContent, an_exception_in_the_second_dialog_is_traced_as_a_report_an
     };
     EXPECT_TRUE(dialog.run());
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "error_dialog(#):: REPORT: Error while running modal dialog: Error\n");
+              "error_dialog(#): do_modal_dialog():: REPORT: Error while running modal dialog: Error\n");
 }
 
 TEST_F(DialogContent, that_is_not_started_says_so_and_silences_nothing) {

@@ -30,8 +30,8 @@ TEST(InputFile, missing_and_quiet_is_only_traced) {
     cl_input_file file;
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", 1, "caller", 77)); }), "");
     EXPECT_FALSE(file.is_open());
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: REPORT: File not opened: " + (folder / "none") +
-                                                       ": No such file or directory: caller 77\n");
+    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " +
+                                                       (folder / "none") + ": No such file or directory: caller 77\n");
 }
 
 TEST(InputFile, missing_and_not_quiet_is_shown_too) {
@@ -40,10 +40,11 @@ TEST(InputFile, missing_and_not_quiet_is_shown_too) {
     cl_input_file file;
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", 0, "", 0)); }),
               "Tessaline - Error: Cannot open file: '" + (folder / "none") + "' No such file or directory:  0");
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: REPORT: File not opened: " + (folder / "none") +
-                                                       ": No such file or directory:  0\n" +
-                                                       "qlw_std(#):: *** ERROR: Cannot open file: '" +
-                                                       (folder / "none") + "' No such file or directory:  0\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " + (folder / "none") +
+                  ": No such file or directory:  0\n" +
+                  "qlw_std(#): cl_input_file::open():: *** ERROR: Cannot open file: '" + (folder / "none") +
+                  "' No such file or directory:  0\n");
 }
 
 TEST(InputFile, a_folder_is_no_file) {
@@ -51,8 +52,8 @@ TEST(InputFile, a_folder_is_no_file) {
     const trace_capture capture;
     cl_input_file file;
     EXPECT_FALSE(file.open(folder.name(), 1, "", 0));
-    EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#):: REPORT: File not opened: " + folder.name() + ": Is a directory:  0\n");
+    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " +
+                                                       folder.name() + ": Is a directory:  0\n");
 }
 
 TEST(InputFile, a_binary_file_that_is_missing_is_shown_unless_quiet_and_never_just_traced) {
@@ -64,7 +65,8 @@ TEST(InputFile, a_binary_file_that_is_missing_is_shown_unless_quiet_and_never_ju
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_binary(folder / "none", 0, "caller", 77)); }),
               "Tessaline - Error: Cannot open file: " + (folder / "none") + ": caller 77");
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "input_file(#):: *** ERROR: Cannot open file: " + (folder / "none") + ": caller 77\n");
+              "input_file(#): cl_input_file::open_binary():: *** ERROR: Cannot open file: " + (folder / "none") +
+                  ": caller 77\n");
 }
 
 TEST(InputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) {
@@ -75,8 +77,8 @@ TEST(InputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) {
     EXPECT_TRUE(file.open(folder.write("x.initial/a.txt", ""), 0, "", 0));
     EXPECT_TRUE(file.open_binary(folder / "user.ini", 0, "", 0));
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "input_file(#):: Opening .ini file: " + (folder / "user.ini") + "\n" +
-                  "input_file(#):: Opening .ini file: " + (folder / "x.initial/a.txt") + "\n");
+              "input_file(#): cl_input_file::open():: Opening .ini file: " + (folder / "user.ini") + "\n" +
+                  "input_file(#): cl_input_file::open():: Opening .ini file: " + (folder / "x.initial/a.txt") + "\n");
 }
 
 // All fields of a line; a line that is never used up would give 20.
@@ -127,7 +129,6 @@ TEST(CsvField, blanks_around_a_field_go_also_inside_quotes) {
 
 TEST(CsvField, a_quote_inside_an_unquoted_field_starts_an_escape) {
     const trace_capture capture;
-    trace_state().show_function = true;
     std::string line = "ab\"xc;d";
     testing::internal::CaptureStderr();
     EXPECT_EQ(cl_input_file::read_field_csv(line), "abxc");
@@ -146,7 +147,7 @@ TEST(CsvField, a_blank_before_the_quote_makes_the_field_unquoted) {
     const trace_capture capture;
     EXPECT_EQ(fields_of(" \"ab;c"), (texts{"ab", "c"}));
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "input_file(#):: *** ERROR: Bad \\ escape character: 97 a ( \"ab;c)\n");
+              "input_file(#): cl_input_file::read_field_csv():: *** ERROR: Bad \\ escape character: 97 a ( \"ab;c)\n");
 }
 
 TEST(CsvField, a_line_feed_ends_the_field_even_inside_quotes) {

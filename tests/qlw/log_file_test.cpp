@@ -18,7 +18,7 @@ protected:
 
     temporary_folder folder;
     with_environment settings{"XDG_CONFIG_HOME", folder / "settings"};
-    trace_capture capture;
+    plain_trace_capture capture;
 };
 
 TEST_F(LogFile, starts_with_three_lines_about_the_run) {

@@ -251,23 +251,21 @@ TEST_F(OptionGlobalsFile, a_file_is_read_by_its_name) {
 }
 
 TEST_F(OptionGlobalsFile, a_file_that_cannot_be_opened_is_reported_and_not_shown) {
-    reported();
     const std::string name = folder.make_folder("in.txt");
-    testing::internal::CaptureStderr();
+    trace.take();
     read_option_globals(name);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    EXPECT_THAT(reported(), ElementsAre(testing::StartsWith("REPORT: File not opened: " + name + ": ")));
+    const std::vector<traced_line> lines = trace.take();
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_THAT(lines[0].text, testing::StartsWith("REPORT: File not opened: " + name + ": "));
+    EXPECT_FALSE(lines[0].is_shown);
 }
 
 TEST_F(OptionGlobalsFile, a_file_that_is_not_open_is_reported) {
     trace.take();
     cl_output_file closed;
-    testing::internal::CaptureStderr();
     write_option_globals_to_open_file(closed);
-    EXPECT_THAT(testing::internal::GetCapturedStderr(),
-                testing::StartsWith("Tessaline - Error: Options Global FIle not found\n\n    (VER: "));
     EXPECT_THAT(trace.take(), ElementsAre(traced_line{"qlw_globals", "write_option_globals_to_open_file",
-                                                      "*** ERROR: Options Global FIle not found"}));
+                                                      "*** ERROR: Options Global FIle not found", in_a_dialog}));
 }
 
 TEST_F(OptionGlobalsFile, the_example_of_the_documentation_is_read_and_written_as_it_says) {

@@ -30,13 +30,13 @@ protected:
     // As if the program was started anew; the registry stays.
     void forget_files() { profile_state().ini_files.forget(); }
 
-    // The texts of levels that a user or developer notices, since the last call: all but level 0.
-    std::vector<std::string> reported() {
-        std::vector<std::string> texts;
-        for (const traced_line& line : trace.take())
-            if (line.text.starts_with("REPORT: ") || line.text.starts_with("*** ERROR: "))
-                texts.push_back(line.text);
-        return texts;
+    // The lines of levels that a user or developer notices, since the last call: all but level 0.
+    std::vector<traced_line> reported() {
+        std::vector<traced_line> lines = trace.take();
+        std::erase_if(lines, [](const traced_line& line) {
+            return !line.text.starts_with("REPORT: ") && !line.text.starts_with("*** ERROR: ");
+        });
+        return lines;
     }
 
     temporary_folder folder;

@@ -39,7 +39,7 @@ protected:
         return {};
     }
 
-    trace_capture capture;
+    plain_trace_capture capture;
     answering_desktop desktop;
 };
 

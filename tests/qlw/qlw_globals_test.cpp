@@ -234,9 +234,10 @@ TEST_F(FindingASetting, an_unexpected_save_type_leaves_a_line_and_changes_nothin
         reset_settings();
         global_variables.create_variable("ivl_x", each.actual);
         EXPECT_EQ(global_variables.find_global("ivl_x", each.expected).save_type, each.actual);
-        const std::vector<std::string> lines = reported();
-        EXPECT_EQ(lines, each.message.empty() ? std::vector<std::string>() : std::vector<std::string>{each.message})
-            << each.actual << " found, " << each.expected << " expected";
+        std::vector<traced_line> expected;
+        if (!each.message.empty())
+            expected.push_back({"qlw_globals", "cl_global_variable_array::find_global", each.message});
+        EXPECT_EQ(trace.take(), expected) << each.actual << " found, " << each.expected << " expected";
     }
 }
 

@@ -56,8 +56,10 @@ TEST_F(UserProfile, a_missing_key_is_reported_unless_it_is_expected) {
     get_profile_string("Globals", "svl_name", "-", true);
     EXPECT_THAT(reported(), IsEmpty());
     get_profile_string("Globals", "svl_name", "-", false);
-    EXPECT_THAT(reported(), testing::ElementsAre("REPORT: Cannot locate registry entry: HKEY_CURRENT_USER\\Software\\"
-                                                 "Quillon Systems\\Profile\\Globals\\svl_name"));
+    EXPECT_THAT(reported(),
+                testing::ElementsAre(traced_line{"registry_access", "cl_registry_result::read_registry_entry",
+                                                 "REPORT: Cannot locate registry entry: HKEY_CURRENT_USER\\Software\\"
+                                                 "Quillon Systems\\Profile\\Globals\\svl_name"}));
 }
 
 TEST_F(UserProfile, values_are_written_as_text) {
@@ -129,7 +131,9 @@ TEST_F(UserProfile, a_run_with_an_unwritable_home_goes_on_without_a_message) {
     set_global_int("ivl_save_image_action", 4);
     EXPECT_EQ(get_global_int("ivl_save_image_action"), 4);
     // What every run tells, wherever its home is.
-    EXPECT_THAT(reported(), testing::ElementsAre("REPORT: Global not preset properly: ivl_max_azure_minutes"));
+    EXPECT_THAT(reported(), testing::ElementsAre(traced_line{"qlw_globals", "report_global_not_preset",
+                                                             "REPORT: Global not preset properly: "
+                                                             "ivl_max_azure_minutes"}));
 }
 
 TEST_F(UserProfile, without_a_variable_for_settings_they_lie_below_the_home_folder) {

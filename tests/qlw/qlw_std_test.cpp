@@ -43,12 +43,13 @@ TEST(MakeSureDirectoryExists, makes_all_folders_of_a_path_and_traces_each_step) 
     const trace_capture capture;
     EXPECT_EQ(qlw_make_sure_directory_exists(folder / "a/b/"), 1);
     EXPECT_TRUE(folder.has("a/b"));
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: Making sub-folder: " + (folder / "a") + "\n" +
-                                                       "qlw_std(#):: Making sub-folder: " + folder.name() + "\n" +
-                                                       "qlw_std(#):: calling qlw_mkdir: " + (folder / "a") + "\n" +
-                                                       "qlw_std(#):: Directory created: " + (folder / "a") + "\n" +
-                                                       "qlw_std(#):: calling qlw_mkdir: " + (folder / "a/b") + "\n" +
-                                                       "qlw_std(#):: Directory created: " + (folder / "a/b") + "\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "qlw_std(#): qlw_make_sure_directory_exists():: Making sub-folder: " + (folder / "a") + "\n" +
+                  "qlw_std(#): qlw_make_sure_directory_exists():: Making sub-folder: " + folder.name() + "\n" +
+                  "qlw_std(#): qlw_make_sure_directory_exists():: calling qlw_mkdir: " + (folder / "a") + "\n" +
+                  "qlw_std(#): qlw_make_sure_directory_exists():: Directory created: " + (folder / "a") + "\n" +
+                  "qlw_std(#): qlw_make_sure_directory_exists():: calling qlw_mkdir: " + (folder / "a/b") + "\n" +
+                  "qlw_std(#): qlw_make_sure_directory_exists():: Directory created: " + (folder / "a/b") + "\n");
 }
 
 TEST(MakeSureDirectoryExists, says_nothing_about_a_folder_that_exists) {
@@ -65,10 +66,11 @@ TEST(MakeSureDirectoryExists, a_failure_is_traced_and_still_gives_1) {
     const trace_capture capture;
     EXPECT_EQ(told([&] { EXPECT_EQ(qlw_make_sure_directory_exists(blocked), 1); }), "");
     EXPECT_FALSE(path_exists(blocked));
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#):: Making sub-folder: " + (folder / "file") + "\n" +
-                                                       "qlw_std(#):: calling qlw_mkdir: " + blocked + "\n" +
-                                                       "qlw_std(#):: *** ERROR: Could not create folder: " + blocked +
-                                                       "\n" + "qlw_std(#):: Directory created: " + blocked + "\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "qlw_std(#): qlw_make_sure_directory_exists():: Making sub-folder: " + (folder / "file") + "\n" +
+                  "qlw_std(#): qlw_make_sure_directory_exists():: calling qlw_mkdir: " + blocked + "\n" +
+                  "qlw_std(#): qlw_make_sure_directory_exists():: *** ERROR: Could not create folder: " + blocked +
+                  "\n" + "qlw_std(#): qlw_make_sure_directory_exists():: Directory created: " + blocked + "\n");
 }
 
 TEST(MakeDirectoryTree, makes_all_folders_quietly) {
@@ -104,6 +106,8 @@ TEST(TemporaryDirectory, that_cannot_be_made_is_reported_and_replaced) {
     const with_environment temporary("TMPDIR", blocked);
     EXPECT_EQ(told([] { EXPECT_EQ(get_temporary_directory(), "/tmp/"); }),
               "Tessaline - Error: Cannot create temporary folder: " + blocked);
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "qlw_std(#): get_temporary_directory():: *** ERROR: Cannot create temporary folder: " + blocked + "\n");
 }
 
 TEST(KnownFolder, the_settings_folder_is_made_if_missing) {
@@ -149,8 +153,9 @@ TEST(ApplicationFolder, without_appl_in_either_place_is_reported_and_used_all_th
     EXPECT_EQ(told([&] { EXPECT_EQ(get_application_folder(), folder / "none"); }),
               "Tessaline - Error: Application appl folder not found: " + (folder / "none/appl"));
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#):: Application appl folder not found: " + (folder / "none/appl") + "\n" +
-                  "qlw_std(#):: *** ERROR: Application appl folder not found: " + (folder / "none/appl") + "\n");
+              "qlw_std(#): get_application_folder():: Application appl folder not found: " + (folder / "none/appl") +
+                  "\n" + "qlw_std(#): get_application_folder():: *** ERROR: Application appl folder not found: " +
+                  (folder / "none/appl") + "\n");
 }
 
 TEST(ResolveFilePath, an_absolute_name_changes_only_in_its_separators) {

@@ -9,6 +9,17 @@ using testing::IsEmpty;
 
 class RegistryAccess : public profile_fixture {};
 
+// What each way of reading reports at level 1.
+traced_line of_text(const std::string& message) {
+    return {"registry_access", "cl_registry_result::read_registry_entry", "REPORT: " + message};
+}
+traced_line of_int(const std::string& message) {
+    return {"registry_access", "get_int_from_registry", "REPORT: " + message};
+}
+traced_line of_double(const std::string& message) {
+    return {"registry_access", "get_double_from_registry", "REPORT: " + message};
+}
+
 TEST_F(RegistryAccess, a_text_is_read_by_its_path) {
     registry->put_text("HKLM\\SOFTWARE\\Maker\\Owner", "Ann");
     EXPECT_EQ(get_string_from_registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner", "nobody", false), "Ann");
@@ -40,10 +51,10 @@ TEST_F(RegistryAccess, a_path_without_a_backslash_gives_the_default_and_a_line) 
     EXPECT_EQ(get_string_from_registry("\\Owner", "nobody", true), "nobody");
     EXPECT_EQ(get_int_from_registry("Owner", 7, true), 7);
     EXPECT_EQ(get_double_from_registry("Owner", 7.5, true), 7.5);
-    EXPECT_THAT(reported(), ElementsAre("REPORT: Cannot parse registry key Owner - Key must contain a backslash",
-                                        "REPORT: Cannot parse registry key \\Owner - Key must contain a backslash",
-                                        "REPORT: Cannot parse registry key Owner - Key must contain a backslash",
-                                        "REPORT: Cannot parse registry key Owner - Key must contain a backslash"));
+    EXPECT_THAT(reported(), ElementsAre(of_text("Cannot parse registry key Owner - Key must contain a backslash"),
+                                        of_text("Cannot parse registry key \\Owner - Key must contain a backslash"),
+                                        of_int("Cannot parse registry key Owner - Key must contain a backslash"),
+                                        of_double("Cannot parse registry key Owner - Key must contain a backslash")));
 }
 
 TEST_F(RegistryAccess, a_path_without_a_key_between_hive_and_value_gives_the_same_line) {
@@ -51,17 +62,17 @@ TEST_F(RegistryAccess, a_path_without_a_key_between_hive_and_value_gives_the_sam
     EXPECT_EQ(get_int_from_registry("HKEY_LOCAL_MACHINE\\Owner", 7, true), 7);
     EXPECT_THAT(
         reported(),
-        ElementsAre("REPORT: Cannot parse registry key HKEY_LOCAL_MACHINE\\Owner - Key must contain a backslash",
-                    "REPORT: Cannot parse registry key HKEY_LOCAL_MACHINE\\Owner - Key must contain a backslash"));
+        ElementsAre(of_text("Cannot parse registry key HKEY_LOCAL_MACHINE\\Owner - Key must contain a backslash"),
+                    of_int("Cannot parse registry key HKEY_LOCAL_MACHINE\\Owner - Key must contain a backslash")));
 }
 
 TEST_F(RegistryAccess, any_third_hive_gives_the_default_and_a_line) {
     EXPECT_EQ(get_string_from_registry("HKEY_CLASSES_ROOT\\a\\b", "nobody", true), "nobody");
     EXPECT_EQ(get_int_from_registry("HKEY_USERS\\a\\b", 7, true), 7);
     EXPECT_EQ(get_double_from_registry("HKEY_USERS\\a\\b", 7.5, true), 7.5);
-    EXPECT_THAT(reported(), ElementsAre("REPORT: Registry key must start with HKEY: HKEY_CLASSES_ROOT\\a\\b",
-                                        "REPORT: Registry key must start with HKEY: HKEY_USERS\\a\\b",
-                                        "REPORT: Registry key must start with HKEY: HKEY_USERS\\a\\b"));
+    EXPECT_THAT(reported(), ElementsAre(of_text("Registry key must start with HKEY: HKEY_CLASSES_ROOT\\a\\b"),
+                                        of_int("Registry key must start with HKEY: HKEY_USERS\\a\\b"),
+                                        of_double("Registry key must start with HKEY: HKEY_USERS\\a\\b")));
 }
 
 TEST_F(RegistryAccess, a_text_under_the_32_bit_branch_of_the_local_machine_is_found_on_the_second_try) {
@@ -95,23 +106,26 @@ TEST_F(RegistryAccess, a_missing_key_is_told_once_for_each_try_unless_it_is_expe
     EXPECT_THAT(reported(), IsEmpty());
     get_string_from_registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner", "nobody", false);
     EXPECT_THAT(reported(),
-                ElementsAre("REPORT: Cannot locate registry entry: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner",
-                            "REPORT: Cannot locate registry entry: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner"));
+                ElementsAre(of_text("Cannot locate registry entry: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner"),
+                            of_text("Cannot locate registry entry: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner")));
     get_int_from_registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Count", 7, true);
     EXPECT_THAT(reported(), IsEmpty());
     get_int_from_registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Count", 7, false);
     get_double_from_registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Size", 7, false);
-    EXPECT_THAT(reported(),
-                ElementsAre("REPORT: Cannot locate registry entry: Count: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Count",
-                            "REPORT: Cannot locate registry entry: Size: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Size"));
+    EXPECT_THAT(
+        reported(),
+        ElementsAre(of_int("Cannot locate registry entry: Count: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Count"),
+                    of_double("Cannot locate registry entry: Size: HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Size")));
 }
 
 TEST_F(RegistryAccess, a_number_in_the_place_of_a_text_is_an_error) {
     registry->put_number("HKLM\\SOFTWARE\\Maker\\Owner", 4, std::int32_t{5});
     registry->put_text("HKLM\\SOFTWARE\\WOW6432Node\\Maker\\Owner", "Ann");
     EXPECT_EQ(get_string_from_registry("HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner", "nobody", true), "nobody");
-    EXPECT_THAT(reported(), ElementsAre("*** ERROR: Cannot parse registry key - Value is not a CString: "
-                                        "HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner (4)"));
+    EXPECT_THAT(reported(), ElementsAre(traced_line{"registry_access", "cl_registry_result::read_registry_entry",
+                                                    "*** ERROR: Cannot parse registry key - Value is not a CString: "
+                                                    "HKEY_LOCAL_MACHINE\\SOFTWARE\\Maker\\Owner (4)",
+                                                    in_a_dialog}));
 }
 
 TEST_F(RegistryAccess, a_text_that_exceeds_the_buffer_counts_as_missing) {
@@ -133,10 +147,10 @@ TEST_F(RegistryAccess, a_text_in_the_place_of_a_number_gives_the_default_and_a_l
     registry->put_text("HKCU\\Software\\Maker\\Count", "5");
     EXPECT_EQ(get_int_from_registry("HKEY_CURRENT_USER\\Software\\Maker\\Count", 7, true), 7);
     EXPECT_EQ(get_double_from_registry("HKEY_CURRENT_USER\\Software\\Maker\\Count", 7.5, true), 7.5);
-    EXPECT_THAT(reported(), ElementsAre("REPORT: Cannot parse registry key - Value is not a DWORD: Count: "
-                                        "HKEY_CURRENT_USER\\Software\\Maker\\Count (1)",
-                                        "REPORT: Cannot parse registry key - Value is not a Double: Count: "
-                                        "HKEY_CURRENT_USER\\Software\\Maker\\Count (1)"));
+    EXPECT_THAT(reported(), ElementsAre(of_int("Cannot parse registry key - Value is not a DWORD: Count: "
+                                               "HKEY_CURRENT_USER\\Software\\Maker\\Count (1)"),
+                                        of_double("Cannot parse registry key - Value is not a Double: Count: "
+                                                  "HKEY_CURRENT_USER\\Software\\Maker\\Count (1)")));
 }
 
 TEST_F(RegistryAccess, a_number_of_the_wrong_size_gives_the_default) {
@@ -150,8 +164,8 @@ TEST_F(RegistryAccess, an_exception_of_the_registry_gives_the_default_and_a_line
     registry->throws_on_read = true;
     EXPECT_EQ(get_int_from_registry("HKEY_CURRENT_USER\\Software\\Maker\\Count", 7, true), 7);
     EXPECT_EQ(get_double_from_registry("HKEY_CURRENT_USER\\Software\\Maker\\Size", 7.5, true), 7.5);
-    EXPECT_THAT(reported(), ElementsAre("REPORT: Registry error: Count: HKEY_CURRENT_USER\\Software\\Maker\\Count",
-                                        "REPORT: Registry error: Size: HKEY_CURRENT_USER\\Software\\Maker\\Size"));
+    EXPECT_THAT(reported(), ElementsAre(of_int("Registry error: Count: HKEY_CURRENT_USER\\Software\\Maker\\Count"),
+                                        of_double("Registry error: Size: HKEY_CURRENT_USER\\Software\\Maker\\Size")));
 }
 
 TEST_F(RegistryAccess, a_system_without_a_registry_answers_with_the_default) {

@@ -66,7 +66,8 @@ TEST(TextFile, a_line_beyond_the_longest_is_passed_over_with_a_trace) {
     for (std::string line; file.read_line(line);)
         found.push_back(line);
     EXPECT_EQ(found, (texts{"four", "", "end"}));
-    const std::string report = "stdio_file(#):: A line of more than 4 bytes is passed over: " + name + "\n";
+    const std::string report =
+        "stdio_file(#): cl_stdio_file::read_line():: A line of more than 4 bytes is passed over: " + name + "\n";
     EXPECT_EQ(trace.text_without_line_numbers(), report + report);
 }
 

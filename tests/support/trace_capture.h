@@ -1,6 +1,7 @@
 #pragma once
 
-// Enables tracing into a file for the length of a test and resets the trace state after it.
+// Enables tracing into a file for the length of a test, each line with the function that it stands under, and resets
+// the trace state after it.
 
 #include "qlw/trace_state.h"
 #include "tests/support/environment.h"
@@ -33,7 +34,8 @@ private:
     static void reset(bool enabled) {
         cl_trace_state& state = trace_state();
         state.trace_enabled = enabled;
-        state.show_function = state.show_time = state.show_memory = false;
+        state.show_function = enabled;
+        state.show_time = state.show_memory = false;
         state.log_to_file = state.log_always = state.error_list_active = false;
         state.log_file_is_new = true;
         state.log_notice_shown = state.writing_log = false;
@@ -49,4 +51,10 @@ private:
 
     temporary_folder folder;
     with_environment trace_file{"TESSALINE_TRACE", folder / "trace.txt"};
+};
+
+// One whose lines show what they show in every run: no function.
+class plain_trace_capture : public trace_capture {
+public:
+    plain_trace_capture() { trace_state().show_function = false; }
 };

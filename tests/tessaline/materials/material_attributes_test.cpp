@@ -354,7 +354,6 @@ TEST_F(MaterialAttributes, a_colour_stays_without_the_type_the_setting_or_any_tr
 
 TEST_F(MaterialAttributes, an_unknown_key_is_traced_in_each_pass) {
     say("What", "5");
-    trace_state().show_function = true;
     values_of("Red");
     EXPECT_THAT(
         trace.text_without_line_numbers(),

@@ -209,7 +209,6 @@ TEST_F(TextureExport, the_picture_of_a_distorted_side_is_the_straightened_one) {
 
 TEST_F(TextureExport, the_straightening_is_traced) {
     const trace_capture trace;
-    trace_state().show_function = true;
     exported_distorted(png, "wall.png");
     EXPECT_EQ(trace.text_without_line_numbers(),
               "texture_export(#): SketchUpReader::get_material_number():: txtr id: 1, is_front: 1\n"

@@ -371,8 +371,9 @@ TEST_F(AttributeOverrides, an_override_in_lumens_or_watts_fills_an_open_lamp_and
     store(placement_settings, {{"intensity_override_mode", "Watts"}, {"intensity_override_value", "60"}});
     EXPECT_EQ(light().intensity, 60);
     EXPECT_EQ(light().intensity_lumens, 1025);
-    EXPECT_EQ(trace.text_without_line_numbers(), "slp_oparms(#):: OVERRIDE LUMENS: 850.5\n"
-                                                 "slp_oparms(#):: OVERRIDE WATTS: 60\n");
+    EXPECT_EQ(trace.text_without_line_numbers(),
+              "slp_oparms(#): cl_slp_oparms::store_attributes_in_oparms():: OVERRIDE LUMENS: 850.5\n"
+              "slp_oparms(#): cl_slp_oparms::store_attributes_in_oparms():: OVERRIDE WATTS: 60\n");
 }
 
 TEST_F(AttributeOverrides, an_override_without_a_mode_is_in_watts) {
@@ -429,7 +430,6 @@ TEST_F(AttributeOverrides, a_decimal_colour_has_all_its_bits) {
 
 TEST_F(AttributeOverrides, the_colour_of_a_placement_is_traced) {
     const trace_capture trace;
-    trace_state().show_function = true;
     store(placement_settings, {{"light_color_override_value", "#0a1428"}});
     EXPECT_EQ(light().color, 0x0a1428);
     // Bytes from the low one up: 0x28, 0x14, 0x0a.

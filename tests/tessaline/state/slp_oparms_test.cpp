@@ -94,7 +94,6 @@ TEST(ParameterStack, popping_the_bottom_level_is_traced_and_leaves_it) {
     cl_oparms_array stack;
     cl_slp_oparms* const bottom = stack.push();
     bottom->layer_name = "Walls";
-    trace_state().show_function = true;
     testing::internal::CaptureStderr();
     EXPECT_EQ(stack.pop(), bottom);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "an error for developers, without a dialog";

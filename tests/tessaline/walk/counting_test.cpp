@@ -164,9 +164,11 @@ TEST_F(Counting, a_file_of_scattered_components_is_traced_with_every_name_that_i
     m.component("sand").square(10);
     body_of(m);
     const std::string text = trace.text_without_line_numbers();
-    const std::string found = "Skatter_insts.txt file was found\n";
-    const std::string compared = "stone <> pebble\nskatter_instances(#):: stone <> stone\n";
-    const std::size_t counted = text.find(found + "skatter_instances(#):: " + compared);
+    const std::string found =
+        "skatter_instances(#): SketchUpReader::CountEntities():: Skatter_insts.txt file was found\n";
+    const std::string compared = "skatter_instances(#): find_definition():: stone <> pebble\n"
+                                 "skatter_instances(#): find_definition():: stone <> stone\n";
+    const std::size_t counted = text.find(found + compared);
     ASSERT_NE(counted, std::string::npos) << text;
     EXPECT_NE(text.find(compared, counted + found.size() + compared.size()), std::string::npos); // the walk's turn
     EXPECT_EQ(text.find("stone <> sand"), std::string::npos);

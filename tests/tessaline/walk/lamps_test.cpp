@@ -131,7 +131,6 @@ TEST_F(Lamps, lamps_count_from_0) {
 TEST_F(Lamps, a_file_that_cannot_be_made_uses_up_its_number_without_a_word) {
     batch.make_folder("ZynBatch_Lights/light_0.txt");
     const trace_capture trace;
-    trace_state().show_function = true;
     cl_slp_light first = typed("rect");
     cl_slp_light second = typed("rect");
     EXPECT_EQ(add(first), 0);
@@ -146,7 +145,7 @@ TEST_F(Lamps, a_folder_that_cannot_be_made_is_not_reported) {
     const trace_capture trace;
     cl_slp_light light = typed("rect");
     EXPECT_EQ(add(light), 0);
-    EXPECT_EQ(trace.text_without_line_numbers(), "slp_oparms(#):: ilights_saved: 0\n");
+    EXPECT_EQ(trace.text_without_line_numbers(), "slp_oparms(#): cl_slp_light::add_lamp():: ilights_saved: 0\n");
 }
 
 // ---- types

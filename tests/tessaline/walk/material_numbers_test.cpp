@@ -452,7 +452,6 @@ TEST_F(MaterialNumbers, what_each_textured_side_asks_the_writer_is_traced) {
     square(textured(12, "Brick"));
     open_painted();
     const trace_capture trace;
-    trace_state().show_function = true;
     number_of(faces()[0]);
     EXPECT_EQ(trace.text_without_line_numbers(),
               "material_numbers(#): SketchUpReader::get_material_number():: txtr id: 1, is_front: 1\n"

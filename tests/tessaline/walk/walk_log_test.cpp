@@ -67,9 +67,9 @@ TEST_F(WalkLog, stays_empty_while_its_setting_is_off) {
 
 class WalkTrace : public run_fixture {
 protected:
-    // The traces of the steps of a walk, in their order, as they stand behind file and line: one of level 0 has nothing
-    // in front of its text. The model holds two images and an edge, one of the images and no edge in a group, and a
-    // spot whose beams are walked on their own.
+    // The traces of the steps of a walk, in their order; one of level 0 has nothing in front of its text. The model
+    // holds two images and an edge, one of the images and no edge in a group, and a spot whose beams are walked on
+    // their own.
     std::vector<std::string> steps(int edge_lines) {
         set_global_int("ivl_edge_lines", edge_lines);
         model_builder m;
@@ -85,21 +85,22 @@ protected:
         std::istringstream text(trace.text_without_line_numbers());
         std::vector<std::string> found;
         for (std::string line; std::getline(text, line);)
-            if (const std::size_t at = line.find(":: ");
-                at != std::string::npos && line.find("before ") != std::string::npos)
-                found.push_back(line.substr(at + 3));
+            if (line.find("before ") != std::string::npos)
+                found.push_back(line);
         return found;
     }
+
+    static constexpr const char* image = "traversal(#): SketchUpReader::ProcessEntities():: before ProcessImage";
+    static constexpr const char* edges = "traversal(#): SketchUpReader::ProcessEntities():: before Edge Lines";
 };
 
 TEST_F(WalkTrace, tells_each_image_and_no_edges_while_they_are_off) {
-    EXPECT_THAT(steps(0), testing::ElementsAre("before ProcessImage", "before ProcessImage", "before ProcessImage"));
+    EXPECT_THAT(steps(0), testing::ElementsAre(image, image, image));
 }
 
 // The group's list, the spot's first walk, the model's own list.
 TEST_F(WalkTrace, tells_the_edges_of_each_list_behind_its_images) {
-    EXPECT_THAT(steps(1), testing::ElementsAre("before ProcessImage", "before Edge Lines", "before ProcessImage",
-                                               "before Edge Lines", "before ProcessImage", "before Edge Lines"));
+    EXPECT_THAT(steps(1), testing::ElementsAre(image, edges, image, edges, image, edges));
 }
 
 } // namespace
