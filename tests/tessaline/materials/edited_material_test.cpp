@@ -151,6 +151,10 @@ TEST_F(EditedMaterial, a_file_that_cannot_be_made_is_reported) {
     ASSERT_EQ(desktop.shown.size(), 1U);
     EXPECT_THAT(desktop.shown[0].text,
                 testing::StartsWith("Cannot save edited Ornmaterial: " + folder / "Brick.OrnMaterial"));
+    EXPECT_EQ(
+        trace.text_without_line_numbers(),
+        "edited_material(#): SketchUpReader::get_material_number():: *** ERROR: Cannot save edited Ornmaterial: " +
+            folder / "Brick.OrnMaterial" + "\n");
 }
 
 TEST_F(EditedMaterial, a_name_that_leads_out_of_the_folder_makes_and_deletes_no_file) {

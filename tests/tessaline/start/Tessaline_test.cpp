@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "tessaline/state/application.h"
+#include "tests/support/answering_desktop.h"
 
 namespace {
 
@@ -89,8 +90,13 @@ TEST_F(StartUp, a_model_word_of_another_name_removes_its_own_input) {
 
 TEST_F(StartUp, a_missing_input_is_reported_and_nothing_is_written_or_deleted) {
     batch.write("out.txt", "old");
+    const trace_capture trace;
     const std::string told = told_by("tessaline " + batch / "missing.skp " + batch / "out.txt");
     EXPECT_THAT(told, testing::HasSubstr("Could not find input filename " + batch / "missing.skp."));
+    EXPECT_THAT(trace.text_without_line_numbers(),
+                testing::EndsWith("Tessaline(#): CTessalineApp::InitInstance():: *** ERROR: Could not find input "
+                                  "filename " +
+                                  batch / "missing.skp" + ".\n"));
     EXPECT_EQ(batch.read("out.txt"), "old");
 }
 
@@ -116,9 +122,12 @@ TEST_F(StartUp, a_missing_model_as_one_unquoted_word_deletes_the_stream_beside_i
 
 TEST_F(StartUp, an_unknown_output_is_reported) {
     theApp.input_path = saved_model("house.skp");
-    trace_capture trace;
+    const trace_capture trace;
+    answering_desktop desktop;
     EXPECT_FALSE(theApp.paths_are_usable());
-    EXPECT_THAT(trace.text(), testing::HasSubstr("Could not parse output filename passed to SKP conversion routine."));
+    EXPECT_EQ(desktop.shown.size(), 1u);
+    EXPECT_EQ(trace.text_without_line_numbers(), "Tessaline(#): CTessalineApp::InitInstance():: *** ERROR: Could not "
+                                                 "parse output filename passed to SKP conversion routine.\n");
 }
 
 TEST_F(StartUp, arguments_without_an_input_path_print_the_usage_and_delete_nothing) {

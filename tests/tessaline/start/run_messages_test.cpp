@@ -109,12 +109,30 @@ TEST_F(RunMessages, an_unwritable_batch_folder_costs_the_ground_plane_and_the_op
     add_ground_plane(m);
     save(m);
     batch.write("option_globals.txt", "bvl_ground_plane;1\n");
+    desktop.answers = {answering_desktop::ok_and_silence()};
     EXPECT_THAT(
         messages_of_run_without_rights(),
         ElementsAre("Cannot save Gound Plane Ornmaterial: " + batch / "ZynBatch_Materials/Zyn_Ground_Plane.OrnMaterial",
                     "Options Global FIle not found"));
     EXPECT_FALSE(batch.has("batch_file.txt"));
     EXPECT_EQ(batch.read("option_globals.txt"), "bvl_ground_plane;1\n");
+    // Without rights there is no trace either; silencing the place tells which it is.
+    ASSERT_EQ(trace_state().suppressed_sources.size(), 1u);
+    EXPECT_EQ(trace_state().suppressed_sources[0].source_file, "model_settings");
+    EXPECT_EQ(trace_state().suppressed_sources[0].function, "SketchUpReader::ReadSkpFile");
+}
+
+TEST_F(RunMessages, a_model_that_asks_for_what_cannot_be_ends_the_work_with_one_message) {
+    model_builder m;
+    const sketchup::index edited = m.material("Edited", {200, 100, 50, 255});
+    m.attribute({sketchup::entity_kind::material, edited}, "Vellane_material", "ORNZyn Material Settings_chunk-1",
+                sketchup::text("[ORNZyn"));
+    m.element(m.root().square(10)).material = edited;
+    save(m);
+    const std::string message = "a chunk of an edited material has a number below 0";
+    EXPECT_THAT(messages_of_run(), ElementsAre(message));
+    EXPECT_THAT(capture.text_without_line_numbers(),
+                testing::EndsWith("Tessaline(#): CTessalineApp::run_conversion():: *** ERROR: " + message + "\n"));
 }
 
 TEST_F(RunMessages, a_fatal_report_ends_the_work_and_leaves_the_stream_as_it_stands) {

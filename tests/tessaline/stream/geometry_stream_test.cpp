@@ -1,5 +1,7 @@
 #include "tessaline/stream/geometry_stream.h"
 
+#include "tests/support/answering_desktop.h"
+#include "tests/support/trace_capture.h"
 #include "tests/tessaline/stream_text.h"
 
 #include <gtest/gtest.h>
@@ -279,7 +281,13 @@ TEST(GeometryStream, a_full_disk_ends_the_stream_and_nothing_else) {
     stream.open(full_device.c_str(), "Tessaline");
     if (!stream.is_open())
         GTEST_SKIP() << "no device that refuses data here";
+    const trace_capture trace;
+    answering_desktop desktop;
     write_one_of_each(stream);
     stream.close();
     EXPECT_FALSE(stream.is_open());
+    EXPECT_EQ(trace.text_without_line_numbers(),
+              "geometry_stream(#): geometry_stream::send():: The geometry stream takes no more data; what follows is "
+              "dropped\n");
+    EXPECT_TRUE(desktop.shown.empty());
 }
