@@ -100,7 +100,7 @@ bool CTessalineApp::ask_for_missing_paths() {
             return false;
         input_path = platform::absolute_name(*chosen);
     }
-    if (output_path.empty()) {
+    if (output_path.empty() && platform::can_ask_for_file()) { // else the caller says what is wrong
         is_interactive = true;
         const auto chosen = ask_for_stream(input_path);
         if (!chosen)

@@ -34,7 +34,7 @@ public:
     void find_program_folder();
     // Fills the paths and switches. An old stream at a path that was derived from the input is deleted.
     void settle_paths_from(const std::string& command_line);
-    // Asks for what is still missing. False if the user gave none.
+    // Asks for what is still missing; a stream only where somebody can be asked. False if the user gave none.
     bool ask_for_missing_paths();
     // False, with a report, if the input does not exist or the output is not known.
     bool paths_are_usable() const;

@@ -4,7 +4,9 @@
 
 #include "platform/platform.h"
 #include "tessaline/state/application.h"
+#include "tests/run_program.h"
 #include "tests/support/answering_desktop.h"
+#include "tests/support/terminal_run.h"
 
 namespace {
 
@@ -104,6 +106,34 @@ TEST_F(StartUp, a_missing_model_in_quotes_leaves_the_stream_beside_it) {
     batch.write("batch_file.txt", "old");
     told_by("tessaline \"" + batch / "geometry.qlm" + "\"");
     EXPECT_EQ(batch.read("batch_file.txt"), "old");
+}
+
+TEST_F(StartUp, a_missing_model_in_quotes_is_told_of_where_nobody_can_be_asked) {
+    const std::string missing = batch / "a b/missing.qlm"; // holds a blank, so that the line has it in quotation marks
+    const program_result run =
+        run_program(shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(missing) + " </dev/null 2>&1");
+    EXPECT_THAT(run.output, testing::HasSubstr("Could not find input filename " + missing + ".\n"));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_FALSE(batch.has("a b"));
+}
+
+TEST_F(StartUp, a_missing_model_in_quotes_is_told_of_behind_the_question_for_the_stream) {
+    const std::string missing = batch / "a b/missing.qlm";
+    const std::string command = shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(missing);
+    const std::vector<std::string> rows = rows_left_on_terminal(command, batch / "out.xml\n");
+    const std::string shown = testing::PrintToString(rows);
+    const std::size_t question = shown.find("Tessaline, Debug Mode - to create SKP XML file [");
+    const std::size_t message = shown.find("Could not find input filename ");
+    EXPECT_LT(question, message) << shown;
+    EXPECT_NE(message, std::string::npos) << shown;
+}
+
+TEST_F(StartUp, a_dismissed_question_ends_the_run_without_a_word) {
+    const std::string command = shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(batch / "a b/missing.qlm");
+    const std::string end_of_input = "\x04";
+    const std::string shown = testing::PrintToString(rows_left_on_terminal(command, end_of_input));
+    EXPECT_THAT(shown, testing::HasSubstr("Tessaline, Debug Mode - to create SKP XML file ["));
+    EXPECT_THAT(shown, testing::Not(testing::HasSubstr("Could not find")));
 }
 
 TEST_F(StartUp, a_missing_model_with_its_stream_as_the_second_path_leaves_that) {
