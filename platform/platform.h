@@ -111,8 +111,9 @@ error_dialog_answer show_error_dialog(const error_dialog_view& view);
 
 // ---- the progress window (progress.cpp)
 
-// The one window of a run. POSIX: a bar on standard error that redraws in place if that is a terminal; otherwise its
-// last state is written as one line when the window closes.
+// The one window of a run. POSIX: a bar on standard error. On a terminal it is redrawn in place, gives its place to
+// each message_box and debug_output, and is gone when the window closes; otherwise its last state is written as one
+// line then.
 class progress_window {
 public:
     virtual ~progress_window() = default;

@@ -33,6 +33,14 @@ void write_standard(standard_stream stream, std::string_view text) {
     }
 }
 
+// For whole lines. A progress bar may stand on the terminal, with the cursor at its start.
+void write_over_progress_bar(std::string_view text) {
+    std::string bytes;
+    if (is_terminal(standard_stream::error))
+        bytes = "\x1b[K"; // erases from the cursor to the end of the line
+    write_standard_error(bytes.append(text));
+}
+
 } // namespace
 
 bool is_terminal(standard_stream stream) {
@@ -52,7 +60,7 @@ void debug_output(std::string_view text) {
     if (!target || target->empty())
         return;
     if (*target == "-") {
-        write_standard_error(text);
+        write_over_progress_bar(text);
         return;
     }
     file output;
@@ -72,7 +80,7 @@ void message_box(std::string_view title, std::string_view text) {
     message += text;
     if (message.empty() || message.back() != '\n')
         message += '\n';
-    write_standard_error(message);
+    write_over_progress_bar(message);
 }
 
 } // namespace platform

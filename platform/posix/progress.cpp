@@ -13,7 +13,7 @@ progress_bar::progress_bar(std::string_view caption, sink write_text, bool redra
 }
 
 progress_bar::~progress_bar() {
-    write(redraws ? std::string("\n") : line() + "\n");
+    write(redraws ? std::string("\r\x1b[K") : line() + "\n");
 }
 
 void progress_bar::set_title(std::string_view new_title) {
@@ -48,8 +48,10 @@ std::string progress_bar::line() const {
 }
 
 void progress_bar::draw() const {
+    // The terminal cuts what is too long for it; a bar of two lines could not be taken back. The cursor goes back to
+    // the start of the line, so that a message can take the bar's place.
     if (redraws)
-        write("\r" + line() + "\x1b[K"); // clears what a longer line left behind
+        write("\r\x1b[?7l" + line() + "\x1b[K\x1b[?7h\r");
 }
 
 bool run_with_progress_window(std::string_view caption, const std::function<void(progress_window&)>& work) {

@@ -14,12 +14,12 @@ class progress_bar : public progress_window {
 public:
     using sink = std::function<void(std::string_view)>;
 
-    // write: where the text goes. redraws: whether a carriage return takes the cursor back to the start of the line, as
-    // on a terminal. If not, the last state is written once, when the bar is destroyed.
+    // write: where the text goes. redraws: whether that is a terminal, where the bar is drawn in place, with the cursor
+    // at its start, and gone when it is destroyed. If not, the last state is written once, when the bar is destroyed.
     progress_bar(std::string_view caption, sink write, bool redraws);
     progress_bar(const progress_bar&) = delete;
     progress_bar& operator=(const progress_bar&) = delete;
-    ~progress_bar() override; // ends the line
+    ~progress_bar() override;
 
     void set_title(std::string_view title) override;
     void set_percent(int percent) override;
