@@ -2,14 +2,15 @@
 // an object with a destructor: so every function that sets a jump target holds plain values only.
 
 #include "image/codecs.h"
+#include "image/picture_rows.h"
 
 #include <cstdio>
-#include <cstdlib>
-#include <limits>
 
 #include <jpeglib.h>
 
+#include <array>
 #include <csetjmp>
+#include <utility>
 
 namespace image {
 namespace {
@@ -86,67 +87,135 @@ void read_row_of_inks(jpeg_decompress_struct& info, std::uint8_t* inks, std::uin
     }
 }
 
-void read_rows(jpeg_decompress_struct& info, picture& target, byte_list& inks) {
-    for (std::uint32_t y = 0; y < target.height(); ++y) {
-        std::uint8_t* row = target.row(y);
-        if (info.output_components == 4)
-            read_row_of_inks(info, inks.data(), row);
-        else
-            jpeg_read_scanlines(&info, &row, 1);
-    }
-}
-
-bool read_pixels(jpeg_reader& reader, picture& target, byte_list& inks) {
+bool begin_reading(jpeg_reader& reader) {
     if (setjmp(reader.errors.target))
         return false;
     const bool has_inks = reader.info.num_components == 4;
     reader.info.out_color_space = has_inks ? JCS_CMYK : JCS_EXT_BGR;
-    if (!jpeg_start_decompress(&reader.info) || reader.info.output_components != (has_inks ? 4 : 3))
+    return jpeg_start_decompress(&reader.info) && reader.info.output_components == (has_inks ? 4 : 3);
+}
+
+// inks: room for a row of them, if the picture has such.
+bool read_row(jpeg_reader& reader, std::uint8_t* row, std::uint8_t* inks) {
+    if (setjmp(reader.errors.target))
         return false;
-    read_rows(reader.info, target, inks);
+    if (reader.info.output_components == 4)
+        read_row_of_inks(reader.info, inks, row);
+    else
+        jpeg_read_scanlines(&reader.info, &row, 1);
     return true;
 }
+
+class jpeg_row_source final : public row_source {
+public:
+    explicit jpeg_row_source(byte_view file) : has_header(read_header(reader, file)) {}
+
+    // Until this is called nothing is asked for that grows with the picture.
+    bool begin() {
+        if (!has_header || !begin_reading(reader))
+            return false;
+        inks.resize(reader.info.output_components == 4 ? std::size_t{4} * reader.info.output_width : 0);
+        return true;
+    }
+    // False if all of it has to be unpacked before the first row can be.
+    bool comes_in_rows() { return has_header && !jpeg_has_multiple_scans(&reader.info); }
+    picture_extent extent() const override { return has_header ? extent_of(reader) : picture_extent{}; }
+    bool next_row(std::uint8_t* row) override { return read_row(reader, row, inks.data()); }
+
+private:
+    jpeg_reader reader;
+    bool has_header;
+    byte_list inks;
+};
 
 struct jpeg_writer {
     jpeg_writer() { info.err = prepare(errors); }
     jpeg_writer(const jpeg_writer&) = delete;
     jpeg_writer& operator=(const jpeg_writer&) = delete;
-    ~jpeg_writer() {
-        jpeg_destroy_compress(&info);
-        std::free(bytes); // NOLINT(cppcoreguidelines-owning-memory): the library allocates it so
-    }
+    ~jpeg_writer() { jpeg_destroy_compress(&info); }
 
     jpeg_compress_struct info{};
     jumping_errors errors{};
-    unsigned char* bytes = nullptr; // made by the library with malloc
-    unsigned long size = 0;
+    jpeg_destination_mgr target{};
+    std::array<JOCTET, 1U << 16U> room{};
+    const byte_sink* out = nullptr;
 };
 
-void write_rows(jpeg_compress_struct& info, const picture& source) {
-    for (std::uint32_t y = 0; y < source.height(); ++y) {
-        auto* row = const_cast<std::uint8_t*>(source.row(y)); // the library's signature; it only reads
-        jpeg_write_scanlines(&info, &row, 1);
-    }
+jpeg_writer& writer_of(j_compress_ptr info) {
+    return *static_cast<jpeg_writer*>(info->client_data);
 }
 
-bool write_file(jpeg_writer& writer, const picture& source) {
+void make_room(j_compress_ptr info) {
+    jpeg_writer& writer = writer_of(info);
+    writer.target.next_output_byte = writer.room.data();
+    writer.target.free_in_buffer = writer.room.size();
+}
+
+void hand_on(j_compress_ptr info, std::size_t count) {
+    const jpeg_writer& writer = writer_of(info);
+    if (!is_taken(*writer.out, {writer.room.data(), count}))
+        jump_out(reinterpret_cast<j_common_ptr>(info));
+}
+
+boolean hand_on_full_room(j_compress_ptr info) {
+    hand_on(info, writer_of(info).room.size()); // all of it, whatever the library has set free_in_buffer to
+    make_room(info);
+    return TRUE;
+}
+
+void hand_on_rest(j_compress_ptr info) {
+    const jpeg_writer& writer = writer_of(info);
+    hand_on(info, writer.room.size() - writer.target.free_in_buffer);
+}
+
+// is_optimal: the shortest codes for this very picture, which is kept in memory until they are known.
+bool begin_file(jpeg_writer& writer, const picture_extent& extent, bool is_optimal) {
     if (setjmp(writer.errors.target))
         return false;
     jpeg_create_compress(&writer.info);
-    jpeg_mem_dest(&writer.info, &writer.bytes, &writer.size);
-    writer.info.image_width = source.width();
-    writer.info.image_height = source.height();
-    writer.info.input_components = source.has_alpha() ? 4 : 3;
-    writer.info.in_color_space = source.has_alpha() ? JCS_EXT_BGRX : JCS_EXT_BGR;
+    writer.info.client_data = &writer;
+    writer.target.init_destination = make_room;
+    writer.target.empty_output_buffer = hand_on_full_room;
+    writer.target.term_destination = hand_on_rest;
+    writer.info.dest = &writer.target;
+    const bool has_alpha = extent.bits_per_pixel == 32;
+    writer.info.image_width = extent.width;
+    writer.info.image_height = extent.height;
+    writer.info.input_components = has_alpha ? 4 : 3;
+    writer.info.in_color_space = has_alpha ? JCS_EXT_BGRX : JCS_EXT_BGR;
     jpeg_set_defaults(&writer.info);
     jpeg_set_quality(&writer.info, quality, TRUE);
     writer.info.comp_info[0].h_samp_factor = writer.info.comp_info[0].v_samp_factor = 1;
-    writer.info.optimize_coding = TRUE;
+    writer.info.optimize_coding = is_optimal ? TRUE : FALSE;
     jpeg_start_compress(&writer.info, TRUE);
-    write_rows(writer.info, source);
+    return true;
+}
+
+bool write_row(jpeg_writer& writer, const std::uint8_t* row) {
+    if (setjmp(writer.errors.target))
+        return false;
+    auto* pixels = const_cast<std::uint8_t*>(row); // the library's signature; it only reads
+    return jpeg_write_scanlines(&writer.info, &pixels, 1) == 1;
+}
+
+bool end_file(jpeg_writer& writer) {
+    if (setjmp(writer.errors.target))
+        return false;
     jpeg_finish_compress(&writer.info);
     return true;
 }
+
+class jpeg_row_sink final : public row_sink {
+public:
+    explicit jpeg_row_sink(const byte_sink& out) { writer.out = &out; }
+
+    bool begin(const picture_extent& extent, bool is_optimal) { return begin_file(writer, extent, is_optimal); }
+    bool put_row(const std::uint8_t* row) override { return write_row(writer, row); }
+    bool end() override { return end_file(writer); }
+
+private:
+    jpeg_writer writer;
+};
 
 } // namespace
 
@@ -157,22 +226,32 @@ std::optional<picture_extent> jpeg_extent(byte_view file) {
     return extent_of(reader);
 }
 
+std::unique_ptr<row_source> jpeg_rows(byte_view file) {
+    auto rows = std::make_unique<jpeg_row_source>(file);
+    return rows->comes_in_rows() && rows->begin() ? std::move(rows) : nullptr;
+}
+
 std::optional<picture> decode_jpeg(byte_view file, std::uint64_t limit) {
-    jpeg_reader reader;
-    if (!read_header(reader, file))
+    jpeg_row_source rows(file);
+    std::optional<picture> decoded = picture::make(rows.extent(), limit);
+    if (!decoded || !rows.begin())
         return std::nullopt;
-    std::optional<picture> decoded = picture::make(extent_of(reader), limit);
-    byte_list inks(decoded && reader.info.num_components == 4 ? decoded->width() * std::size_t{4} : 0);
-    if (!decoded || !read_pixels(reader, *decoded, inks))
-        return std::nullopt;
+    for (std::uint32_t y = 0; y < decoded->height(); ++y)
+        if (!rows.next_row(decoded->row(y)))
+            return std::nullopt;
     return decoded;
 }
 
+std::unique_ptr<row_sink> jpeg_file(const picture_extent& extent, const byte_sink& out) {
+    auto file = std::make_unique<jpeg_row_sink>(out);
+    return file->begin(extent, false) ? std::move(file) : nullptr;
+}
+
 byte_list encode_jpeg(const picture& source) {
-    jpeg_writer writer;
-    if (!write_file(writer, source))
-        return {};
-    return {writer.bytes, writer.bytes + writer.size};
+    byte_list file;
+    const byte_sink append = appending_to(file);
+    jpeg_row_sink sink(append);
+    return sink.begin(source.extent(), true) && put_picture(sink, source) ? file : byte_list();
 }
 
 } // namespace image

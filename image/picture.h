@@ -9,8 +9,8 @@
 
 namespace image {
 
-// The most pixels that a picture may have: 8192 × 8192, which take 256 MiB at 32 bits. A file that announces more is
-// refused before memory is asked for.
+// The most pixels that a picture in memory may have: 8192 × 8192, which take 256 MiB at 32 bits. A file that announces
+// more is refused before memory is asked for; reencode_picture.h says what can be done with it.
 inline constexpr std::uint64_t most_pixels = 0x4000000;
 
 // What a picture file announces about itself.

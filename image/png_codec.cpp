@@ -3,12 +3,13 @@
 // lives in its caller.
 
 #include "image/codecs.h"
+#include "image/picture_rows.h"
 
 #include <png.h>
 
 #include <csetjmp>
 #include <cstring>
-#include <new>
+#include <utility>
 
 namespace image {
 namespace {
@@ -99,16 +100,37 @@ bool read_pixels(png_structp png, picture& target) {
     return true;
 }
 
-void append_bytes(png_structp png, png_bytep bytes, std::size_t count) {
-    auto& file = *static_cast<byte_list*>(png_get_io_ptr(png));
-    bool has_room = true;
-    try {
-        file.insert(file.end(), bytes, bytes + count);
-    } catch (const std::bad_alloc&) {
-        has_room = false;
+// One row of a picture that comes in a single pass; behind the last one also what ends the file.
+bool read_row(png_structp png, std::uint8_t* row, bool is_last) {
+    if (setjmp(png_jmpbuf(png)))
+        return false;
+    png_read_row(png, row, nullptr);
+    if (is_last)
+        png_read_end(png, nullptr);
+    return true;
+}
+
+class png_row_source final : public row_source {
+public:
+    explicit png_row_source(byte_view file) : reader(file) {
+        if (reader.info && read_header(reader.png, reader.info) &&
+            png_get_interlace_type(reader.png, reader.info) == PNG_INTERLACE_NONE)
+            size = extent_of(reader);
     }
-    if (!has_room)
-        png_error(png, "no memory");
+
+    bool is_sound() const { return size.height > 0; }
+    picture_extent extent() const override { return size; }
+    bool next_row(std::uint8_t* row) override { return read_row(reader.png, row, ++rows_asked == size.height); }
+
+private:
+    png_reader reader;
+    picture_extent size;
+    std::uint32_t rows_asked = 0;
+};
+
+void hand_on(png_structp png, png_bytep bytes, std::size_t count) {
+    if (!is_taken(*static_cast<const byte_sink*>(png_get_io_ptr(png)), {bytes, count}))
+        png_error(png, "not taken");
 }
 
 void flush_nothing(png_structp /*png*/) {}
@@ -126,25 +148,46 @@ public:
     png_infop info;
 };
 
-void write_rows(png_structp png, const picture& source) {
-    for (std::uint32_t y = 0; y < source.height(); ++y)
-        png_write_row(png, source.row(y));
-}
-
-bool write_file(png_structp png, png_infop info, const picture& source, byte_list& file) {
+bool begin_file(png_structp png, png_infop info, const picture_extent& extent, const byte_sink* out) {
     if (setjmp(png_jmpbuf(png)))
         return false;
-    png_set_write_fn(png, &file, append_bytes, flush_nothing);
+    png_set_write_fn(png, const_cast<byte_sink*>(out), hand_on, flush_nothing); // handed back as it is
     png_set_compression_level(png, compression_level);
-    png_set_IHDR(png, info, source.width(), source.height(), 8,
-                 source.has_alpha() ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
+    png_set_IHDR(png, info, extent.width, extent.height, 8,
+                 extent.bits_per_pixel == 32 ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_write_info(png, info);
     png_set_bgr(png);
-    write_rows(png, source);
+    return true;
+}
+
+bool write_row(png_structp png, const std::uint8_t* row) {
+    if (setjmp(png_jmpbuf(png)))
+        return false;
+    png_write_row(png, row);
+    return true;
+}
+
+bool end_file(png_structp png, png_infop info) {
+    if (setjmp(png_jmpbuf(png)))
+        return false;
     png_write_end(png, info);
     return true;
 }
+
+class png_row_sink final : public row_sink {
+public:
+    png_row_sink(const picture_extent& extent, const byte_sink& out)
+        : begun(writer.info && begin_file(writer.png, writer.info, extent, &out)) {}
+
+    bool has_begun() const { return begun; }
+    bool put_row(const std::uint8_t* row) override { return write_row(writer.png, row); }
+    bool end() override { return end_file(writer.png, writer.info); }
+
+private:
+    png_writer writer;
+    bool begun;
+};
 
 } // namespace
 
@@ -165,12 +208,21 @@ std::optional<picture> decode_png(byte_view file, std::uint64_t limit) {
     return decoded;
 }
 
+std::unique_ptr<row_source> png_rows(byte_view file) {
+    auto rows = std::make_unique<png_row_source>(file);
+    return rows->is_sound() ? std::move(rows) : nullptr;
+}
+
+std::unique_ptr<row_sink> png_file(const picture_extent& extent, const byte_sink& out) {
+    auto file = std::make_unique<png_row_sink>(extent, out);
+    return file->has_begun() ? std::move(file) : nullptr;
+}
+
 byte_list encode_png(const picture& source) {
     byte_list file;
-    const png_writer writer;
-    if (!writer.info || !write_file(writer.png, writer.info, source, file))
-        return {};
-    return file;
+    const byte_sink append = appending_to(file);
+    const std::unique_ptr<row_sink> sink = png_file(source.extent(), append);
+    return sink && put_picture(*sink, source) ? file : byte_list();
 }
 
 } // namespace image

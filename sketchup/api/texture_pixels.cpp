@@ -2,6 +2,7 @@
 
 #include "image/decode_picture.h"
 #include "image/encode_picture.h"
+#include "image/reencode_picture.h"
 #include "sketchup/api/calls.h"
 #include "sketchup/api/provider_state.h"
 #include "sketchup/model/colorize.h"
@@ -33,6 +34,10 @@ const material* material_of(const texture& t) {
 bool is_shown_as_stored(const texture& t) {
     const material* m = material_of(t);
     return !m || !is_recolored(*m);
+}
+
+bool is_beyond_memory(const std::optional<image::picture_extent>& extent) {
+    return extent && std::uint64_t{extent->width} * extent->height > image::most_pixels;
 }
 
 std::optional<image::picture> shown_pixels(const texture& t, const std::vector<std::uint8_t>& stored) {
@@ -94,6 +99,8 @@ bool write_texture(const texture& t, const std::string& path) {
     const std::vector<std::uint8_t> stored = stored_bytes(t);
     if (image::format_of_bytes(stored) == wanted && is_shown_as_stored(t))
         return image::picture_size(stored) && image::write_picture_file(path, stored);
+    if (is_beyond_memory(image::picture_size(stored)))
+        return is_shown_as_stored(t) && image::write_reencoded(path, stored);
     const std::optional<image::picture> shown = shown_pixels(t, stored);
     return shown && image::write_picture(path, *shown);
 }

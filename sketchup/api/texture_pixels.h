@@ -30,7 +30,8 @@ std::optional<image::picture> shown_pixels(const texture& t);
 const image::picture_pyramid* kept_pixels(const texture& t);
 
 // Writes the picture as shown, in the format of the name's extension. Stored bytes that have this format already, and
-// that no material recolours, are written unchanged: nothing is lost, and nothing has to be decoded.
+// that no material recolours, are written unchanged: nothing is lost, nothing has to be decoded, and any size will do.
+// What is too large for memory can otherwise be written only as image::write_reencoded does, and never recoloured.
 // False, and no file is left, if there is no sound picture or it cannot be written.
 bool write_texture(const texture& t, const std::string& path);
 

@@ -4,6 +4,7 @@
 #include "image/picture.h"
 #include "qlw/fast_image.h"
 #include "qlw/letter_case.h"
+#include "qlw/qlw_trace.h"
 #include "tessaline/files/paths.h"
 #include "tessaline/materials/material_file.h"
 #include "tessaline/materials/material_folders.h"
@@ -66,18 +67,27 @@ struct raw_pixels {
         constexpr std::size_t bytes_of_filled_part = 4;
         return (width * bits_per_pixel + bits_of_filled_part - 1) / bits_of_filled_part * bytes_of_filled_part;
     }
+    bool is_none() const { return width == 0 || height == 0; }
+    // More than a picture in memory may have, or wider or higher than a texture may be made from pixels.
+    bool are_too_many() const {
+        constexpr std::size_t longest_side = 65535;
+        return !is_none() && (width > image::most_pixels / height || std::max(width, height) > longest_side);
+    }
 };
 
-// Without bytes if the image has no pixels, or more than any picture here may have, and if they cannot be read.
-raw_pixels pixels_of(SUImageRef image, std::size_t data_size, std::size_t bits_per_pixel) {
-    constexpr std::uint64_t most_bytes = image::most_pixels * 4;
+// Without bytes as yet.
+raw_pixels announced_pixels(SUImageRef image, std::size_t bits_per_pixel) {
     raw_pixels pixels;
     pixels.bits_per_pixel = bits_per_pixel;
     SUImageGetPixelDimensions(image, &pixels.width, &pixels.height);
-    if (pixels.width == 0 || pixels.height == 0 || pixels.width > image::most_pixels / pixels.height)
-        return pixels;
+    return pixels;
+}
+
+// Without bytes if the image has no pixels, and if they cannot be read.
+raw_pixels pixels_of(SUImageRef image, raw_pixels pixels, std::size_t data_size) {
+    constexpr std::uint64_t most_bytes = image::most_pixels * 4;
     // Less than all rows would be read past its end.
-    if (data_size < pixels.bytes_per_row() * pixels.height || data_size > most_bytes)
+    if (pixels.is_none() || data_size < pixels.bytes_per_row() * pixels.height || data_size > most_bytes)
         return pixels;
     pixels.bytes.resize(data_size);
     if (SUImageGetData(image, data_size, pixels.bytes.data()) != SU_ERROR_NONE)
@@ -122,9 +132,28 @@ void write_rebuilt(const raw_pixels& pixels, const std::string& path) {
     rebuilt.save(path);
 }
 
+// The image's picture in the hands of the host, which need not unpack it where the file that the model holds will do.
+class stored_picture {
+public:
+    explicit stored_picture(SUImageRef image) {
+        SUTextureWriterCreate(&writer);
+        SUTextureWriterLoadEntity(writer, SUImageToEntity(image), &id);
+    }
+    stored_picture(const stored_picture&) = delete;
+    stored_picture& operator=(const stored_picture&) = delete;
+    ~stored_picture() { SUTextureWriterRelease(&writer); }
+
+    void write(const std::string& path) const { SUTextureWriterWriteTexture(writer, id, path.c_str(), false); }
+
+private:
+    SUTextureWriterRef writer = SU_INVALID; // not that of the run, whose numbers stand in file names
+    long id = 0;
+};
+
 // Any other is written by the host: under its name, or else under what remains of it when all that a file name might
-// not bear is dropped.
-void write_by_host(image_material& made, const made_texture& texture) {
+// not bear is dropped. Picture: made_texture or stored_picture.
+template<class Picture>
+void write_by_host(image_material& made, const Picture& texture) {
     texture.write(made.texture_path);
     if (is_file(made.texture_path))
         return;
@@ -144,16 +173,34 @@ void write_by_host(image_material& made, const made_texture& texture) {
     }
 }
 
-// False if the image has no pixels or they cannot be read. What cannot be written is not noticed.
-bool export_picture(image_material& made, SUImageRef image, std::size_t data_size, std::size_t bits_per_pixel) {
-    const raw_pixels pixels = pixels_of(image, data_size, bits_per_pixel);
-    const made_texture texture(pixels);
-    if (!texture.is_valid())
-        return false;
-    // Four characters are compared, so a picture named .jpeg or .tiff gets the second extension as well.
+// Four characters are compared, so a picture named .jpeg or .tiff gets the second extension as well.
+void settle_extension(image_material& made) {
     static constexpr std::string_view kept[] = {".PNG", ".JPG", ".BMP", ".PSD", ".TIF"};
     if (std::find(std::begin(kept), std::end(kept), made.test_word) == std::end(kept))
         made.texture_path += ".PNG";
+}
+
+// A picture whose pixels are too many to be passed on. False, with a word in the trace, if there is no way to write it.
+bool export_large_picture(image_material& made, SUImageRef image, const raw_pixels& size) {
+    settle_extension(made);
+    write_by_host(made, stored_picture(image));
+    if (is_file(made.texture_path))
+        return true;
+    cl_trace::here("SketchUpReader::get_image_material_number", trace_level::report)
+        .report("Image of %d by %d pixels cannot be written: %s", size.width, size.height, made.texture_path);
+    return false;
+}
+
+// False if the image has no pixels or they cannot be read. What cannot be written is not noticed.
+bool export_picture(image_material& made, SUImageRef image, std::size_t data_size, std::size_t bits_per_pixel) {
+    const raw_pixels size = announced_pixels(image, bits_per_pixel);
+    if (size.are_too_many())
+        return export_large_picture(made, image, size);
+    const raw_pixels pixels = pixels_of(image, size, data_size);
+    const made_texture texture(pixels);
+    if (!texture.is_valid())
+        return false;
+    settle_extension(made);
     if (bits_per_pixel == bits_without_alpha)
         write_rebuilt(pixels, made.texture_path);
     else

@@ -2,10 +2,12 @@
 
 #include "image/decode_picture.h"
 #include "image/encode_picture.h"
+#include "image/picture_rows.h"
 #include "sketchup/skp/read_model.h"
 #include "tests/batch/batch_runner.h"
 #include "tests/image/pictures.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -100,6 +102,30 @@ TEST(ImagesBatch, a_name_from_a_model_never_leaves_the_folders) {
     b.expect_picture(picture_name(b, "TX_away_@UP@.png"), {picture_format::png, plain});
     b.expect_picture(picture_name(b, "TX_%2f..%5caway_@BACK@.png"), {picture_format::png, plain});
     expect_run(b, "image_names");
+}
+
+// 81 million pixels, about a fifth more than a picture in memory may have.
+picture_bytes png_too_large_for_memory(std::uint32_t side) {
+    picture_bytes file;
+    const image::byte_sink append = image::appending_to(file);
+    const auto png = image::png_file({side, side, 24}, append);
+    picture_bytes row(std::size_t{3} * side);
+    for (std::uint32_t y = 0; y < side; ++y) {
+        std::fill(row.begin(), row.end(), static_cast<std::uint8_t>(y / 40));
+        EXPECT_TRUE(png->put_row(row.data()));
+    }
+    EXPECT_TRUE(png->end());
+    return file;
+}
+
+TEST(ImagesBatch, one_that_is_too_large_for_memory_is_the_very_file_that_the_model_holds) {
+    batch b;
+    model_builder m;
+    const picture_bytes large = png_too_large_for_memory(9000);
+    add_image(m, large, "Plan.png", {}, 9000, 9000);
+    put_model_with_ids(b, m, {"@PLAN@"});
+    b.expect_file(picture_name(b, "TX_Plan_@PLAN@.png"), {reinterpret_cast<const char*>(large.data()), large.size()});
+    expect_run(b, "image_too_large_for_memory");
 }
 
 TEST(ImagesBatch, a_picture_that_cannot_be_read_has_no_material_and_keeps_its_quad) {

@@ -2,6 +2,7 @@
 
 #include "image/decode_picture.h"
 #include "image/encode_picture.h"
+#include "image/picture_rows.h"
 #include "sketchup/api/texture_file_name.h"
 #include "tests/image/pictures.h"
 #include "tests/support/temporary_folder.h"
@@ -180,6 +181,36 @@ TEST(Texture, is_written_anew_in_another_format) {
     for (const char* name : {"a.bmp", "a.TIF"}) {
         EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / name).c_str()), SU_ERROR_NONE);
         EXPECT_EQ(image::decode_picture(read_back((folder / name))), pixels) << name;
+    }
+}
+
+// 8200 x 8200 pixels, 134,136 more than a picture in memory may have.
+TEST(Texture, that_does_not_fit_into_memory_is_encoded_anew_but_not_recoloured) {
+    constexpr std::uint32_t side = 8200;
+    std::vector<std::uint8_t> stored;
+    const image::byte_sink append = image::appending_to(stored);
+    const auto png = image::png_file({side, side, 24}, append);
+    const std::vector<std::uint8_t> row(std::size_t{3} * side, 200);
+    for (std::uint32_t y = 0; y < side; ++y)
+        ASSERT_TRUE(png->put_row(row.data()));
+    ASSERT_TRUE(png->end());
+    const temporary_folder folder;
+    model_builder builder;
+    builder.textured_material("Brick", stored, "brick.png", 10, 20);
+    const sketchup::index tinted = builder.textured_material("Tinted", stored, "brick.png", 10, 20);
+    builder.model().materials[tinted].type = sketchup::material_type::colorized;
+    builder.model().materials[tinted].color = {147, 154, 158, 255};
+    test_model opened(builder);
+    EXPECT_EQ(SUTextureWriteToFile(opened.texture(), (folder / "a.jpg").c_str()), SU_ERROR_NONE);
+    const std::vector<std::uint8_t> made = read_back(folder / "a.jpg");
+    EXPECT_EQ(image::picture_size(made), (image::picture_extent{side, side, 24}));
+    std::vector<std::uint8_t> first(row.size());
+    const auto rows = image::jpeg_rows(made);
+    EXPECT_TRUE(rows && rows->next_row(first.data()));
+    EXPECT_EQ(first, row);
+    for (const std::string name : {"b.jpg", "b.png"}) {
+        EXPECT_EQ(SUTextureWriteToFile(opened.texture(1), (folder / name).c_str()), SU_ERROR_SERIALIZATION) << name;
+        EXPECT_FALSE(folder.has(name)) << name;
     }
 }
 

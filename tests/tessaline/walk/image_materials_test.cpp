@@ -370,14 +370,53 @@ TEST_F(ImageMaterials, a_damaged_picture_has_no_material) {
     EXPECT_THAT(all_files(), IsEmpty());
 }
 
-TEST_F(ImageMaterials, sizes_that_no_memory_holds_have_no_material) {
+// One pixel more than fits, 8321 x 8065 = 67108865; sides that no texture may have.
+TEST_F(ImageMaterials, a_picture_of_too_many_pixels_is_copied_as_the_model_holds_it) {
+    const trace_capture trace;
+    int number = 10;
+    for (const picture_bytes& large :
+         {bmp_that_announces(8321, 8065), bmp_that_announces(65536, 2), bmp_that_announces(2, 65536)}) {
+        ASSERT_EQ(number_of(large, "Tree.bmp"), number++);
+        EXPECT_EQ(bytes_of_picture("TX_Tree_88.bmp"), large);
+        EXPECT_EQ(line_of("IMAGE_TX_Tree_88.bmp.qlobj", "Image_Path"), picture("TX_Tree_88.bmp"));
+        std::filesystem::remove(picture("TX_Tree_88.bmp"));
+        material_records.back().image_path.clear(); // the next one is another picture
+    }
+    EXPECT_EQ(trace.text(), "");
+}
+
+TEST_F(ImageMaterials, a_large_picture_whose_name_the_system_refuses_is_copied_under_a_filtered_one) {
+    const picture_bytes large = bmp_that_announces(8321, 8065);
+    batch.make_folder("batch/Textures/TX_Tree+_88.bmp");
+    EXPECT_EQ(number_of(large, "Tree+.bmp"), 10);
+    EXPECT_EQ(bytes_of_picture("TX_Tree_88.bmp"), large);
+}
+
+TEST_F(ImageMaterials, a_large_picture_that_has_to_change_and_cannot_has_no_material_and_the_trace_says_so) {
+    const trace_capture trace;
+    EXPECT_EQ(number_of(bmp_that_announces(8321, 8065), "Tree.png"), 0);
+    EXPECT_EQ(trace.text_without_line_numbers(), "image_materials(#): SketchUpReader::get_image_material_number():: "
+                                                 "REPORT: Image of 8321 by 8065 pixels cannot be written: " +
+                                                     picture("TX_Tree_88.png") + "\n");
+    EXPECT_EQ(stream_text(), "");
+    EXPECT_TRUE(material_records.empty());
+    EXPECT_THAT(all_files(), IsEmpty());
+}
+
+TEST_F(ImageMaterials, sizes_that_no_memory_holds_have_no_material_if_the_picture_has_to_change) {
     struct announced {
         std::uint32_t width, height;
     };
     for (const announced& a : {announced{0x7fffffff, 0x7fffffff}, announced{0x7fffffff, 1}, announced{1, 0x7fffffff},
                                announced{8193, 8192}, announced{0x10000, 0x10000}, announced{8192, 8192}}) {
-        EXPECT_EQ(number_of(bmp_that_announces(a.width, a.height), "Tree.bmp"), 0) << a.width << " x " << a.height;
+        EXPECT_EQ(number_of(bmp_that_announces(a.width, a.height), "Tree.png"), 0) << a.width << " x " << a.height;
     }
+    EXPECT_THAT(all_files(), IsEmpty());
+}
+
+// Its pixels would all fit, so they are read, and are not there.
+TEST_F(ImageMaterials, a_picture_of_as_many_pixels_as_fit_is_read) {
+    EXPECT_EQ(number_of(bmp_that_announces(8192, 8192), "Tree.bmp"), 0);
     EXPECT_THAT(all_files(), IsEmpty());
 }
 
