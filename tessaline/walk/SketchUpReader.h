@@ -17,6 +17,7 @@
 #include "tessaline/walk/placements.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -94,8 +95,6 @@ public:
     placement_decision enter_instance(SUComponentInstanceRef instance, placement_walk& walk);
     // Whether an element may be entered at all; invisible: its layer is off and only a lamp is let through.
     bool is_let_in(SUDrawingElementRef element, SULayerRef layer, bool& invisible) const;
-    // Makes the level a lamp if its parameters say so.
-    void open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden);
     void close_lamp(const transform16& transform);
 
     // skatter_instances.cpp: components that a scattering tool has placed.
@@ -210,17 +209,16 @@ private:
     void walk_beams(const placement_walk& walk, std::string& path);
 
     // placements.cpp
-    // What is written in place of a component's content.
-    enum class stand_in_kind { none, outside_object, plant };
-    struct stand_in {
-        stand_in_kind kind = stand_in_kind::none;
-        rpc_description rpc;
-        plant_description plant;
-    };
-    static stand_in stand_in_of(SUEntityRef definition, bool invisible);
-    void write_stand_in(SUComponentInstanceRef instance, const stand_in& what, const transform16& transform);
-    // What is walked of a level that was pushed: an invisible one only inside a lamp.
-    placement_decision decision_on_level(const placement_walk& walk, bool invisible) const;
+    struct met_instance;
+    // Pushes the level if it gets one. Fills what is still open of met and walk.
+    placement_decision decide(met_instance& met, placement_walk& walk) const;
+    // What is written in place of the component's content; nothing if the content is.
+    static std::optional<placement_decision> stand_in_of(met_instance& met);
+    static void push_level(const met_instance& met);
+    void begin_instance(placement_decision decision, const met_instance& met, const placement_walk& walk);
+    // What a level that was pushed writes ahead of its content. forced_hidden: its layer is off.
+    void begin_level(placement_decision decision, const placement_walk& walk, std::string_view direct_label,
+                     bool forced_hidden);
 
     // edge_block.cpp
     void write_edge_as_line(const cl_tsl_edge& edge, double pixels);

@@ -84,8 +84,7 @@ void settle(cl_slp_light& light) {
         light.color = white;
     if (light.lamp_type.empty() && light.light_type > 0)
         light.lamp_type = type_of_number(light.light_type);
-    if (kind_of(light.lamp_type).is_direct())
-        light.direct_light = true;
+    light.direct_light = is_direct_light(light);
 }
 
 // ---- where it is
@@ -154,6 +153,10 @@ cl_lp_light record_of(const cl_slp_light& light, int number, int channel) {
 
 bool is_lamp(const cl_slp_light& light) {
     return !light.lamp_type.empty() || light.light_type != 0;
+}
+
+bool is_direct_light(const cl_slp_light& light) {
+    return light.direct_light || kind_of(light.lamp_type).is_direct();
 }
 
 double light_balance_factor() {

@@ -16,6 +16,7 @@
 #include "tessaline/walk/SketchUpReader.h"
 #include "tessaline/walk/walk_log.h"
 
+#include <optional>
 #include <string>
 
 namespace {
@@ -50,7 +51,47 @@ std::string name_of_instance(SUComponentInstanceRef instance, SUComponentDefinit
     return name.empty() ? name_by(SUComponentDefinitionGetName, definition) : name;
 }
 
+// The parameter level of what is entered is the one on top; it gets the layer and the material.
+void settle_level(cl_slp_oparms* level, SUDrawingElementRef element, const std::string& layer_name) {
+    set_layer(*level, layer_name); // while the enclosing level still is the current one
+    current_oparms = level;
+    take_material(element);
+}
+
 } // namespace
+
+// What is known of an instance while it is decided upon.
+struct SketchUpReader::met_instance {
+    SUComponentInstanceRef instance = SU_INVALID;
+    SUDrawingElementRef element = SU_INVALID;
+    SUComponentDefinitionRef definition = SU_INVALID;
+    SUEntityRef definition_entity = SU_INVALID;
+    std::string name;
+    std::string layer_name;
+    bool invisible = false; // its layer is off and only a lamp is let through
+    rpc_description rpc{};
+    plant_description plant{};
+};
+
+bool is_walked(placement_decision decision) {
+    using enum placement_decision;
+    return decision == walk || decision == light_and_walk || decision == walk_as_lamp;
+}
+
+bool writes_direct_light(placement_decision decision) {
+    using enum placement_decision;
+    return decision == light_and_leave_level || decision == light_and_walk;
+}
+
+placement_decision decision_on_level(const cl_slp_light& light, const block_writer& blocks, bool invisible) {
+    using enum placement_decision;
+    if (blocks.takes_lamps() && is_lamp(light)) {
+        if (!is_direct_light(light))
+            return walk_as_lamp;
+        return invisible ? light_and_leave_level : light_and_walk;
+    }
+    return invisible && !blocks.state().lamp_block_open ? leave_level : walk;
+}
 
 bool SketchUpReader::is_let_in(SUDrawingElementRef element, SULayerRef layer, bool& invisible) const {
     invisible = false;
@@ -76,102 +117,101 @@ placement_decision SketchUpReader::enter_group(SUGroupRef group, placement_walk&
     SUGroupGetEntities(group, &walk.entities);
     const SUEntityRef entity = SUGroupToEntity(group);
     SUEntityGetID(entity, &walk.id);
-
-    cl_slp_oparms* const level = oparms_array.push();
-    set_layer(*level, std::string(layer.name)); // while the enclosing level still is the current one
-    current_oparms = level;
-    take_material(element);
+    settle_level(oparms_array.push(), element, std::string(layer.name));
     read_attributes(entity);
     current_oparms->store_attributes_in_oparms("Group");
 
-    open_lamp(walk, "Group LGHT Lamp", invisible);
-    const placement_decision decision = decision_on_level(walk, invisible);
-    if (decision == placement_decision::walk && extraction_log_is_on())
+    const placement_decision decision = decision_on_level(current_oparms->light, blocks, invisible);
+    begin_level(decision, walk, "Group LGHT Lamp", invisible);
+    if (is_walked(decision) && extraction_log_is_on())
         log_placement("Group", name_by(SUGroupGetName, group), layer.name, walk.transform, walk.depth);
     return decision;
 }
 
 placement_decision SketchUpReader::enter_instance(SUComponentInstanceRef instance, placement_walk& walk) {
-    const SUDrawingElementRef element = SUComponentInstanceToDrawingElement(instance);
-    const element_layer layer = layer_of(element, layer0_hidden);
-    SUComponentDefinitionRef definition = SU_INVALID;
-    SUComponentInstanceGetDefinition(instance, &definition);
-    const SUEntityRef definition_entity = SUComponentDefinitionToEntity(definition);
-    const std::string name = name_of_instance(instance, definition);
-    bool invisible = false;
-    if (!is_let_in(element, layer.layer, invisible))
-        return placement_decision::leave_out;
-
-    walk.transform = composed(walk.transform, local_transform(SUComponentInstanceGetTransform, instance));
-    if (always_faces_camera(definition))
-        turn_to_camera(walk.transform);
-    SUComponentDefinitionGetEntities(definition, &walk.entities);
-    SUEntityGetID(definition_entity, &walk.id); // so two instances of one definition share a path
-    if (const stand_in what = stand_in_of(definition_entity, invisible); what.kind != stand_in_kind::none) {
-        write_stand_in(instance, what, walk.transform);
-        return placement_decision::stand_in;
-    }
-
-    const std::string layer_name(layer.name);
-    current_oparms = oparms_array.push();
-    set_layer(*current_oparms, layer_name);
-    take_material(element);
-    read_attributes(SUComponentInstanceToEntity(instance));
-    current_oparms->store_attributes_in_oparms("Component Instance - " + name);
-    if (SUIsValid(definition_entity)) {
-        read_attributes(definition_entity);
-        current_oparms->store_attributes_in_oparms("Component Definition");
-    }
-
-    // A lamp with beams is walked once more when its block has closed.
-    if (current_oparms->light.lamp_type == "spot_beams")
-        blocks.want_beam_pass();
-    open_lamp(walk, "Instance Lamp", invisible);
-    const placement_decision decision = decision_on_level(walk, invisible);
-    if (decision == placement_decision::walk)
-        log_placement("Instance", name, layer_name, walk.transform, walk.depth);
+    met_instance met;
+    met.instance = instance;
+    const placement_decision decision = decide(met, walk);
+    begin_instance(decision, met, walk);
     return decision;
 }
 
-placement_decision SketchUpReader::decision_on_level(const placement_walk& walk, bool invisible) const {
-    if (!invisible || blocks.state().lamp_block_open)
-        return placement_decision::walk;
-    oparms_array.forget_all_below(walk.depth); // each enclosing object pops one
-    return placement_decision::leave_level;
+placement_decision SketchUpReader::decide(met_instance& met, placement_walk& walk) const {
+    met.element = SUComponentInstanceToDrawingElement(met.instance);
+    const element_layer layer = layer_of(met.element, layer0_hidden);
+    met.layer_name = layer.name;
+    SUComponentInstanceGetDefinition(met.instance, &met.definition);
+    met.definition_entity = SUComponentDefinitionToEntity(met.definition);
+    met.name = name_of_instance(met.instance, met.definition);
+    if (!is_let_in(met.element, layer.layer, met.invisible))
+        return placement_decision::leave_out;
+
+    walk.transform = composed(walk.transform, local_transform(SUComponentInstanceGetTransform, met.instance));
+    if (always_faces_camera(met.definition))
+        turn_to_camera(walk.transform);
+    SUComponentDefinitionGetEntities(met.definition, &walk.entities);
+    SUEntityGetID(met.definition_entity, &walk.id); // so two instances of one definition share a path
+    if (const auto stand_in = stand_in_of(met))
+        return *stand_in;
+    push_level(met);
+    return decision_on_level(current_oparms->light, blocks, met.invisible);
 }
 
-SketchUpReader::stand_in SketchUpReader::stand_in_of(SUEntityRef definition, bool invisible) {
-    stand_in what;
-    if (SUIsInvalid(definition))
-        return what;
-    read_attributes(definition);
-    const bool is_rpc = read_rpc_description(what.rpc);
-    const bool is_plant = read_plant_description(what.plant);
-    if (invisible)
-        return what;
+std::optional<placement_decision> SketchUpReader::stand_in_of(met_instance& met) {
+    if (SUIsInvalid(met.definition_entity))
+        return std::nullopt;
+    read_attributes(met.definition_entity);
+    const bool is_rpc = read_rpc_description(met.rpc);
+    const bool is_plant = read_plant_description(met.plant);
+    if (met.invisible)
+        return std::nullopt;
     if (is_rpc)
-        what.kind = stand_in_kind::outside_object;
-    else if (is_plant && !what.plant.render_as_2d_image && !shows_plants_as_images())
-        what.kind = stand_in_kind::plant;
-    return what;
+        return placement_decision::outside_object;
+    if (is_plant && !met.plant.render_as_2d_image && !shows_plants_as_images())
+        return placement_decision::plant;
+    return std::nullopt;
 }
 
-void SketchUpReader::write_stand_in(SUComponentInstanceRef instance, const stand_in& what,
-                                    const transform16& transform) {
-    if (what.kind == stand_in_kind::outside_object)
-        write_rpc(instance, what.rpc, transform);
-    else
-        Write_Zyn_plant(instance, what.plant, transform, {}, {});
+void SketchUpReader::push_level(const met_instance& met) {
+    settle_level(oparms_array.push(), met.element, met.layer_name);
+    read_attributes(SUComponentInstanceToEntity(met.instance));
+    current_oparms->store_attributes_in_oparms("Component Instance - " + met.name);
+    if (SUIsValid(met.definition_entity)) {
+        read_attributes(met.definition_entity);
+        current_oparms->store_attributes_in_oparms("Component Definition");
+    }
 }
 
-void SketchUpReader::open_lamp(const placement_walk& walk, std::string_view direct_label, bool forced_hidden) {
-    if (!blocks.takes_lamps() || !is_lamp(current_oparms->light))
+void SketchUpReader::begin_instance(placement_decision decision, const met_instance& met, const placement_walk& walk) {
+    switch (decision) {
+    case placement_decision::leave_out:
         return;
-    const int lamp_number = current_oparms->light.add_lamp(*this, walk.transform);
-    if (current_oparms->light.direct_light)
-        blocks.write_direct_light(direct_label, lamp_number);
-    else
-        blocks.open_lamp_block(lamp_number, forced_hidden, walk.depth);
+    case placement_decision::outside_object:
+        write_rpc(met.instance, met.rpc, walk.transform);
+        return;
+    case placement_decision::plant:
+        Write_Zyn_plant(met.instance, met.plant, walk.transform, {}, {});
+        return;
+    default:
+        break;
+    }
+    // A lamp with beams is walked once more when its block has closed.
+    if (current_oparms->light.lamp_type == "spot_beams")
+        blocks.want_beam_pass();
+    begin_level(decision, walk, "Instance Lamp", met.invisible);
+    if (is_walked(decision))
+        log_placement("Instance", met.name, met.layer_name, walk.transform, walk.depth);
+}
+
+void SketchUpReader::begin_level(placement_decision decision, const placement_walk& walk, std::string_view direct_label,
+                                 bool forced_hidden) {
+    cl_slp_light& light = current_oparms->light;
+    if (writes_direct_light(decision))
+        blocks.write_direct_light(direct_label, light.add_lamp(*this, walk.transform));
+    else if (decision == placement_decision::walk_as_lamp)
+        blocks.open_lamp_block(light.add_lamp(*this, walk.transform), forced_hidden, walk.depth);
+    if (!is_walked(decision))
+        oparms_array.forget_all_below(walk.depth); // each enclosing object pops one
 }
 
 void SketchUpReader::close_lamp(const transform16& transform) {

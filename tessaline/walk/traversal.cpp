@@ -44,7 +44,7 @@ void SketchUpReader::process_group(SUGroupRef group, const list_walk& list) {
     placement_walk walk;
     walk.transform = list.transform;
     walk.depth = list.depth;
-    if (enter_group(group, walk) != placement_decision::walk)
+    if (!is_walked(enter_group(group, walk)))
         return;
     walk_placement(walk, list.path);
     if (blocks.has_lamp_of_depth(list.depth))
@@ -62,7 +62,7 @@ void SketchUpReader::process_instance(SUComponentInstanceRef instance, const lis
     placement_walk walk;
     walk.transform = list.transform;
     walk.depth = list.depth;
-    if (enter_instance(instance, walk) != placement_decision::walk)
+    if (!is_walked(enter_instance(instance, walk)))
         return;
     walk_placement(walk, list.path);
     if (blocks.has_lamp_of_depth(list.depth)) {
