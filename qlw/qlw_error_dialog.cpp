@@ -14,10 +14,12 @@ void move_history_on(cl_trace& trace) {
     trace.previous_message = trace.last_message;
 }
 
-void show_message(const std::string& message, const std::string& location_text, const cl_trace_source& source) {
+void show_message(const cl_trace& trace, const std::string& message, const cl_trace_source& source) {
     cl_error_dialog dialog;
+    if (!trace.title.empty())
+        dialog.title = trace.title;
     dialog.message = message;
-    dialog.location_text = location_text;
+    dialog.location_text = trace.location_text;
     dialog.source = source;
     if (!dialog.run())
         trace_state().desktop->message_box(
@@ -39,7 +41,7 @@ void show_error_dialog(cl_trace& trace, const std::string& message) {
         shown += "\n*** This error only appears in DEBUG mode ***";
     trace.last_message = shown + "\n\n" + trace.location_text;
     if (trace.level != trace_level::developer_error)
-        show_message(shown, trace.location_text, source);
+        show_message(trace, shown, source);
     if (trace.level == trace_level::fatal)
         throw std::string("Fatal Error encountered\n\r" + shown + "\n\r\n\r" + trace.location_text);
     trace.source_file = "Unknown";

@@ -106,6 +106,11 @@ cl_trace::~cl_trace() {
     trace_state().live_count--;
 }
 
+cl_trace& cl_trace::titled(std::string text) {
+    title = std::move(text);
+    return *this;
+}
+
 void cl_trace::report_list(std::string_view format, std::span<const text_argument> arguments) {
     if (!trace_state().trace_enabled || busy)
         return;

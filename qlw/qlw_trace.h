@@ -40,6 +40,9 @@ public:
     cl_trace& operator=(const cl_trace&) = delete;
     virtual ~cl_trace();
 
+    // Puts a title of its own over the error dialog of this object's messages. Gives the object, to report through.
+    cl_trace& titled(std::string text);
+
     // Formats as printf does and routes the message by its level. A plain %g has six digits. A format that does not fit
     // its arguments is reported with a fixed text in front instead. Does nothing while tracing is not enabled, or while
     // this object is inside another report.
@@ -60,6 +63,7 @@ public:
     int line;
     std::string function;
     std::string message;       // the finished text
+    std::string title;         // of the error dialog; empty for the usual one
     std::string location_text; // "     (Error occurred in %s line: %d)"
     std::string last_message;  // the three most recent errors of this object
     std::string previous_message;

@@ -113,6 +113,7 @@ bool CTessalineApp::ask_for_missing_paths() {
 bool CTessalineApp::paths_are_usable() const {
     if (!input_path.empty() && !platform::exists(input_path)) {
         cl_trace::here("CTessalineApp::InitInstance", trace_level::user_error)
+            .titled("Tessaline conversion Error")
             .report("Could not find input filename %s.\n", input_path);
         return false;
     }

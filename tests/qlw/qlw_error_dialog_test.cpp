@@ -50,6 +50,16 @@ TEST_F(ErrorDialog, shows_the_message_and_traces_an_error_line) {
     EXPECT_EQ(capture.text(), "source(12):: *** ERROR: No such\nfolder\n");
 }
 
+TEST_F(ErrorDialog, has_the_title_that_its_message_asks_for_and_the_dialog_behind_more_the_usual_one) {
+    desktop.answers = {answering_desktop::more()};
+    cl_trace("source", 12, "function", 2, 0).titled("Reading").report("text");
+    report_at(2, "text");
+    ASSERT_EQ(desktop.shown.size(), 3u);
+    EXPECT_EQ(desktop.shown[0].caption, "Tessaline - Reading");
+    EXPECT_EQ(desktop.shown[1].caption, "Tessaline - Error");
+    EXPECT_EQ(desktop.shown[2].caption, "Tessaline - Error");
+}
+
 TEST_F(ErrorDialog, is_shown_for_every_level_from_two_to_eight_but_four) {
     for (const int level : {2, 3, 6, 7, 8})
         EXPECT_EQ(dialogs_at(level), 1u) << level;

@@ -94,7 +94,8 @@ TEST_F(StartUp, a_missing_input_is_reported_and_nothing_is_written_or_deleted) {
     batch.write("out.txt", "old");
     const trace_capture trace;
     const std::string told = told_by("tessaline " + batch / "missing.skp " + batch / "out.txt");
-    EXPECT_THAT(told, testing::HasSubstr("Could not find input filename " + batch / "missing.skp."));
+    EXPECT_THAT(told, testing::StartsWith("Tessaline - Tessaline conversion Error: Could not find input filename " +
+                                          batch / "missing.skp."));
     EXPECT_THAT(trace.text_without_line_numbers(),
                 testing::EndsWith("Tessaline(#): CTessalineApp::InitInstance():: *** ERROR: Could not find input "
                                   "filename " +
@@ -155,7 +156,8 @@ TEST_F(StartUp, an_unknown_output_is_reported) {
     const trace_capture trace;
     answering_desktop desktop;
     EXPECT_FALSE(theApp.paths_are_usable());
-    EXPECT_EQ(desktop.shown.size(), 1u);
+    ASSERT_EQ(desktop.shown.size(), 1u);
+    EXPECT_EQ(desktop.shown[0].caption, "Tessaline - Error");
     EXPECT_EQ(trace.text_without_line_numbers(), "Tessaline(#): CTessalineApp::InitInstance():: *** ERROR: Could not "
                                                  "parse output filename passed to SKP conversion routine.\n");
 }
