@@ -54,4 +54,17 @@ TEST_F(TexturePreload, faces_come_before_instances_then_groups_then_images_and_d
                              "MATF;TEX%3a0005_InnerFace.OrnMaterial", "MATF;TEX%3a0008_DefinitionFace.OrnMaterial"));
 }
 
+TEST_F(TexturePreload, definitions_come_in_the_order_of_the_model_and_not_of_the_walk) {
+    const auto of_first = textured("OfFirst");
+    const auto of_second = textured("OfSecond");
+    list_builder first = m.component("first");
+    put(first, 0, of_first);
+    list_builder second = m.component("second");
+    put(second, 0, of_second);
+    m.root().instance(second);
+    m.root().instance(first);
+    EXPECT_THAT(tagged(body_of(m), "MATF;TEX"),
+                testing::ElementsAre("MATF;TEX%3a0002_OfSecond.OrnMaterial", "MATF;TEX%3a0001_OfFirst.OrnMaterial"));
+}
+
 } // namespace

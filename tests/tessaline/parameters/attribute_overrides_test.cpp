@@ -344,6 +344,13 @@ TEST_F(AttributeOverrides, an_override_in_lumens_leaves_a_lamp_that_is_set) {
     }
 }
 
+TEST_F(AttributeOverrides, a_lamp_of_no_watts_is_set_and_open_to_no_override) {
+    store(lamp, {{"rorndll_lamp_intensity", "0"}});
+    store(overrides, {{"intensity_override_mode", "L"}, {"intensity_override_value", "850"}});
+    store(overrides, {{"intensity_override_mode", "W"}, {"intensity_override_value", "60"}});
+    EXPECT_EQ(light().intensity, 0);
+}
+
 // 850 / 17 is 50.
 TEST_F(AttributeOverrides, any_mode_that_begins_with_L_fills_an_open_lamp_in_lumens) {
     for (const char* mode : {"L", "l", "Lamp"}) {

@@ -133,6 +133,7 @@ TEST_F(RunMessages, a_model_that_asks_for_what_cannot_be_ends_the_work_with_one_
     EXPECT_THAT(messages_of_run(), ElementsAre(message));
     EXPECT_THAT(capture.text_without_line_numbers(),
                 testing::EndsWith("Tessaline(#): CTessalineApp::run_conversion():: *** ERROR: " + message + "\n"));
+    EXPECT_FALSE(SUIsValid(open_model));
 }
 
 TEST_F(RunMessages, a_fatal_report_ends_the_work_and_leaves_the_stream_as_it_stands) {
