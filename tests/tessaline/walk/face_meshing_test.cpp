@@ -170,6 +170,45 @@ TEST_F(FaceMeshing, a_face_that_is_a_lamp_gets_a_block_of_its_own) {
     EXPECT_EQ(current_oparms->light.face_x_axis, (fpt{1, 0, 0}));
 }
 
+// From the third corner back to the first, with x counted the other way.
+TEST_F(FaceMeshing, the_longest_edge_of_a_face_that_is_a_lamp_is_kept) {
+    builder.root().face({{0, 0, 0}, {300, 0, 0}, {300, 100, 0}});
+    open();
+    current_oparms->light.lamp_type = "rect_glow";
+    write_first_face(side(0), side(0));
+    EXPECT_EQ(current_oparms->light.face_edge_vector, (fpt{300, -100, 0}));
+}
+
+TEST_F(FaceMeshing, a_face_that_is_hidden_or_invisible_has_an_unseen_block) {
+    builder.root().square(100);
+    open();
+    current_oparms->light.hide = true;
+    write_first_face(side(0), side(0));
+    current_oparms->light.hide = false;
+    current_oparms->invisible = true;
+    write_first_face(side(0), side(0));
+    const std::string unseen =
+        lines({"#; ProcessFace MESH", "MESH;", "INVS;1", "SHDW;0", "TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"}) +
+        square_from(0) + end_of_block;
+    EXPECT_EQ(stream_text(), unseen + lines({"EMSH; Face"}) + unseen);
+}
+
+TEST_F(FaceMeshing, a_face_that_is_a_hidden_or_invisible_lamp_has_an_unseen_block) {
+    builder.root().square(100);
+    open();
+    current_oparms->light.lamp_type = "rect_glow";
+    current_oparms->light.hide = true;
+    write_first_face(side(0), side(0));
+    current_oparms->light.hide = false;
+    current_oparms->invisible = true;
+    write_first_face(side(0), side(0));
+    const std::string rest = lines({"INVS;1", "SHDW;0", "TLAY;Layer0", "CULL;0", "MATL;0", "MAT2;0"}) + square_from(0) +
+                             lines({"EMSH; END OF LAMP"});
+    EXPECT_EQ(stream_text(),
+              lines({"#; Process Face Lamp MESH", "MESH;", "LITE;0"}) + rest +
+                  lines({"EMSH; Close for new Face Lamp MESH", "#; Process Face Lamp MESH", "MESH;", "LITE;1"}) + rest);
+}
+
 // The z axis looks along x at 4 times its length; the origin is at 100, 200, 300 inches.
 TEST_F(FaceMeshing, a_face_that_is_a_lamp_stands_and_looks_as_the_list_that_holds_it) {
     constexpr transform16 turned{0, 2, 0, 0, 0, 0, 3, 0, 4, 0, 0, 0, 100, 200, 300, 1};

@@ -19,6 +19,11 @@ protected:
     static void square_on(model_builder& m, list_builder list, const char* layer) {
         m.element(list.square(10)).layer = m.layer(layer);
     }
+    // The values of the material that a line of the stream declares.
+    std::string file_of_material(const std::string& line) const {
+        const std::string stem = line.substr(5, line.find(".OrnMaterial") - 5);
+        return batch.read("ZynBatch_Materials/" + stem + ".qlobj");
+    }
 };
 
 TEST_F(NestedLamps, a_lamp_two_groups_down_ends_with_its_own_group) {
@@ -36,6 +41,17 @@ TEST_F(NestedLamps, a_lamp_two_groups_down_ends_with_its_own_group) {
     EXPECT_THAT(tagged(lines, "EMSH"), ElementsAre("EMSH; END OF LAMP", "EMSH;", "EMSH; Face", "EMSH;"));
     EXPECT_THAT(tagged(lines, "ADDV"), ElementsAre("ADDV;0", "ADDV;1", "ADDV;2", "ADDV;3", "ADDV;0", "ADDV;1", "ADDV;2",
                                                    "ADDV;3", "ADDV;0", "ADDV;1", "ADDV;2", "ADDV;3"));
+}
+
+TEST_F(NestedLamps, a_group_inside_a_lamp_two_groups_down_leaves_its_block_open) {
+    model_builder m;
+    list_builder lamp = m.root().group().group().group();
+    make_lamp(m, lamp.placement(), "rect");
+    square_on(m, lamp.group(), "inside");
+    square_on(m, lamp, "behind");
+    const auto lines = body_of(m);
+    EXPECT_THAT(tagged(lines, "TLAY"), ElementsAre("TLAY;inside", "TLAY;behind"));
+    EXPECT_THAT(tagged(lines, "EMSH"), ElementsAre("EMSH; END OF LAMP"));
 }
 
 // The part inherits the type of the group around it, but stands in its open block; the panel is a lamp without beams.
@@ -100,8 +116,26 @@ TEST_F(NestedLamps, the_attributes_of_a_lamp_inside_a_lamp_apply_to_its_faces) {
     EXPECT_THAT(tagged(lines, "LITE"), ElementsAre("LITE;0"));
     const auto named = tagged(lines, "MATF;");
     ASSERT_EQ(named.size(), 1u);
-    const std::string stem = named[0].substr(5, named[0].find(".OrnMaterial") - 5);
-    EXPECT_THAT(batch.read("ZynBatch_Materials/" + stem + ".qlobj"), testing::HasSubstr("Refl: 0.6\r\n"));
+    EXPECT_THAT(file_of_material(named[0]), testing::HasSubstr("Refl: 0.6\r\n"));
+}
+
+TEST_F(NestedLamps, the_attributes_of_a_component_inside_a_lamp_and_of_its_placement_apply_to_its_faces) {
+    model_builder m;
+    list_builder lamp = m.root().group();
+    make_lamp(m, lamp.placement(), "rect");
+    for (const bool on_placement : {true, false}) {
+        list_builder part = m.component(on_placement ? "first" : "second");
+        const auto face = part.square(10);
+        m.element(face).material = m.face(face).back_material =
+            m.material(on_placement ? "Red" : "Green", {200, 30, 20, 255});
+        const auto placement = lamp.instance(part);
+        m.attribute(on_placement ? placement : part.list(), "qlw_overrides", "reflection",
+                    sketchup::whole_number(on_placement ? 60 : 30));
+    }
+    const auto named = tagged(body_of(m), "MATF;");
+    ASSERT_EQ(named.size(), 2u);
+    EXPECT_THAT(file_of_material(named[0]), testing::HasSubstr("Refl: 0.6\r\n"));
+    EXPECT_THAT(file_of_material(named[1]), testing::HasSubstr("Refl: 0.3\r\n"));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 // What a developer reads of a walk: the extraction log and the traces of its steps.
 
+#include "tessaline/walk/walk_log.h"
+
 #include "qlw/trace_state.h"
 #include "tests/tessaline/run_fixture.h"
 
@@ -29,16 +31,17 @@ protected:
     }
 };
 
-// Knob and Inner stand on Layer0 and inherit that of the group. The second instance has no name of its own.
+// Knob, Inner and Deep stand on Layer0 and inherit that of the group. The second instance has no name of its own.
 TEST_F(WalkLog, names_each_group_and_instance_with_its_layer_and_its_place_in_the_world) {
     model_builder m;
     list_builder wall = m.root().group("Wall", moved({1, 2, 3}));
     m.element(wall.placement()).layer = m.layer("Brick");
-    wall.group("Inner", moved({1, 0, 0}));
+    wall.group("Inner", moved({1, 0, 0})).group("Deep", moved({0, 0, 5}));
     wall.instance(m.component("Handle"), sketchup::identity_transform, "Knob");
     m.element(m.root().instance(m.component("Door"), moved({4, 5, 6}))).layer = m.layer("Doors");
     EXPECT_EQ(log_of(m), "\r\nGroup: Wall,  layer: Brick, loc: (1, 2, 3)\r\n"
                          " Group: Inner,  layer: Brick, loc: (2, 2, 3)\r\n"
+                         "  Group: Deep,  layer: Brick, loc: (2, 2, 8)\r\n"
                          " Instance: Knob,  layer: Brick, loc: (1, 2, 3)\r\n"
                          "\r\nInstance: Door,  layer: Doors, loc: (4, 5, 6)\r\n"
                          "End of Process Entities");
@@ -53,6 +56,28 @@ TEST_F(WalkLog, announces_an_image_inside_a_group_and_puts_an_empty_line_before_
                          "Image: Inside.png,  layer: Layer0, loc: (0, 0, 0)\r\n"
                          "\r\nImage: Tree.png,  layer: Layer0, loc: (1, 2, 3)\r\n"
                          "End of Process Entities");
+}
+
+// Their layers are off, and they are walked no further than to see that they are no lamps.
+TEST_F(WalkLog, leaves_out_what_is_looked_at_for_lamps_only) {
+    set_global_bool("bvl_process_invisible_lights", true);
+    model_builder m;
+    const auto off = m.layer("off", false);
+    m.element(m.root().group("Wall").placement()).layer = off;
+    m.element(m.root().instance(m.component("Door"))).layer = off;
+    EXPECT_EQ(log_of(m), "End of Process Entities");
+}
+
+TEST_F(WalkLog, holds_each_line_as_soon_as_it_is_written) {
+    log_placement("Group", "Wall", "Brick", identity16, 1);
+    std::string text = " Group: Wall,  layer: Brick, loc: (0, 0, 0)\r\n";
+    EXPECT_EQ(batch.read("log.txt"), text);
+    log_image_step(2);
+    EXPECT_EQ(batch.read("log.txt"), text += "  ProcessImage\r\n");
+    log_image("Tree.png", "Layer0", {1, 2, 3});
+    EXPECT_EQ(batch.read("log.txt"), text += "Image: Tree.png,  layer: Layer0, loc: (1, 2, 3)\r\n");
+    log_end_of_walk();
+    EXPECT_EQ(batch.read("log.txt"), text += "End of Process Entities");
 }
 
 TEST_F(WalkLog, stays_empty_while_its_setting_is_off) {
