@@ -168,6 +168,12 @@ bool write_straighten_seeds(const std::filesystem::path& folder) {
     return write(folder / "perspective", seed(0.01, 0.05)) && write(folder / "horizon", seed(-0.2, 0.15));
 }
 
+// A window of 4 by 6 that is glued to a wall; and the same inside another component, and mirrored, on a slope.
+bool write_outline_seeds(const std::filesystem::path& folder) {
+    return write(folder / "window", {0x3C, 0, 0, 0, 0, 4, 6, 0, 7, 0, 0, 10, 20}) &&
+           write(folder / "nested", {0x3F, 0, 0, 0, 0, 4, 6, 0, 13, 6, 0, 0, 5, 0, 7, 1, 2, 10, 20, 7, 9});
+}
+
 bool write_option_seeds(const std::filesystem::path& folder) {
     return write_text(folder / "fuzz_option_file" / "all", option_seeds::option_file) &&
            write_text(folder / "fuzz_view_file" / "all", option_seeds::view_file);
@@ -185,7 +191,7 @@ int main(int argc, char** argv) {
     if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder) &&
         write_document_seeds(folder / "fuzz_document") && write_modern_seeds(folder / "fuzz_modern") &&
         write_picture_seeds(folder / "fuzz_picture") && write_straighten_seeds(folder / "fuzz_straighten_texture") &&
-        write_option_seeds(folder) && write_text_seeds(argv[1]))
+        write_option_seeds(folder) && write_outline_seeds(folder / "fuzz_outlines") && write_text_seeds(argv[1]))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
