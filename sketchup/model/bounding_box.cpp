@@ -176,10 +176,6 @@ box box_cache::of_list(const entity_list& list) {
     return kept_of(list).value;
 }
 
-box box_cache::of_definition(index definition) {
-    return of_list(model_.definitions[definition].entities);
-}
-
 box box_cache::box_of_content(const entity_list& list) {
     box found;
     include_geometry(model_, list, as_it_is, found);

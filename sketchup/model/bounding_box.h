@@ -40,9 +40,6 @@ public:
     // to one of its definitions.
     box of_list(const entity_list& list);
 
-    // The box of a definition's content in its own space.
-    box of_definition(index definition);
-
     // The box of a group, component instance or image in the space of the list that holds it.
     box of_placement(const placement& p);
 

@@ -13,7 +13,6 @@ struct numbered_class {
 
 constexpr numbered_class numbered_classes[] = {
     {"CAttributeNamed", &layout_numbers::attribute_named},
-    {"CBackgroundImage", &layout_numbers::background_image},
     {"CCamera", &layout_numbers::camera},
     {"CComponentBehavior", &layout_numbers::component_behavior},
     {"CComponentInstance", &layout_numbers::component_instance},

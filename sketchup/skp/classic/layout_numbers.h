@@ -12,7 +12,6 @@ namespace skp {
 struct layout_numbers {
     static constexpr int absent = -1;
     int attribute_named = absent;
-    int background_image = absent;
     int camera = absent;
     int component_behavior = absent;
     int component_instance = absent; // of groups and images too

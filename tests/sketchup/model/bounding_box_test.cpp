@@ -48,7 +48,7 @@ TEST(BoundingBox, of_a_list_holds_faces_edges_and_placed_content) {
     s.place(s.model.root, d, moved(10, 0, 0));
     box_cache boxes(s.model);
     expect_box(boxes.of_list(s.model.root), {0, 0, -5}, {12, 2, 2});
-    expect_box(boxes.of_definition(d), {0, 0, 0}, {2, 2, 2});
+    expect_box(boxes.of_list(s.content(d)), {0, 0, 0}, {2, 2, 2});
 }
 
 TEST(BoundingBox, groups_images_and_hidden_content_count) {
@@ -74,9 +74,9 @@ TEST(BoundingBox, an_empty_list_has_an_empty_box_and_adds_nothing_where_it_is_pl
     const index p = s.place(s.model.root, d, moved(100, 0, 0));
     s.edge_in(s.model.root, {0, 0, 0}, {1, 1, 1});
     box_cache boxes(s.model);
-    EXPECT_TRUE(boxes.of_definition(d).is_empty());
-    EXPECT_EQ(boxes.of_definition(d).minimum.y, 1e30);
-    EXPECT_EQ(boxes.of_definition(d).maximum.y, -1e30);
+    EXPECT_TRUE(boxes.of_list(s.content(d)).is_empty());
+    EXPECT_EQ(boxes.of_list(s.content(d)).minimum.y, 1e30);
+    EXPECT_EQ(boxes.of_list(s.content(d)).maximum.y, -1e30);
     EXPECT_TRUE(boxes.of_placement(s.model.placements[p]).is_empty());
     expect_box(boxes.of_list(s.model.root), {0, 0, 0}, {1, 1, 1});
 }
@@ -155,7 +155,7 @@ TEST(BoundingBox, definitions_doubled_thirty_times_are_bounded_in_time) {
             }
         }
         box_cache boxes(s.model, 1'000'000);
-        const box b = boxes.of_definition(30);
+        const box b = boxes.of_list(s.content(30));
         EXPECT_GE(b.maximum.x, std::pow(2, 30));
     }
 }
@@ -172,7 +172,7 @@ TEST(BoundingBox, four_thousand_nested_placements_are_followed) {
         s.place(s.content(i), i - 1, step);
     }
     box_cache boxes(s.model);
-    const box b = boxes.of_definition(4095);
+    const box b = boxes.of_list(s.content(4095));
     EXPECT_EQ(b.minimum.z, 4095);
     EXPECT_EQ(b.maximum.z, 4095);
 }
