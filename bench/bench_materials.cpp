@@ -1,7 +1,7 @@
 // What materials cost: the same boxes converted without any, with plain ones and with textured ones on both sides. The
 // figures to compare are the times of one run of this program.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/walk/SketchUpReader.h"

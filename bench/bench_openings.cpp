@@ -4,7 +4,7 @@
 
 #include "sketchup/api/handles.h"
 #include "sketchup/api/provider_state.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/link.h"
 
 #include <benchmark/benchmark.h>

@@ -2,7 +2,7 @@
 // written. The model is the one that TESSALINE_BENCH_MODEL names, else one of a million triangles made here.
 
 #include "platform/platform.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/SketchUpAPI.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tessaline/state/run_state.h"

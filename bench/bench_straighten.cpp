@@ -3,7 +3,7 @@
 // written once for all squares.
 
 #include "image/encode_picture.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/walk/SketchUpReader.h"

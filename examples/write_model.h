@@ -2,7 +2,7 @@
 
 // What every example does with its model.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tools/command_line/answers.h"
 

@@ -2,7 +2,7 @@
 
 // The parts of the garden. Lengths are inches: x to the right, y away from the house, z up.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 inline constexpr double garden_width = 600;
 inline constexpr double garden_depth = 480;

@@ -2,7 +2,7 @@
 
 // The parts of the furnished room. Lengths are inches: x to the right, y away from the camera, z up.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include <cstdint>
 #include <vector>

@@ -4,7 +4,7 @@
 
 #include "image/picture.h"
 #include "image/picture_format.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tests/support/temporary_folder.h"
 

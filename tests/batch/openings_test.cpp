@@ -1,6 +1,6 @@
 // Walls with something glued to them that cuts an opening.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "tests/batch/batch_runner.h"
 
 #include <gtest/gtest.h>

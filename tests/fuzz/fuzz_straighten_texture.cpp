@@ -1,7 +1,7 @@
 // Takes any numbers as the corners of a square and the mapping of its texture: a picture within bounds comes out, none
 // of whose pixels is outside of what the source holds.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/model/straighten_texture.h"
 #include "sketchup/skp/link.h"
 

@@ -1,6 +1,6 @@
 // Writes the seeds of every fuzz target: FOLDER/<target>/<seed>.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/modern/formats.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "sketchup/skp/writer/material_document_writer.h"

@@ -4,7 +4,7 @@
 
 #include "qlw/qlw_globals.h"
 #include "sketchup/api/handles.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/link.h"
 #include "tessaline/model/handle_lists.h"
 #include "tessaline/state/run_state.h"

@@ -4,7 +4,7 @@
 // back and converted there.
 
 #include "qlw/qlw_globals.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/walk/SketchUpReader.h"

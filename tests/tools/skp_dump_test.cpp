@@ -2,7 +2,7 @@
 
 #include "image/decode_picture.h"
 #include "image/encode_picture.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tests/image/pictures.h"
 #include "tests/run_program.h"

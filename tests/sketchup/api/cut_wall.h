@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 // A wall of 10 by 10 inches in the plane z = 0, the first face of the model, and a window of 2 by 3 glued to it that
 // cuts an opening from (4, 5) on. Gives the window.

@@ -2,7 +2,7 @@
 
 // Faces with textures in every way they can lie.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include <array>
 

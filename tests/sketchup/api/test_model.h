@@ -3,7 +3,7 @@
 // Models built in memory behind handles, and short ways to ask them.
 
 #include "sketchup/api/handles.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/link.h"
 
 #include <string>

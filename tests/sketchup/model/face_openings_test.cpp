@@ -1,6 +1,6 @@
 #include "sketchup/model/face_openings.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/link.h"
 #include "tests/sketchup/model/print_points.h"
 

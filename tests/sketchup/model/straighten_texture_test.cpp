@@ -1,6 +1,6 @@
 #include "sketchup/model/straighten_texture.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/model/straightened_side.h"
 #include "sketchup/model/vector_math.h"
 #include "sketchup/skp/link.h"

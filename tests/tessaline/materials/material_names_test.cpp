@@ -3,7 +3,7 @@
 #include "tessaline/materials/material_names.h"
 
 #include "sketchup/api/handles.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/link.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 
 #include "tests/sketchup/skp/writer/archive_census.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/read_model.h"
 #include "sketchup/skp/writer/modern_writer.h"
 #include "tests/run_program.h"

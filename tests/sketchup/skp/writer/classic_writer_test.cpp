@@ -2,7 +2,7 @@
 
 #include "sketchup/skp/writer/classic_writer.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/read_model.h"
 #include "sketchup/skp/writer/classic_bodies.h"
 

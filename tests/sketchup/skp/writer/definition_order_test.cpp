@@ -1,6 +1,6 @@
 #include "sketchup/skp/writer/definition_order.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include <gtest/gtest.h>
 

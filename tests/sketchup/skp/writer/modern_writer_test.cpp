@@ -2,7 +2,7 @@
 
 #include "sketchup/skp/writer/modern_writer.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/modern/records.h"
 #include "sketchup/skp/read_model.h"
 

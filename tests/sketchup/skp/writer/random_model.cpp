@@ -1,6 +1,6 @@
 #include "tests/sketchup/skp/writer/random_model.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/model/vector_math.h"
 #include "sketchup/skp/classic/option_fields.h"
 #include "tests/sketchup/skp/writer/random_values.h"

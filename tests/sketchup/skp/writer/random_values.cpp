@@ -1,6 +1,6 @@
 #include "tests/sketchup/skp/writer/random_values.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include <iterator>
 

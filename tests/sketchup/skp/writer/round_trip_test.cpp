@@ -1,7 +1,7 @@
 // What is written is read again, whatever it is, in every version that has room for it.
 
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/model/face_openings.h"
-#include "sketchup/model/model_builder.h"
 #include "sketchup/skp/read_model.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "sketchup/skp/writer/modern_writer.h"

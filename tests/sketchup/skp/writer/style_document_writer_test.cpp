@@ -1,6 +1,6 @@
 #include "sketchup/skp/writer/style_document_writer.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/modern/formats.h"
 
 #include <gmock/gmock.h>

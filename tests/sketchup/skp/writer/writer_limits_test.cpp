@@ -1,6 +1,6 @@
 // Sizes at which the form of a file changes, or at which it is refused.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/format_error.h"
 #include "sketchup/skp/read_model.h"
 #include "sketchup/skp/writer/classic_writer.h"

@@ -1,6 +1,6 @@
 #include "sketchup/skp/writer/written_boxes.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include <gtest/gtest.h>
 

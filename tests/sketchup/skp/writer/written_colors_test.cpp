@@ -1,7 +1,7 @@
 #include "sketchup/skp/writer/written_colors.h"
 
 #include "image/encode_picture.h"
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "sketchup/skp/writer/written_lists.h"
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/blank_preview.h"
 #include "sketchup/skp/writer/written_colors.h"
 

@@ -1,6 +1,6 @@
 // What belongs to the model as a whole while it is being built: definitions, layers, materials, scenes, attributes.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include "sketchup/model/picture_format.h"
 

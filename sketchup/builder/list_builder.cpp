@@ -1,7 +1,7 @@
 // How geometry and placements enter an entity list that is being built.
 
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/model/area_vector.h"
-#include "sketchup/model/model_builder.h"
 #include "sketchup/model/vector_math.h"
 
 #include <algorithm>

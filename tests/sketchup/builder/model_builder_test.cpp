@@ -1,4 +1,4 @@
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 
 #include "sketchup/skp/link.h"
 

@@ -1,6 +1,6 @@
 // The values and placements that a program building a model writes down.
 
-#include "sketchup/model/model_builder.h"
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/model/vector_math.h"
 
 #include <cmath>
