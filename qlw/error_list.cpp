@@ -9,7 +9,7 @@
 void error_list_open(const std::string& title) {
     error_list_state& list = trace_state().error_list;
     list.file_name = get_application_data_folder() + platform::path_separator + "error_file.txt";
-    if (!list.file.open(list.file_name, quiet_open))
+    if (!list.file.open(list.file_name, output_file_mode::quiet))
         return;
     const auto now = static_cast<std::int64_t>(platform::seconds_since_epoch());
     list.file.write_format("ERROR LIST: %s: %s\n", title, platform::local_time_text(now, "%X"));
@@ -24,7 +24,7 @@ void error_list_append(const std::string& text) {
     list.is_writing = true;
     if (list.file_name.empty())
         error_list_open({});
-    if (list.file.open_for_append(list.file_name, report_failure)) {
+    if (list.file.open_for_append(list.file_name, open_failure::shown)) {
         list.file.write_format("%s\n", text);
         if (list.has_file)
             list.file.close();

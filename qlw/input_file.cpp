@@ -21,7 +21,8 @@ char escaped_letter(char letter, const std::string& line) {
 
 } // namespace
 
-bool cl_input_file::open(const std::string& path, int quiet, const std::string& source_file, int source_line) {
+bool cl_input_file::open(const std::string& path, open_failure failure, const std::string& source_file,
+                         int source_line) {
     const std::string name = resolve_file_path({}, {}, path);
     if (name.find(".ini") != std::string::npos) // users edit these, so the trace tells which one was read
         cl_trace::here("cl_input_file::open", trace_level::plain).report("Opening .ini file: %s", name);
@@ -30,17 +31,18 @@ bool cl_input_file::open(const std::string& path, int quiet, const std::string& 
     const std::string cause = stream.failure().empty() ? "File not found" : stream.failure();
     cl_trace("qlw_std", __LINE__, "cl_input_file::open", trace_level::report, 0)
         .report("File not opened: %s: %s: %s %d", name, cause, source_file, source_line);
-    if (quiet == 0)
+    if (failure == open_failure::shown)
         cl_trace("qlw_std", __LINE__, "cl_input_file::open", trace_level::user_error, 0)
             .report("Cannot open file: '%s' %s: %s %d", name, cause, source_file, source_line);
     return false;
 }
 
-bool cl_input_file::open_binary(const std::string& path, int quiet, const std::string& source_file, int source_line) {
+bool cl_input_file::open_binary(const std::string& path, open_failure failure, const std::string& source_file,
+                                int source_line) {
     const std::string name = resolve_file_path({}, {}, path);
     if (open_stream(name, platform::open_mode::read, content::binary))
         return true;
-    if (quiet == 0)
+    if (failure == open_failure::shown)
         cl_trace::here("cl_input_file::open_binary", trace_level::user_error)
             .report("Cannot open file: %s: %s %d", name, source_file, source_line);
     return false;

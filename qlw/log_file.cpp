@@ -20,7 +20,7 @@ const std::string& log_file_name() {
 }
 
 bool start_log_file(cl_output_file& log) {
-    if (!log.open(log_file_name(), report_failure))
+    if (!log.open(log_file_name(), output_file_mode::report_failure))
         return false;
     trace_state().log_file_is_new = false;
     log.write_format("LOGFL: %s: %s\n", application_name, version_text);
@@ -37,7 +37,7 @@ void show_log_notice() {
     state.log_notice_shown = true;
     platform::message_box("Log File", "Writing log messages to file: " + log_file_name());
     cl_output_file log;
-    if (log.open_for_append(log_file_name(), quiet_open))
+    if (log.open_for_append(log_file_name(), open_failure::quiet))
         log.write_format("After Log File Message Box\n");
 }
 
@@ -49,7 +49,8 @@ void write_log_line(std::string_view line) {
         return;
     state.writing_log = true;
     cl_output_file log;
-    const bool is_open = state.log_file_is_new ? start_log_file(log) : log.open_for_append(log_file_name(), quiet_open);
+    const bool is_open =
+        state.log_file_is_new ? start_log_file(log) : log.open_for_append(log_file_name(), open_failure::quiet);
     if (is_open) {
         log.write_format(line.ends_with('\n') ? "%s" : "%s\n", line);
         log.close();

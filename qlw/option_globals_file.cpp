@@ -107,7 +107,7 @@ void read_option_globals(const std::string& path) {
     if (path.empty() || !platform::exists(path))
         return;
     cl_input_file file;
-    if (file.open(path, quiet_open, "qlw_globals", __LINE__))
+    if (file.open(path, open_failure::quiet, "option_globals_file", __LINE__))
         read_option_globals_from_open_file(file);
 }
 

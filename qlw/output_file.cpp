@@ -17,15 +17,15 @@ void report_not_created(const std::string& name, int line, const char* function)
 
 } // namespace
 
-bool cl_output_file::open(const std::string& path, int mode) {
+bool cl_output_file::open(const std::string& path, output_file_mode mode) {
     const std::string name = resolve_file_path({}, {}, path);
     if (name.find(".ini") != std::string::npos)
         cl_trace::here("cl_output_file::open", trace_level::plain).report("Opening .ini file: %s", name);
-    if (!open_stream(name, platform::open_mode::write, content::text) && mode == report_failure) {
+    if (!open_stream(name, platform::open_mode::write, content::text) && mode == output_file_mode::report_failure) {
         report_not_created(name, __LINE__, "cl_output_file::open");
         return false;
     }
-    if (mode == write_test && !passes_write_test())
+    if (mode == output_file_mode::write_test && !passes_write_test())
         return false;
     return is_open();
 }
@@ -39,7 +39,7 @@ bool cl_output_file::passes_write_test() {
     write_string(written);
     close();
     cl_input_file reader;
-    if (!reader.open(name, quiet_open, {}, 0)) {
+    if (!reader.open(name, open_failure::quiet, {}, 0)) {
         cl_trace::here("cl_output_file::open", trace_level::user_error)
             .report("Cannot create file: '%s'. Unable to write to, and then re-open file\n\nMake sure that the file "
                     "path exists and that the file is not in use by another program.",
@@ -59,20 +59,20 @@ bool cl_output_file::passes_write_test() {
     return open_stream(name, platform::open_mode::write, content::text);
 }
 
-bool cl_output_file::open_for_append(const std::string& path, int quiet) {
+bool cl_output_file::open_for_append(const std::string& path, open_failure failure) {
     const std::string name = resolve_file_path({}, {}, path);
     if (open_stream(name, platform::open_mode::append, content::text))
         return true;
-    if (quiet == 0)
+    if (failure == open_failure::shown)
         report_not_created(name, __LINE__, "cl_output_file::open_for_append");
     return false;
 }
 
-bool cl_output_file::open_binary(const std::string& path, int quiet) {
+bool cl_output_file::open_binary(const std::string& path, open_failure failure) {
     const std::string name = resolve_file_path({}, {}, path);
     if (open_stream(name, platform::open_mode::write, content::binary))
         return true;
-    if (quiet == 0)
+    if (failure == open_failure::shown)
         report_not_created(name, __LINE__, "cl_output_file::open_binary");
     return false;
 }

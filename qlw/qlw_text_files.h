@@ -57,12 +57,15 @@ private:
     std::size_t read_from = 0; // index of the next byte of read_ahead
 };
 
+// Whether the user is shown that a file cannot be opened; quiet where it may be absent.
+enum class open_failure { shown, quiet };
+
 class cl_input_file : public cl_stdio_file {
 public:
-    // Opens for reading; true if the file is open. quiet: 1 if the file may be absent, 0 to show a failure to the user.
+    // Opens for reading; true if the file is open.
     // source_file, source_line: the caller's place, for the message; empty and 0 if it has none.
-    bool open(const std::string& path, int quiet, const std::string& source_file, int source_line);
-    bool open_binary(const std::string& path, int quiet, const std::string& source_file, int source_line);
+    bool open(const std::string& path, open_failure failure, const std::string& source_file, int source_line);
+    bool open_binary(const std::string& path, open_failure failure, const std::string& source_file, int source_line);
 
     // The next field of a line of fields separated by ";", trimmed on both sides; cut from `line` with its separator. A
     // field that begins with a double quote may hold separators; inside, two quotes are one, quote r is a carriage
@@ -71,20 +74,20 @@ public:
 };
 
 // What cl_output_file::open does beside opening.
-enum output_file_mode {
+enum class output_file_mode {
     report_failure = 0, // shows a failure to the user
-    quiet_open = 1,
+    quiet = 1,
     write_test = 3, // also writes a line, reads it back and empties the file, to prove that the disk takes data
 };
 
 class cl_output_file : public cl_stdio_file {
 public:
-    // Makes or empties a text file; true if it is open. mode: one of output_file_mode.
-    bool open(const std::string& path, int mode);
-    // Opens a text file at its end, making it if missing. quiet: 0 shows a failure to the user.
-    bool open_for_append(const std::string& path, int quiet);
+    // Makes or empties a text file; true if it is open.
+    bool open(const std::string& path, output_file_mode mode);
+    // Opens a text file at its end, making it if missing.
+    bool open_for_append(const std::string& path, open_failure failure);
     // Makes or empties a binary file.
-    bool open_binary(const std::string& path, int quiet);
+    bool open_binary(const std::string& path, open_failure failure);
 
     // Writes a text formed as by printf. A format that does not fit its arguments writes nothing; a failed write is
     // not reported.

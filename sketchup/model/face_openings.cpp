@@ -2,6 +2,7 @@
 
 #include "sketchup/model/area_vector.h"
 #include "sketchup/model/loop_corners.h"
+#include "sketchup/model/opening_tolerance.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,7 @@
 #include "sketchup/model/opening_outlines.h"
 
 #include "sketchup/model/loop_corners.h"
+#include "sketchup/model/opening_tolerance.h"
 #include "sketchup/model/vector_math.h"
 
 #include <cmath>

@@ -8,9 +8,6 @@
 
 namespace sketchup {
 
-// Lines and points of an opening that are closer than this count as one; inches.
-inline constexpr double opening_tolerance = 1e-3;
-
 // Whether a group or an instance is drawn as far as it and its layer tell, not what holds it. Only what is drawn cuts.
 // The folder of a layer has no say, as nowhere in the provider.
 bool is_drawn(const model& m, const placement& p);

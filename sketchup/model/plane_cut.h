@@ -3,6 +3,7 @@
 // What openings leave of a face.
 
 #include "sketchup/model/model.h"
+#include "sketchup/model/opening_tolerance.h"
 
 #include <cstddef>
 #include <span>
@@ -40,7 +41,7 @@ struct plane_cut {
 
 struct cut_limits {
     // Outlines closer than this are joined, pieces narrower are dropped; inches. At 0 nothing is moved or dropped.
-    double tolerance = 1e-3;
+    double tolerance = opening_tolerance;
     // Pairs of lines side by side in the plane that are worth looking at for one face, about 0.3 s.
     std::size_t most_pairs = 20'000'000;
 };

@@ -11,7 +11,7 @@
 bool write_decoded_file(const cl_hex_encode& decoded, const std::string& path) {
     platform::delete_file(path);
     cl_output_file file;
-    if (!file.open_binary(path, quiet_open))
+    if (!file.open_binary(path, open_failure::quiet))
         return false;
     file.write_data(decoded.data.data(), decoded.data.size());
     // A few characters may announce 50 MB: writing the last of the zeros alone leaves a gap that takes no room.

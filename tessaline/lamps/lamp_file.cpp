@@ -14,7 +14,7 @@ void write_vector(cl_output_file& file, std::string_view format, const fpt& vect
 
 void write_lamp_file(const std::string& path, const cl_slp_light& light, const placed_lamp& placed) {
     cl_output_file file;
-    if (!file.open(path, quiet_open))
+    if (!file.open(path, output_file_mode::quiet))
         return;
     write_vector(file, "location;(%f,%f,%f)\n", placed.location);
     write_vector(file, "direction;(%f,%f,%f)\n", placed.direction);

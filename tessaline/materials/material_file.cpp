@@ -67,7 +67,7 @@ void write_surface(cl_output_file& file, const cl_material_params& params) {
 
 void write_material_file(const cl_material_params& params, const std::string& matl_line, const std::string& path) {
     cl_output_file file;
-    if (path.empty() || !file.open(path, quiet_open))
+    if (path.empty() || !file.open(path, output_file_mode::quiet))
         return;
     write_names(file, params, matl_line);
     write_colors(file, params);

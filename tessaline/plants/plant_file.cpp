@@ -13,7 +13,7 @@ namespace {
 
 void write_plant_file(const std::string& path, std::string text) {
     cl_output_file file;
-    if (!file.open_binary(path, quiet_open))
+    if (!file.open_binary(path, open_failure::quiet))
         return;
     std::erase(text, '\n');
     const std::string bytes = decode_base64(text);

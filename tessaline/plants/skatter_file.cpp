@@ -11,7 +11,7 @@ namespace {
 // Runs over the lines that are no comments.
 void for_each_line(const std::string& path, const std::function<void(std::string&)>& use) {
     cl_input_file file;
-    if (!file.open(path, quiet_open, "skatter_file", __LINE__))
+    if (!file.open(path, open_failure::quiet, "skatter_file", __LINE__))
         return;
     std::string line;
     while (file.read_line(line))

@@ -81,13 +81,13 @@ constexpr std::uint64_t largest_kept_options = 1 << 24; // bytes; a file with ev
 void rewrite_option_globals(const std::string& path) {
     const auto before = platform::read_file(path, largest_kept_options);
     cl_output_file file;
-    file.open(path, quiet_open);
+    file.open(path, output_file_mode::quiet);
     write_option_globals_to_open_file(file);
     if (!file.is_open() || file.close() || !before)
         return;
     cl_trace::here("rewrite_option_globals", trace_level::report).report("Options not rewritten: %s", path);
     cl_output_file again;
-    if (again.open_binary(path, quiet_open))
+    if (again.open_binary(path, open_failure::quiet))
         again.write_data(before->data(), before->size());
 }
 

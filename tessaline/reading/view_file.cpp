@@ -113,7 +113,7 @@ camera_view read_view_file(const std::string& batch_folder) {
     camera_view view;
     const std::string path = view_file_path(batch_folder);
     cl_input_file file;
-    if (path.empty() || !file.open(path, quiet_open, "view_file", __LINE__))
+    if (path.empty() || !file.open(path, open_failure::quiet, "view_file", __LINE__))
         return view;
     std::string line;
     while (file.read_line(line) && read_view_line(line, view)) {

@@ -21,7 +21,7 @@ void read_alone(const temporary_folder& folder, std::string_view text) {
 
 std::string written(const temporary_folder& folder) {
     cl_output_file file;
-    file.open(folder / "out.txt", quiet_open);
+    file.open(folder / "out.txt", output_file_mode::quiet);
     write_option_globals_to_open_file(file);
     file.close();
     return folder.read("out.txt");

@@ -1,9 +1,10 @@
 // Takes any bytes as components of loose lines that are glued to a face, and checks the openings that they cut.
 
+#include "sketchup/builder/model_builder.h"
 #include "sketchup/model/area_vector.h"
 #include "sketchup/model/face_openings.h"
-#include "sketchup/model/model_builder.h"
 #include "sketchup/model/opening_outlines.h"
+#include "sketchup/model/opening_tolerance.h"
 #include "sketchup/skp/format_error.h"
 #include "sketchup/skp/link.h"
 

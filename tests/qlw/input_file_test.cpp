@@ -18,7 +18,7 @@ TEST(InputFile, opens_what_exists_without_a_word) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_input_file file;
-    EXPECT_TRUE(file.open(folder.write("a.txt", "text"), 0, "source", 5));
+    EXPECT_TRUE(file.open(folder.write("a.txt", "text"), open_failure::shown, "source", 5));
     EXPECT_TRUE(file.is_open());
     EXPECT_EQ(file.path(), folder / "a.txt");
     EXPECT_EQ(capture.text(), "");
@@ -28,7 +28,7 @@ TEST(InputFile, missing_and_quiet_is_only_traced) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_input_file file;
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", 1, "caller", 77)); }), "");
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", open_failure::quiet, "caller", 77)); }), "");
     EXPECT_FALSE(file.is_open());
     EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " +
                                                        (folder / "none") + ": No such file or directory: caller 77\n");
@@ -38,7 +38,7 @@ TEST(InputFile, missing_and_not_quiet_is_shown_too) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_input_file file;
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", 0, "", 0)); }),
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", open_failure::shown, "", 0)); }),
               "Tessaline - Error: Cannot open file: '" + (folder / "none") + "' No such file or directory:  0");
     EXPECT_EQ(capture.text_without_line_numbers(),
               "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " + (folder / "none") +
@@ -51,7 +51,7 @@ TEST(InputFile, a_folder_is_no_file) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_input_file file;
-    EXPECT_FALSE(file.open(folder.name(), 1, "", 0));
+    EXPECT_FALSE(file.open(folder.name(), open_failure::quiet, "", 0));
     EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " +
                                                        folder.name() + ": Is a directory:  0\n");
 }
@@ -60,9 +60,9 @@ TEST(InputFile, a_binary_file_that_is_missing_is_shown_unless_quiet_and_never_ju
     const temporary_folder folder;
     const trace_capture capture;
     cl_input_file file;
-    EXPECT_FALSE(file.open_binary(folder / "none", 1, "caller", 77));
+    EXPECT_FALSE(file.open_binary(folder / "none", open_failure::quiet, "caller", 77));
     EXPECT_EQ(capture.text(), "");
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_binary(folder / "none", 0, "caller", 77)); }),
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_binary(folder / "none", open_failure::shown, "caller", 77)); }),
               "Tessaline - Error: Cannot open file: " + (folder / "none") + ": caller 77");
     EXPECT_EQ(capture.text_without_line_numbers(),
               "input_file(#): cl_input_file::open_binary():: *** ERROR: Cannot open file: " + (folder / "none") +
@@ -73,9 +73,9 @@ TEST(InputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_input_file file;
-    EXPECT_TRUE(file.open(folder.write("user.ini", ""), 0, "", 0));
-    EXPECT_TRUE(file.open(folder.write("x.initial/a.txt", ""), 0, "", 0));
-    EXPECT_TRUE(file.open_binary(folder / "user.ini", 0, "", 0));
+    EXPECT_TRUE(file.open(folder.write("user.ini", ""), open_failure::shown, "", 0));
+    EXPECT_TRUE(file.open(folder.write("x.initial/a.txt", ""), open_failure::shown, "", 0));
+    EXPECT_TRUE(file.open_binary(folder / "user.ini", open_failure::shown, "", 0));
     EXPECT_EQ(capture.text_without_line_numbers(),
               "input_file(#): cl_input_file::open():: Opening .ini file: " + (folder / "user.ini") + "\n" +
                   "input_file(#): cl_input_file::open():: Opening .ini file: " + (folder / "x.initial/a.txt") + "\n");

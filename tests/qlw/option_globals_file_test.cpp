@@ -19,13 +19,13 @@ protected:
     // Whether reading these lines changed a setting.
     bool changes(const std::string& lines) {
         cl_input_file file;
-        EXPECT_TRUE(file.open(folder.write("in.txt", lines), 0, "test", __LINE__));
+        EXPECT_TRUE(file.open(folder.write("in.txt", lines), open_failure::shown, "test", __LINE__));
         return read_option_globals_from_open_file(file);
     }
 
     std::string written() {
         cl_output_file file;
-        EXPECT_TRUE(file.open(folder / "out.txt", quiet_open));
+        EXPECT_TRUE(file.open(folder / "out.txt", output_file_mode::quiet));
         write_option_globals_to_open_file(file);
         file.close();
         return folder.read("out.txt");
@@ -257,6 +257,7 @@ TEST_F(OptionGlobalsFile, a_file_that_cannot_be_opened_is_reported_and_not_shown
     const std::vector<traced_line> lines = trace.take();
     ASSERT_EQ(lines.size(), 1u);
     EXPECT_THAT(lines[0].text, testing::StartsWith("REPORT: File not opened: " + name + ": "));
+    EXPECT_THAT(lines[0].text, testing::ContainsRegex(": option_globals_file [0-9]+$"));
     EXPECT_FALSE(lines[0].is_shown);
 }
 

@@ -45,7 +45,7 @@ TEST(OutputFile, opening_empties_an_old_file) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_TRUE(file.open(folder.write("a", "old"), report_failure));
+    EXPECT_TRUE(file.open(folder.write("a", "old"), output_file_mode::report_failure));
     EXPECT_EQ(folder.read("a"), "");
     EXPECT_EQ(capture.text(), "");
 }
@@ -54,7 +54,7 @@ TEST(OutputFile, that_cannot_be_made_is_shown_in_mode_0) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none/a", 0)); }),
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none/a", output_file_mode::report_failure)); }),
               "Tessaline - Error: " + not_created(folder / "none/a"));
     EXPECT_FALSE(file.is_open());
     EXPECT_EQ(capture.text_without_line_numbers(),
@@ -65,9 +65,9 @@ TEST(OutputFile, that_cannot_be_made_is_passed_over_in_quiet_mode) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_FALSE(file.open(folder / "none/a", 1));
-    EXPECT_FALSE(file.open_for_append(folder / "none/a", 1));
-    EXPECT_FALSE(file.open_binary(folder / "none/a", 1));
+    EXPECT_FALSE(file.open(folder / "none/a", output_file_mode::quiet));
+    EXPECT_FALSE(file.open_for_append(folder / "none/a", open_failure::quiet));
+    EXPECT_FALSE(file.open_binary(folder / "none/a", open_failure::quiet));
     EXPECT_EQ(capture.text(), "");
 }
 
@@ -75,7 +75,7 @@ TEST(OutputFile, an_ini_file_is_announced) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_TRUE(file.open(folder / "a.ini", 0));
+    EXPECT_TRUE(file.open(folder / "a.ini", output_file_mode::report_failure));
     EXPECT_EQ(capture.text_without_line_numbers(),
               "output_file(#): cl_output_file::open():: Opening .ini file: " + (folder / "a.ini") + "\n");
 }
@@ -85,7 +85,7 @@ TEST(OutputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) 
     folder.make_folder("x.ini.d");
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_TRUE(file.open(folder / "x.ini.d/a", 0));
+    EXPECT_TRUE(file.open(folder / "x.ini.d/a", output_file_mode::report_failure));
     EXPECT_EQ(capture.text_without_line_numbers(),
               "output_file(#): cl_output_file::open():: Opening .ini file: " + (folder / "x.ini.d/a") + "\n");
 }
@@ -93,9 +93,9 @@ TEST(OutputFile, an_ini_file_is_announced_even_if_only_its_folder_has_the_word) 
 TEST(OutputFile, appending_keeps_what_is_there_and_makes_what_is_missing) {
     const temporary_folder folder;
     cl_output_file file;
-    EXPECT_TRUE(file.open_for_append(folder.write("a", "old\r\n"), 0));
+    EXPECT_TRUE(file.open_for_append(folder.write("a", "old\r\n"), open_failure::shown));
     file.write_string("new\n");
-    EXPECT_TRUE(file.open_for_append(folder / "b", 0));
+    EXPECT_TRUE(file.open_for_append(folder / "b", open_failure::shown));
     file.write_string("new\n");
     file.close();
     EXPECT_EQ(folder.read("a"), "old\r\nnew\r\n");
@@ -106,9 +106,9 @@ TEST(OutputFile, appending_and_binary_opens_report_in_the_same_words) {
     const temporary_folder folder;
     trace_capture capture;
     cl_output_file file;
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_for_append(folder / "none/a", 0)); }),
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_for_append(folder / "none/a", open_failure::shown)); }),
               "Tessaline - Error: " + not_created(folder / "none/a"));
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_binary(folder / "none/a", 0)); }),
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open_binary(folder / "none/a", open_failure::shown)); }),
               "Tessaline - Error: " + not_created(folder / "none/a"));
     EXPECT_EQ(
         capture.text_without_line_numbers(),
@@ -120,7 +120,7 @@ TEST(OutputFile, the_write_test_leaves_an_empty_open_file) {
     const temporary_folder folder;
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_TRUE(file.open(folder.write("a", "old"), write_test));
+    EXPECT_TRUE(file.open(folder.write("a", "old"), output_file_mode::write_test));
     EXPECT_TRUE(file.is_open());
     EXPECT_EQ(folder.read("a"), "");
     file.write_string("kept\n");
@@ -138,7 +138,7 @@ TEST(OutputFile, the_write_test_finds_a_file_that_cannot_be_opened_again) {
     cl_output_file file;
     {
         const as_ordinary_user user;
-        EXPECT_FALSE(file.open(folder / "a", write_test));
+        EXPECT_FALSE(file.open(folder / "a", output_file_mode::write_test));
     }
     EXPECT_FALSE(file.is_open());
     ASSERT_EQ(desktop.shown.size(), 1u);
@@ -158,7 +158,7 @@ TEST(OutputFile, the_write_test_finds_a_file_that_forgets_what_is_written) {
     const std::string before = text_of_file(name);
     const trace_capture capture;
     cl_output_file file;
-    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(name, write_test)); }),
+    EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(name, output_file_mode::write_test)); }),
               "Tessaline - Error: Cannot create file: '/proc/self/comm'. Unable to write to, and then re-read file\n\n"
               "Make sure that the file path exists and that the file is not in use by another program.");
     EXPECT_FALSE(file.is_open());
@@ -172,7 +172,7 @@ TEST(OutputFile, the_write_test_finds_a_file_that_forgets_what_is_written) {
 TEST(OutputFile, formatted_text_ends_its_lines_with_cr_lf) {
     const temporary_folder folder;
     cl_output_file file;
-    file.open(folder / "a", report_failure);
+    file.open(folder / "a", output_file_mode::report_failure);
     file.write_format("%s=%d;%.9g\n", "name", 3, 0.1);
     file.write_format("too few: %d %d\n", 1);
     file.write_format("plain %%\n");
@@ -183,7 +183,7 @@ TEST(OutputFile, formatted_text_ends_its_lines_with_cr_lf) {
 TEST(OutputFile, raw_data_in_a_text_file_stays_raw) {
     const temporary_folder folder;
     cl_output_file file;
-    file.open(folder / "a", report_failure);
+    file.open(folder / "a", output_file_mode::report_failure);
     EXPECT_TRUE(file.write_data("a\nb", 3));
     file.close();
     EXPECT_EQ(folder.read("a"), "a\nb");
@@ -193,7 +193,7 @@ TEST(OutputFile, raw_data_that_a_full_disk_refuses_is_traced_and_counts_as_writt
     const trace_capture capture;
     const std::string data(100000, 'x');
     cl_output_file file;
-    ASSERT_TRUE(file.open_binary("/dev/full", 0));
+    ASSERT_TRUE(file.open_binary("/dev/full", open_failure::shown));
     EXPECT_EQ(shown([&] { EXPECT_TRUE(file.write_data(data.data(), data.size())); }), "");
     EXPECT_EQ(capture.text_without_line_numbers(),
               "output_file(#): cl_output_file::write_data():: *** ERROR: Cannot write to file: /dev/full.\n");

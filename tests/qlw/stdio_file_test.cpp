@@ -11,9 +11,9 @@ namespace {
 std::vector<std::string> lines_of(const std::string& path, bool binary = false) {
     cl_input_file file;
     if (binary)
-        file.open_binary(path, 1, "", 0);
+        file.open_binary(path, open_failure::quiet, "", 0);
     else
-        file.open(path, 1, "", 0);
+        file.open(path, open_failure::quiet, "", 0);
     std::vector<std::string> lines;
     for (std::string line; file.read_line(line);)
         lines.push_back(line);
@@ -25,7 +25,7 @@ using texts = std::vector<std::string>;
 TEST(TextFile, lines_end_with_cr_lf_on_every_platform) {
     const temporary_folder folder;
     cl_output_file file;
-    ASSERT_TRUE(file.open(folder / "a", report_failure));
+    ASSERT_TRUE(file.open(folder / "a", output_file_mode::report_failure));
     EXPECT_TRUE(file.write_string("one\n\ntwo\nend"));
     EXPECT_TRUE(file.close());
     EXPECT_EQ(folder.read("a"), "one\r\n\r\ntwo\r\nend");
@@ -60,7 +60,7 @@ TEST(TextFile, a_line_beyond_the_longest_is_passed_over_with_a_trace) {
     const trace_capture trace;
     const std::string name = folder.write("a", "four\nfives\n\nend\nlonger still");
     cl_input_file file;
-    ASSERT_TRUE(file.open(name, 1, "", 0));
+    ASSERT_TRUE(file.open(name, open_failure::quiet, "", 0));
     file.longest_line = 4;
     texts found;
     for (std::string line; file.read_line(line);)
@@ -74,7 +74,7 @@ TEST(TextFile, a_line_beyond_the_longest_is_passed_over_with_a_trace) {
 TEST(TextFile, a_line_beyond_the_longest_may_take_many_buffers) {
     const temporary_folder folder;
     cl_input_file file;
-    ASSERT_TRUE(file.open(folder.write("a", std::string(300000, 'a') + "\r\nend\r\n"), 1, "", 0));
+    ASSERT_TRUE(file.open(folder.write("a", std::string(300000, 'a') + "\r\nend\r\n"), open_failure::quiet, "", 0));
     file.longest_line = 100000;
     std::string line;
     ASSERT_TRUE(file.read_line(line));
@@ -85,7 +85,7 @@ TEST(TextFile, a_line_beyond_the_longest_may_take_many_buffers) {
 TEST(TextFile, more_than_a_buffer_is_written_whole_and_in_order) {
     const temporary_folder folder;
     cl_output_file file;
-    file.open(folder / "a", report_failure);
+    file.open(folder / "a", output_file_mode::report_failure);
     std::string expected;
     for (int i = 0; i < 20000; i++) {
         file.write_format("line %d\n", i);
@@ -99,7 +99,7 @@ TEST(BinaryFile, bytes_are_written_unchanged) {
     const temporary_folder folder;
     const std::string bytes("a\nb\r\n\0c", 7);
     cl_output_file output;
-    ASSERT_TRUE(output.open_binary(folder / "a", 0));
+    ASSERT_TRUE(output.open_binary(folder / "a", open_failure::shown));
     EXPECT_TRUE(output.write_data(bytes.data(), bytes.size()));
     output.close();
     EXPECT_EQ(folder.read("a"), bytes);
@@ -113,7 +113,7 @@ TEST(BinaryFile, a_carriage_return_belongs_to_the_line) {
 TEST(File, a_flush_puts_what_was_written_on_the_disk) {
     const temporary_folder folder;
     cl_output_file file;
-    file.open(folder / "a", report_failure);
+    file.open(folder / "a", output_file_mode::report_failure);
     file.write_string("x");
     EXPECT_EQ(folder.read("a"), "");
     EXPECT_TRUE(file.flush());
@@ -123,7 +123,7 @@ TEST(File, a_flush_puts_what_was_written_on_the_disk) {
 TEST(File, a_seek_goes_on_from_another_place) {
     const temporary_folder folder;
     cl_input_file input;
-    input.open(folder.write("a", "one\ntwo\n"), 0, "", 0);
+    input.open(folder.write("a", "one\ntwo\n"), open_failure::shown, "", 0);
     std::string line;
     input.read_line(line);
     EXPECT_TRUE(input.seek(1));
@@ -131,7 +131,7 @@ TEST(File, a_seek_goes_on_from_another_place) {
     EXPECT_EQ(line, "ne");
 
     cl_output_file output;
-    output.open_binary(folder / "b", 0);
+    output.open_binary(folder / "b", open_failure::shown);
     output.write_string("0123456789");
     EXPECT_TRUE(output.seek(3));
     output.write_string("xy");
@@ -156,7 +156,7 @@ TEST(File, is_closed_when_destroyed) {
     const temporary_folder folder;
     {
         cl_output_file file;
-        file.open(folder / "a", report_failure);
+        file.open(folder / "a", output_file_mode::report_failure);
         file.write_string("x\n");
     }
     EXPECT_EQ(folder.read("a"), "x\r\n");
@@ -165,9 +165,9 @@ TEST(File, is_closed_when_destroyed) {
 TEST(File, opening_another_file_closes_the_first) {
     const temporary_folder folder;
     cl_output_file file;
-    file.open(folder / "a", report_failure);
+    file.open(folder / "a", output_file_mode::report_failure);
     file.write_string("first");
-    file.open(folder / "b", report_failure);
+    file.open(folder / "b", output_file_mode::report_failure);
     file.write_string("second");
     EXPECT_EQ(file.path(), folder / "b");
     file.close();
@@ -177,7 +177,7 @@ TEST(File, opening_another_file_closes_the_first) {
 
 TEST(File, a_full_disk_shows_at_the_close) {
     cl_output_file file;
-    ASSERT_TRUE(file.open("/dev/full", report_failure));
+    ASSERT_TRUE(file.open("/dev/full", output_file_mode::report_failure));
     EXPECT_TRUE(file.write_string("gathered"));
     EXPECT_FALSE(file.close());
     EXPECT_FALSE(file.is_open());

@@ -4,6 +4,7 @@
 #include "sketchup/model/area_vector.h"
 #include "sketchup/model/face_openings.h"
 #include "sketchup/model/loop_corners.h"
+#include "sketchup/model/opening_tolerance.h"
 #include "sketchup/skp/read_model.h"
 #include "tests/samples/expected_openings.h"
 

@@ -269,7 +269,7 @@ TEST_F(Images, the_extraction_log_names_picture_layer_and_place) {
     set_global_bool("bcomm_use_extraction_log_file", true);
     set_global_double("rvl_image_offset", 0.5);
     const std::string log_name = batch / "log.txt";
-    trace_state().extraction_log.open(log_name, quiet_open);
+    trace_state().extraction_log.open(log_name, output_file_mode::quiet);
     place(2, 2, moved({1, 2, 3}));
     process();
     EXPECT_EQ(text_of_file(log_name), "Image: Tree.png,  layer: Layer0, loc: (1, 2, 3.5)\r\n") << "it was flushed";
@@ -279,7 +279,7 @@ TEST_F(Images, the_extraction_log_names_picture_layer_and_place) {
 TEST_F(Images, the_extraction_log_stays_empty_while_its_setting_is_off) {
     set_global_bool("bcomm_use_extraction_log_file", false);
     const std::string log_name = batch / "log.txt";
-    trace_state().extraction_log.open(log_name, quiet_open);
+    trace_state().extraction_log.open(log_name, output_file_mode::quiet);
     place(2, 2);
     process();
     EXPECT_EQ(text_of_file(log_name), "");

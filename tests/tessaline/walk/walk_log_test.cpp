@@ -17,7 +17,7 @@ protected:
     WalkLog() {
         set_global_bool("bcomm_use_extraction_log_file", true);
         set_global_double("rvl_image_offset", 0);
-        trace_state().extraction_log.open(batch / "log.txt", quiet_open);
+        trace_state().extraction_log.open(batch / "log.txt", output_file_mode::quiet);
     }
     ~WalkLog() override { trace_state().extraction_log.close(); }
 
