@@ -86,8 +86,7 @@ void write_string_to_ini_file(std::string_view section, std::string_view key, st
 
 std::string get_string_from_default_ini(std::string_view section, std::string_view key, std::string_view default_value,
                                         std::string_view file) {
+    const std::string fallback(default_value.substr(0, longest_value));
     const std::string name = default_file_name(file);
-    if (name.empty())
-        return std::string(default_value);
-    return value_in(name, section, key).value_or(std::string(default_value).substr(0, longest_value));
+    return name.empty() ? fallback : value_in(name, section, key).value_or(fallback);
 }

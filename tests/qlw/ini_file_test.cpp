@@ -48,6 +48,7 @@ TEST_F(IniFile, a_default_is_cut_to_4095_bytes_too) {
     const std::string cut(4095, 'x');
     EXPECT_EQ(get_string_from_ini_file("a", "key", longer, "Lamps"), cut);
     EXPECT_EQ(get_string_from_default_ini("a", "key", longer, folder / "missing"), cut);
+    EXPECT_EQ(get_string_from_default_ini("a", "key", longer, "missing"), cut);
 }
 
 TEST_F(IniFile, a_write_makes_folder_section_and_key) {
