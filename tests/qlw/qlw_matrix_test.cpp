@@ -142,6 +142,14 @@ TEST(PlacementFromNormal, a_nearly_level_normal_takes_the_helper_above_the_point
                 {0, -1, 0}); // (1, 0, 0.00009) x (0, 0, 1); with the helper (1, 0, 0) it were (0, 1, 0)
 }
 
+TEST(PlacementFromNormal, the_helper_above_the_point_lies_on_no_other_axis) {
+    cl_matrix matrix;
+    EXPECT_TRUE(matrix.create_from_normal({0, 0, 0}, {0, 1, 0}));
+    expect_near(axis(matrix, 0), {1, 0, 0}); // (0, 1, 0) x (0, 0, 1)
+    EXPECT_TRUE(matrix.create_from_normal({0, 0, 0}, {1, 0, 0}));
+    expect_near(axis(matrix, 0), {0, -1, 0}); // (1, 0, 0) x (0, 0, 1)
+}
+
 TEST(PlacementFromNormal, a_normal_just_steep_enough_takes_the_helper_beside_the_point) {
     cl_matrix matrix;
     EXPECT_TRUE(matrix.create_from_normal({0, 0, 0}, {1, 0, 0.0001}));

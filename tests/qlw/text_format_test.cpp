@@ -22,9 +22,13 @@ TEST(TextFormat, text_is_padded_and_cut) {
     EXPECT_EQ(format_text("[%5s][%-5s][%.2s][%5.1s]", "abc", "abc", "abc", "abc"), "[  abc][abc  ][ab][    a]");
 }
 
+TEST(TextFormat, the_flag_for_zeros_fills_text_with_blanks) {
+    EXPECT_EQ(format_text("[%05s]", "abc"), "[  abc]");
+}
+
 TEST(TextFormat, integers_have_the_forms_of_printf) {
     EXPECT_EQ(format_text("%d %i %u", -7, 8, 9u), "-7 8 9");
-    EXPECT_EQ(format_text("%x %06x %02x %X", 255, 0xabcd, 10, 0xbeef), "ff 00abcd 0a BEEF");
+    EXPECT_EQ(format_text("%x %06x %02x %X", 255, 0xabcd, 10, 0xabcdef90), "ff 00abcd 0a ABCDEF90");
     EXPECT_EQ(format_text("[%5d][%-5d][%05d][%+d][% d]", 42, 42, -42, 42, 42), "[   42][42   ][-0042][+42][ 42]");
     EXPECT_EQ(format_text("%.3d [%6.3d]", 7, -7), "007 [  -007]");
     EXPECT_EQ(format_text("%o", 8), "10");

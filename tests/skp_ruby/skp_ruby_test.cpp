@@ -171,7 +171,7 @@ TEST(HexDigits, an_odd_last_digit_with_nothing_behind_it_or_no_room_for_it_is_a_
 
 TEST(HexDigits, a_fault_leaves_the_count_and_the_bytes_in_front_of_it) {
     bytes two(2);
-    for (const char* text : {"48g0", "480g", "48 9", "48"}) {
+    for (const char* text : {"48g0", "480g", "48 9", "48:0", "480@", "48`0", "48"}) {
         std::int32_t count = 2;
         EXPECT_FALSE(decode_hex_digits(text, 4, two, count)) << text;
         EXPECT_EQ(count, 2);

@@ -45,6 +45,10 @@ TEST(HexChunks, a_count_that_is_no_number_is_0_and_one_beyond_32_bits_the_larges
     EXPECT_EQ(header_of("5;-3;x;").chunk_count, -3);
 }
 
+TEST(HexChunks, a_count_is_decimal_with_zeros_in_front_too) {
+    EXPECT_EQ(header_of("5;010;x;").chunk_count, 10);
+}
+
 TEST(HexChunks, each_chunk_takes_400000_characters_and_the_last_what_is_left) {
     const std::string a(400000, 'a');
     EXPECT_EQ(assembled_hex_text(header_of("400003;2;x;"), {{0, a}, {1, "bcd"}}), a + "bcd");

@@ -229,6 +229,16 @@ TEST_F(MaterialAttributes, a_clear_material_loses_reflection_and_metal) {
     EXPECT_FALSE(v.metallic);
 }
 
+TEST_F(MaterialAttributes, a_material_of_no_kind_keeps_what_it_says) {
+    start.metallic = start.blurry = start.glossy = true;
+    start.sharpness = 0.25;
+    start.refraction = 1.25;
+    const material_values v = values_of("Iron");
+    EXPECT_TRUE(v.metallic && v.blurry && v.glossy);
+    EXPECT_EQ(v.sharpness, 0.25);
+    EXPECT_EQ(v.refraction, 1.25);
+}
+
 TEST_F(MaterialAttributes, a_reflection_above_four_fifths_makes_a_mirror_without_metal) {
     start.reflection = 0.85;
     start.metallic = true;
@@ -397,6 +407,12 @@ TEST_F(MaterialAttributes, a_glowing_material_raises_the_next_light_channel) {
     say("LightChannel", "8");
     values_of("Red_glow50");
     EXPECT_EQ(get_global_int("ivl_lighting_channels"), 9) << "the very channel";
+}
+
+TEST_F(MaterialAttributes, the_highest_light_channel_leaves_the_next_one_alone) {
+    say("LightChannel", "2147483647");
+    values_of("Red_glow50");
+    EXPECT_EQ(get_global_int("ivl_lighting_channels"), 2);
 }
 
 TEST_F(MaterialAttributes, lumens_raise_the_next_light_channel_too_unless_the_setting_is_off) {

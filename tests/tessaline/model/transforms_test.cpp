@@ -56,6 +56,13 @@ TEST(Transforms, a_camera_that_looks_straight_down_leaves_no_plan_direction) {
     EXPECT_EQ(vector_image(transform, {1, 1, 0}), (fpt{0, 0, 0}));
 }
 
+TEST(Transforms, the_images_of_the_axes_are_the_first_three_elements_of_each_column) {
+    const std::array<fpt, 3> axes = axis_images({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16});
+    EXPECT_EQ(axes[0], (fpt{1, 2, 3}));
+    EXPECT_EQ(axes[1], (fpt{5, 6, 7}));
+    EXPECT_EQ(axes[2], (fpt{9, 10, 11}));
+}
+
 TEST(Transforms, a_vector_is_not_moved) {
     const transform16 transform{0, 2, 0, 0, -2, 0, 0, 0, 0, 0, 2, 0, 10, 20, 30, 1};
     EXPECT_EQ(vector_image(transform, {1, 0, 0}), (fpt{0, 2, 0}));

@@ -5,6 +5,7 @@
 #include "tests/tessaline/run_fixture.h"
 
 #include "tests/support/page_examples.h"
+#include "tests/support/trace_capture.h"
 
 namespace {
 
@@ -169,7 +170,9 @@ TEST(ViewFile, a_file_that_cannot_be_read_gives_no_view) {
     temporary_folder batch;
     batch.make_folder("zyn_view.txt");
     batch.write("zyn_pages.txt", "FOV;45\n"); // not asked: the other one exists
+    const trace_capture trace;
     EXPECT_EQ(read_view_file(batch.name()).field_of_view, 0);
+    EXPECT_THAT(trace.text(), testing::HasSubstr(": view_file ")) << "who asked for it";
 }
 
 TEST(ViewFile, the_example_of_the_documentation_is_read_as_it_says) {

@@ -261,6 +261,13 @@ TEST_F(Lamps, watts_without_lumens_are_multiplied_by_17) {
     EXPECT_EQ(field("intensity_lumens"), "170.000000");
 }
 
+TEST_F(Lamps, half_a_watt_without_lumens_is_multiplied_too) {
+    cl_slp_light light = typed("bulb");
+    light.intensity = 0.5;
+    add(light);
+    EXPECT_EQ(field("intensity_lumens"), "8.500000");
+}
+
 TEST_F(Lamps, an_intensity_of_0_is_completed_by_the_other) {
     cl_slp_light no_lumens = typed("rect");
     no_lumens.intensity = 10;
