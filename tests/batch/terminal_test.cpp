@@ -20,8 +20,10 @@ std::string stream_question(const std::string& offered) {
     return "Tessaline, Debug Mode - to create SKP XML file [" + offered + "]: ";
 }
 
-// What the terminal shows of a run that has both paths and never moves the display.
-const std::string progress = "\rTessaline Progress [....................]\x1b[K\n";
+// What the terminal shows at last of a run that has both paths and never moves the display: the bar, cut to the width
+// of the terminal, and that it goes.
+const std::string progress = "\r\x1b[?7lTessaline Progress [....................]\x1b[K\x1b[?7h\r"
+                             "\r\x1b[K";
 
 void put_square(batch& b, const std::string& inside) {
     model_builder m;
@@ -114,8 +116,8 @@ TEST(Terminal, a_model_that_is_missing_is_told_of_and_nothing_is_written) {
                                                   {stream_question(b / "missing.xml"), b / "out.txt" + "\n"},
                                                   {"Replace it? [y/N]: ", "y\n"}});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_THAT(outcome.shown, HasSubstr("Tessaline - Error: Could not find input filename " + b / "missing.skp" +
-                                         ".\n\n\n    (VER: SC26w - "));
+    EXPECT_THAT(outcome.shown, HasSubstr("Tessaline - Tessaline conversion Error: Could not find input filename " +
+                                         b / "missing.skp" + ".\n\n\n    (VER: SC26w - "));
     EXPECT_THAT(outcome.shown, Not(HasSubstr("Progress")));
     EXPECT_EQ(b.files(), (files_by_name{{"out.txt", "old"}}));
 }
