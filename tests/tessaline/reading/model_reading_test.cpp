@@ -226,6 +226,11 @@ TEST_F(ModelReading, the_times_of_the_reading_are_kept) {
     EXPECT_GE(theApp.xml_options.reading_ended, theApp.xml_options.reading_started);
 }
 
+TEST_F(ModelReading, a_reading_that_is_broken_off_has_ended_too) {
+    reader.abandon_reading();
+    EXPECT_GT(theApp.xml_options.reading_ended, 1'600'000'000);
+}
+
 // "[hex_data][00000004]-4869": a frame of 4 digits that spell "Hi". 25 characters.
 constexpr const char* framed_hi = "[hex_data][00000004]-4869";
 
