@@ -29,12 +29,15 @@ class Workshop:
     def copy(self):
         """Brings every file of the tree over but the sources of the rooms, which only `write` changes."""
         listing = ["git", "ls-files", "-z", "-co", "--exclude-standard"]
-        names = subprocess.run(listing, cwd=self.root, check=True, capture_output=True, text=True).stdout
-        for name in names.split("\0"):
-            if name and (self.root / name).is_file():
-                if not is_of_a_room(name) or not (self.source / name).exists():
-                    put(self.source / name, (self.root / name).read_bytes())
-                    (self.source / name).chmod((self.root / name).stat().st_mode)
+        listed = subprocess.run(listing, cwd=self.root, check=True, capture_output=True, text=True).stdout
+        names = {name for name in listed.split("\0") if name and (self.root / name).is_file()}
+        for name in names:
+            if not is_of_a_room(name) or not (self.source / name).exists():
+                put(self.source / name, (self.root / name).read_bytes())
+                (self.source / name).chmod((self.root / name).stat().st_mode)
+        for path in self.source.rglob("*"):
+            if path.is_file() and str(path.relative_to(self.source)) not in names:
+                path.unlink()
 
     def configure(self):
         if (self.build / "build.ninja").exists():
