@@ -1,0 +1,10 @@
+# declared_calls(HEADER RESULT): the names of the calls of the C interface that a header declares, sorted.
+function(declared_calls header result)
+  file(READ ${header} text)
+  string(REGEX REPLACE "(//|#define)[^\n]*" "" text "${text}")
+  string(REGEX MATCHALL "SU[A-Za-z0-9]+\\(" names "${text}")
+  list(TRANSFORM names REPLACE "\\($" "")
+  list(REMOVE_DUPLICATES names)
+  list(SORT names)
+  set(${result} ${names} PARENT_SCOPE)
+endfunction()
