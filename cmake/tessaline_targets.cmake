@@ -8,8 +8,12 @@ set(CMAKE_C_STANDARD_REQUIRED ON)
 
 add_library(tessaline_flags INTERFACE)
 # A fused multiply-add rounds once instead of twice, so the text of a number would depend on the processor.
-target_compile_options(tessaline_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off)
+target_compile_options(tessaline_flags INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wshadow;-Wconversion;-Werror;-ffp-contract=off>")
+if(WIN32)
+  # Windows 7 and later; no macros min and max; printf as the C standard has it, which the compiler then checks it by.
+  target_compile_definitions(tessaline_flags INTERFACE WINVER=0x0601 _WIN32_WINNT=0x0601 NOMINMAX
+    WIN32_LEAN_AND_MEAN __USE_MINGW_ANSI_STDIO=1)
+endif()
 # The provider is a shared library too, which shows the calls of the C interface and nothing else.
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
@@ -34,6 +38,13 @@ endif()
 if(TESSALINE_COVERAGE)
   target_compile_options(tessaline_flags INTERFACE --coverage)
   target_link_options(tessaline_flags INTERFACE --coverage)
+endif()
+
+# Sources for one system alone stand in folders of this name.
+if(WIN32)
+  set(tessaline_system windows)
+else()
+  set(tessaline_system posix)
 endif()
 
 # tessaline_show(TARGET SCOPE PATH...): who links the target may include what lies at these paths, files or folders from
@@ -72,17 +83,22 @@ function(tessaline_room name)
 endfunction()
 
 # tessaline_test(NAME LABEL LINK TARGET... [FOLDERS FOLDER...]): one GoogleTest program of every *_test.cpp (and *.c,
-# and the helper *.cpp files beside them) of the current folder and the folders named; LABEL is the ctest label.
+# and the helper *.cpp files beside them) of the current folder and the folders named, and of folders in them for this
+# system alone; LABEL is the ctest label.
 function(tessaline_test name label)
   cmake_parse_arguments(test "" "" "LINK;FOLDERS" ${ARGN})
-  set(patterns ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.c)
-  foreach(folder ${test_FOLDERS})
-    list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.c)
+  set(patterns)
+  foreach(folder . ${test_FOLDERS})
+    foreach(inside . ${tessaline_system})
+      list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/${inside}/*.cpp
+        ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/${inside}/*.c)
+    endforeach()
   endforeach()
   file(GLOB sources CONFIGURE_DEPENDS ${patterns})
   if(sources)
     add_executable(${name} ${sources})
-    target_link_libraries(${name} PRIVATE tessaline_flags tests_shown ${test_LINK} own_settings GTest::gmock)
+    tessaline_dialogs(${name})
+    target_link_libraries(${name} PRIVATE tessaline_flags tests_shown ${test_LINK} own_settings tests_system GTest::gmock)
     # What is tested is optimised; optimising the tests themselves would only lengthen the build.
     target_compile_options(${name} PRIVATE -O0)
     # Half of what a test takes to compile is these two.
@@ -92,7 +108,8 @@ function(tessaline_test name label)
       # Else a compiler cache would give objects that refuse a precompiled header of the same bytes.
       target_compile_options(${name} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
     endif()
-    target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${seen_source}"
+      PROGRAM_ENDING="${CMAKE_EXECUTABLE_SUFFIX}")
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
       PROPERTIES LABELS ${label} TIMEOUT 600)
   endif()

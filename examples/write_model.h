@@ -12,10 +12,11 @@
 #include <string>
 #include <vector>
 
-// The program's own name without its folder.
+// The program's own name without its folder and, on Windows, its ending.
 inline std::string example_name(int argc, char** argv) {
     const std::string path = argc > 0 ? argv[0] : "example";
-    return path.substr(path.find_last_of("/\\") + 1);
+    const std::string name = path.substr(path.find_last_of("/\\") + 1);
+    return name.substr(0, name.find(".exe"));
 }
 
 // The main function of an example: writes the model to the one file that the command line names, and takes all from the

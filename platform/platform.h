@@ -22,14 +22,28 @@ inline constexpr char path_separator = '\\';
 inline constexpr bool has_drive_letters = true; // names follow the rules for drives and network shares
 inline constexpr std::string_view last_resort_temporary_folder = "c:\\tmp";
 inline constexpr bool lives_on_the_console = false; // asks and tells in windows
+inline constexpr std::size_t longest_name = 259;    // bytes of a file name that the system takes
 #else
 inline constexpr char path_separator = '/';
 inline constexpr bool has_drive_letters = false;
 inline constexpr std::string_view last_resort_temporary_folder = "/tmp";
 inline constexpr bool lives_on_the_console = true; // asks and tells on the terminal that started it
+inline constexpr std::size_t longest_name = 4095;
 #endif
 
-// ---- the process (process.cpp)
+// ---- texts (text_encoding.cpp)
+
+// The interface to the host speaks UTF-8, the program and its files the platform's own encoding. These are the one
+// place where either becomes the other; where both are the same the text comes back as it is, valid or not.
+
+// For the interface. Every text of the own encoding can be said in UTF-8.
+std::string utf8_from_own(std::string_view text);
+// For a name out of a model that becomes the name of a file. A letter that the own encoding lacks becomes its bytes in
+// UTF-8, each as a percent sign and two hexadecimal digits of lower case, so that different names stay different. A
+// text that is no UTF-8 comes back as it is.
+std::string own_from_utf8(std::string_view text);
+
+// ---- the process (process.cpp, environment.cpp)
 
 // The command line as one text: the arguments joined by one blank, each that is empty or holds a blank put in double
 // quotation marks. argv: argc texts, the program's own path first. On Windows the arguments are ignored: the system
@@ -69,22 +83,24 @@ bool is_terminal(standard_stream stream);
 void write_standard_output(std::string_view text);
 void write_standard_error(std::string_view text);
 
-// Text for developers: the debugger's output window on Windows; on POSIX the file that the environment variable
-// TESSALINE_TRACE names (each call appends to it and closes it, so that nothing is lost in a crash), standard error if
-// it is "-", nowhere if it is not set.
+// Text for developers: the file that the environment variable TESSALINE_TRACE names (each call appends to it and closes
+// it, so that nothing is lost in a crash), standard error if it is "-", nowhere if it is not set; on Windows it goes to
+// whatever listens to the system's debug output as well.
 void debug_output(std::string_view text);
 // Whether it goes anywhere: what nobody hears need not be put into words. Always true where that cannot be known.
 bool debug_output_is_heard();
 
-// Shows a text that the user must see and goes on when it has been read. POSIX: a line "title: text" on standard error,
-// or the text alone if the title is empty; nothing waits.
+// Shows a text that the user must see and goes on when it has been read. A box without a title tells of a fault in the
+// program itself and stands above the windows of all programs. POSIX: a line "title: text" on standard error, or the
+// text alone if the title is empty; nothing waits.
 void message_box(std::string_view title, std::string_view text);
 
 // ---- the error dialog (error_dialog.cpp)
 
-// Which of the two dialogs; the numbers are those of the resource file where there is one.
+// Which of the two dialogs; the numbers are those of the resource file where there is one. Either offers a check box,
+// if asked to, that silences the place of the message.
 enum class error_dialog_kind {
-    message = 12042, // offers "More" and, if asked to, a check box that silences the place of the message
+    message = 12042, // offers "More"
     report = 12049,  // offers "Copy"
 };
 
@@ -105,8 +121,8 @@ struct error_dialog_answer {
     bool silences_place = false;
 };
 
-// Shows the dialog and comes back when it is closed. POSIX: the caption and the text on standard error, as message_box
-// prints them; the answer is OK, and nothing is silenced.
+// Shows the dialog and comes back when it is closed. A ticked check box silences by OK, and by nothing else. POSIX: the
+// caption and the text on standard error, as message_box prints them; the answer is OK, and nothing is silenced.
 error_dialog_answer show_error_dialog(const error_dialog_view& view);
 
 // ---- the progress window (progress.cpp)
@@ -124,6 +140,7 @@ public:
 
 // Opens the window with that caption, runs `work` while it is open, and closes it. False if the window could not be
 // opened; `work` has not run then.
+// Windows: the dialog takes no message meanwhile. What `work` throws comes out of the call.
 bool run_with_progress_window(std::string_view caption, const std::function<void(progress_window&)>& work);
 
 // ---- asking for a file (file_chooser.cpp)
@@ -147,9 +164,11 @@ std::optional<std::string> ask_for_file_to_save(const file_question& question);
 // ---- known folders (known_folders.cpp); full names without a separator at the end, empty if the system has none
 
 std::string home_folder();
-std::string user_config_folder(); // POSIX: XDG_CONFIG_HOME, else ~/.config; Windows: roaming application data
-std::string documents_folder();   // POSIX: XDG_DOCUMENTS_DIR, else ~/Documents
-std::string temporary_folder();   // POSIX: TMPDIR, else /tmp; may be missing on disk
+// POSIX: XDG_CONFIG_HOME, else ~/.config; Windows: roaming application data, or where APPDATA says if a user or a test
+// has set it to another full name.
+std::string user_config_folder();
+std::string documents_folder(); // POSIX: XDG_DOCUMENTS_DIR, else ~/Documents
+std::string temporary_folder(); // POSIX: TMPDIR, else /tmp; may be missing on disk
 std::string current_folder();
 // Where a settings file named without a folder is looked up. Windows: the system's own folder; POSIX: empty.
 std::string shared_ini_folder();
@@ -163,7 +182,8 @@ bool is_symbolic_link(const std::string& name);                  // looks at the
 std::optional<std::uint64_t> file_size(const std::string& name); // bytes; nothing for what is no plain file
 std::optional<std::string> real_name(const std::string& name);   // full name without links, "." and ".."
 // The name made full by putting the current folder in front. Doubled separators are folded to one; nothing else is
-// changed. The empty name stays empty.
+// changed on POSIX. Windows: slashes become backslashes, "." and ".." go, and so do blanks and dots that end a name,
+// as the system itself reads names; the pair in front of a share stays. The empty name stays empty.
 std::string absolute_name(const std::string& name);
 
 bool make_folder(const std::string& name); // the parent must exist; false also if the name is taken
@@ -230,34 +250,24 @@ std::optional<std::vector<std::byte>> read_file(const std::string& name, std::ui
 
 // ---- files that several processes write (shared_file.cpp)
 
-enum class lock_result {
-    taken,
+// What becomes of a file: it is given the bytes on the disk, none of a missing file, and gives those to be written, or
+// nothing to leave the file as it is.
+using file_editor = std::function<std::optional<std::string>(const std::string& bytes)>;
+
+enum class edit_result {
+    done,
     held_elsewhere, // for longer than one was ready to wait
-    impossible,     // the lock file cannot be made, or its file system knows no locks
+    impossible,     // too large, no plain file, may not be written
 };
 
-// Keeps other processes from what the lock file stands for. The lock file exists only while somebody holds or awaits
-// the lock. A process that dies gives the lock back.
-class file_lock {
-public:
-    file_lock() = default;
-    file_lock(const file_lock&) = delete;
-    file_lock& operator=(const file_lock&) = delete;
-    ~file_lock();
-
-    // Waits until nobody else holds the lock of that name, in this process or another, for `patience` milliseconds; 0
-    // tries once. At most one lock for each object.
-    lock_result take(const std::string& name, int patience);
-
-private:
-    std::string lock_name;
-    std::intptr_t handle = -1;
-};
-
-// Puts other bytes into a file in one step: whoever opens it gets the old bytes or the new ones, whole. A missing file
-// is made. Permissions stay, and so does a link: the file behind it changes. False on failure, which leaves the file as
-// it was; a file that may not be written is such a failure. Between two that may write it a file_lock must stand.
-bool replace_file(const std::string& name, std::string_view bytes);
+// Changes a file that other processes change too: no change is lost, and whoever reads the file through this header
+// gets the old bytes or the new ones, whole. A missing file is made if there is anything to write. Permissions stay,
+// and so does a link: the file behind it changes. POSIX: the file is replaced in one step; among programs that use this
+// call, a lock file stands beside it meanwhile. Windows: the file is locked as the system's own calls for such files do
+// it, so that programs with those calls lose nothing either.
+// patience: milliseconds for which it waits for others; 0 tries once. limit: bytes beyond which a file is left alone.
+// Whatever is not done leaves the file as it was; `edit` may have been called.
+edit_result edit_file(const std::string& name, std::uint64_t limit, int patience, const file_editor& edit);
 
 // ---- the clock (clock.cpp)
 

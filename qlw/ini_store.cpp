@@ -30,25 +30,21 @@ const ini_text& ini_store::file(const std::string& name) {
 
 ini_write ini_store::write(const std::string& name, std::string_view section, std::string_view key,
                            std::string_view value) {
-    // Replacing is one step, so a look without the lock sees a whole file, and mostly there is nothing to do.
+    // A look shows a whole file, and mostly there is nothing to do.
     std::optional<ini_text> text = text_on_disk(name);
-    const ini_text seen = text.value_or(ini_text());
-    files.insert_or_assign(name, seen);
+    files.insert_or_assign(name, text.value_or(ini_text()));
     if (!text || !text->set_value(section, key, value))
         return ini_write::ended;
-    platform::file_lock lock;
-    const platform::lock_result locked = lock.take(name + ".lock", patience_left);
-    if (locked == platform::lock_result::held_elsewhere && std::exchange(patience_left, 0) > 0)
+    const auto edit = [&](const std::string& bytes) -> std::optional<std::string> {
+        text.emplace(bytes);
+        const bool is_changed = text->set_value(section, key, value);
+        // What is larger the next run would not read.
+        return is_changed && text->bytes().size() <= largest_file ? std::optional(text->bytes()) : std::nullopt;
+    };
+    const platform::edit_result edited = platform::edit_file(name, largest_file, patience_left, edit);
+    if (edited == platform::edit_result::held_elsewhere && std::exchange(patience_left, 0) > 0)
         return ini_write::gave_up_waiting;
-    if (locked != platform::lock_result::taken)
-        return ini_write::ended;
-    text = text_on_disk(name);
-    if (!text)
-        return ini_write::ended;
-    const bool is_changed = text->set_value(section, key, value);
-    if (text->bytes().size() > largest_file) // the next run would read nothing of it
-        return ini_write::ended;
-    if (!is_changed || platform::replace_file(name, text->bytes()))
+    if (edited == platform::edit_result::done && text->bytes().size() <= largest_file)
         files.insert_or_assign(name, *std::move(text));
     return ini_write::ended;
 }

@@ -28,7 +28,7 @@ public:
     bool holds(const std::string& name) const { return files.contains(name); }
 
     // Makes the value under a key read so on the disk. If it does already, the file is left alone; otherwise it is read
-    // again under a lock, edited, and replaced in one step. The folder must exist. A file that cannot be read or would
+    // again under a lock, edited, and written in one step. The folder must exist. A file that cannot be read or would
     // grow too large, or a place that takes no file, is left as it is without a word: the value is lost with the run.
     // The first write that waits in vain for another process says so; later ones, to whatever file, try without
     // waiting.

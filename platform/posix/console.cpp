@@ -1,6 +1,7 @@
 // Text for the user and for developers, where there are no windows.
 
 #include "platform/platform.h"
+#include "platform/trace_file.h"
 
 #include <cerrno>
 
@@ -55,22 +56,16 @@ void write_standard_error(std::string_view text) {
     write_standard(standard_stream::error, text);
 }
 
+void write_trace_to_console(std::string_view text) {
+    write_over_progress_bar(text);
+}
+
 void debug_output(std::string_view text) {
-    const auto target = environment_variable("TESSALINE_TRACE");
-    if (!target || target->empty())
-        return;
-    if (*target == "-") {
-        write_over_progress_bar(text);
-        return;
-    }
-    file output;
-    if (output.open(*target, open_mode::append))
-        output.write_all(text);
+    write_to_trace(text);
 }
 
 bool debug_output_is_heard() {
-    const auto target = environment_variable("TESSALINE_TRACE");
-    return target && !target->empty();
+    return trace_is_wanted();
 }
 
 void message_box(std::string_view title, std::string_view text) {

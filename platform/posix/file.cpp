@@ -52,22 +52,6 @@ bool let_writing_wait(int descriptor) {
 
 } // namespace
 
-file::file(file&& other) noexcept
-    : handle(std::exchange(other.handle, closed)), failure_text(std::move(other.failure_text)) {}
-
-file& file::operator=(file&& other) noexcept {
-    if (this != &other) {
-        close();
-        handle = std::exchange(other.handle, closed);
-        failure_text = std::move(other.failure_text);
-    }
-    return *this;
-}
-
-file::~file() {
-    close();
-}
-
 bool file::open(const std::string& name, open_mode mode) {
     close();
     failure_text.clear();

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <charconv>
-#include <cstdlib>
 
 #include <sys/utsname.h>
 #include <unistd.h>
@@ -44,11 +43,6 @@ std::uint64_t working_set_bytes() {
     std::uint64_t pages = 0;
     const auto answer = std::from_chars(text.data() + start, text.data() + text.size(), pages);
     return answer.ec == std::errc() ? pages * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE)) : 0;
-}
-
-std::optional<std::string> environment_variable(const std::string& name) {
-    const char* const value = std::getenv(name.c_str());
-    return value ? std::optional<std::string>(value) : std::nullopt;
 }
 
 std::string computer_name() {

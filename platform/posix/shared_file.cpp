@@ -1,5 +1,7 @@
 // Locks between processes, and replacing a file under them.
 
+#include "platform/posix/shared_file.h"
+
 #include "platform/platform.h"
 
 #include <cerrno>
@@ -87,6 +89,18 @@ bool replace_file(const std::string& name, std::string_view bytes) {
         return true;
     delete_file(fresh);
     return false;
+}
+
+edit_result edit_file(const std::string& name, std::uint64_t limit, int patience, const file_editor& edit) {
+    file_lock lock;
+    const lock_result locked = lock.take(name + ".lock", patience);
+    if (locked != lock_result::taken)
+        return locked == lock_result::held_elsewhere ? edit_result::held_elsewhere : edit_result::impossible;
+    const auto bytes = read_file(name, limit);
+    if (!bytes && exists(name))
+        return edit_result::impossible;
+    const auto edited = edit(bytes ? std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size()) : "");
+    return !edited || replace_file(name, *edited) ? edit_result::done : edit_result::impossible;
 }
 
 } // namespace platform

@@ -2,6 +2,7 @@
 
 #include "image/decode_picture.h"
 #include "image/encode_picture.h"
+#include "platform/platform.h"
 #include "sketchup/api/calls.h"
 #include "sketchup/api/padded_rows.h"
 #include "sketchup/api/provider_state.h"
@@ -71,7 +72,8 @@ SUResult SUTextureWriteToFile(SUTextureRef texture, const char* file_path) {
         return SU_ERROR_INVALID_INPUT;
     if (!file_path)
         return SU_ERROR_NULL_POINTER_INPUT;
-    return guarded([&] { return write_texture(*t, file_path) ? SU_ERROR_NONE : SU_ERROR_SERIALIZATION; });
+    return guarded(
+        [&] { return write_texture(*t, platform::own_from_utf8(file_path)) ? SU_ERROR_NONE : SU_ERROR_SERIALIZATION; });
 }
 
 SUResult SUTextureWriteOriginalToFile(SUTextureRef texture, const char* file_path) {
@@ -82,7 +84,7 @@ SUResult SUTextureWriteOriginalToFile(SUTextureRef texture, const char* file_pat
         return SU_ERROR_NULL_POINTER_INPUT;
     return guarded([&] {
         const picture* stored = picture_of(*t);
-        const bool written = stored && image::write_picture_file(file_path, stored->load());
+        const bool written = stored && image::write_picture_file(platform::own_from_utf8(file_path), stored->load());
         return written ? SU_ERROR_NONE : SU_ERROR_SERIALIZATION;
     });
 }

@@ -1,6 +1,7 @@
 // The texture writer: which pictures a model needs, each under a number.
 
 #include "image/encode_picture.h"
+#include "platform/platform.h"
 #include "sketchup/api/calls.h"
 #include "sketchup/api/image_texture.h"
 #include "sketchup/api/provider_state.h"
@@ -164,8 +165,9 @@ SUResult SUTextureWriterWriteTexture(SUTextureWriterRef writer, long id, const c
     if (!path)
         return SU_ERROR_NULL_POINTER_INPUT;
     return guarded([&] {
+        const std::string own_path = platform::own_from_utf8(path);
         const bool written =
-            entry->distorted_face ? write_straightened(*entry, path) : write_texture(*entry->texture, path);
+            entry->distorted_face ? write_straightened(*entry, own_path) : write_texture(*entry->texture, own_path);
         return written ? SU_ERROR_NONE : SU_ERROR_SERIALIZATION;
     });
 }

@@ -6,7 +6,8 @@
 
 namespace sketchup::api {
 
-std::optional<std::vector<std::uint8_t>> read_whole_file(const std::string& path) {
+std::optional<std::vector<std::uint8_t>> read_whole_file(const std::string& utf8_path) {
+    const std::string path = platform::own_from_utf8(utf8_path);
     const std::optional<std::uint64_t> size = platform::file_size(path);
     platform::file file;
     if (!size || *size > std::vector<std::uint8_t>().max_size() || !file.open(path, platform::open_mode::read))

@@ -47,7 +47,7 @@ std::string joined_inside(std::string_view folder, std::string_view name) {
     constexpr std::string_view not_in_a_name("/\\\0", 3);
     if (name.empty() || name == "." || name == ".." || name.find_first_of(not_in_a_name) != std::string_view::npos)
         return {};
-    return joined(folder, name);
+    return joined(folder, platform::own_from_utf8(name));
 }
 
 bool is_file(const std::string& path) {

@@ -28,8 +28,8 @@ std::string without_extension(std::string_view path);
 // Folder, separator, name; a folder that ends in a separator gets no second one.
 std::string joined(std::string_view folder, std::string_view name);
 
-// Folder, separator, name, if the file then lies in that very folder. Empty if the name, which may come out of a model,
-// holds a separator of any platform or a zero byte, or stands for a folder ("", ".", "..").
+// Folder, separator, name, if the file then lies in that very folder. name: in UTF-8, as it comes out of a model. Empty
+// if it holds a separator of any platform or a zero byte, or stands for a folder ("", ".", "..").
 std::string joined_inside(std::string_view folder, std::string_view name);
 
 // Whether that is the name of a plain file, or leads to one.

@@ -60,7 +60,7 @@ std::string export_straightened(SUFaceRef face, bool is_front, const std::string
     trace(__LINE__, "before SUTextureWriterWriteTexture");
     return write_under_either_name(usual_name, material_id, [id](const std::string& path) {
         constexpr bool reorient = false;
-        SUTextureWriterWriteTexture(texture_writer, id, path.c_str(), reorient);
+        SUTextureWriterWriteTexture(texture_writer, id, platform::utf8_from_own(path).c_str(), reorient);
     });
 }
 
@@ -79,7 +79,7 @@ exported_texture export_material_texture(SUTextureRef texture, SUFaceRef face, b
         exported.image_path = export_straightened(face, is_front, usual_name, material_id);
     else
         exported.image_path = write_under_either_name(usual_name, material_id, [texture](const std::string& path) {
-            SUTextureWriteToFile(texture, path.c_str());
+            SUTextureWriteToFile(texture, platform::utf8_from_own(path).c_str());
         });
     return exported;
 }

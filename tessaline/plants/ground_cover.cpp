@@ -20,9 +20,10 @@ void copy_file(const std::string& from, const std::string& to) {
 }
 
 // The name under which the stream refers to it.
-std::string bring(const std::string& path, const std::string& batch_folder) {
+std::string bring(const std::string& utf8_path, const std::string& batch_folder) {
+    const std::string path = platform::own_from_utf8(utf8_path);
     if (!is_file(path))
-        return path;
+        return utf8_path;
     const std::string folder = joined(batch_folder, plant_folder_name);
     platform::make_folder(folder); // no fault if it exists
     std::string placed = joined(folder, bare_name_of(path));

@@ -29,7 +29,7 @@ void report_old_data(std::string_view name) {
 
 std::string placed_plant_file(std::string_view file_name, const plant_description& plant,
                               const std::string& batch_folder) {
-    const std::string_view name = bare_name_of(file_name);
+    const std::string name = platform::own_from_utf8(bare_name_of(file_name));
     const std::string folder = joined(batch_folder, plant_folder_name);
     platform::make_folder(folder); // no fault if it exists
     std::string path = joined(folder, name);

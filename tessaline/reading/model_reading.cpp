@@ -34,7 +34,7 @@ bool is_for_3d_document(const std::string& input_path) {
 
 bool open_the_model(const std::string& input_path) {
     SUSetInvalid(open_model);
-    const SUResult result = SUModelCreateFromFile(&open_model, input_path.c_str());
+    const SUResult result = SUModelCreateFromFile(&open_model, platform::utf8_from_own(input_path).c_str());
     if (result == SU_ERROR_NONE)
         return true;
     // Nobody is told: a parent sees that there is no stream.

@@ -6,6 +6,7 @@
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_std.h"
 #include "qlw/qlw_trace.h"
+#include "qlw/text_format.h"
 #include "qlw/trace_state.h"
 #include "qlw/trimmed.h"
 #include "tessaline/files/paths.h"
@@ -39,6 +40,15 @@ void take_switches(CTessalineApp& app, const command_line& line) {
 // model are a mistake to be told, and asking needs a terminal.
 bool needs_usage(const std::string& command_line_text) {
     return !platform::can_ask_for_file() || (platform::lives_on_the_console && has_arguments(command_line_text));
+}
+
+// Why a name that looks right leads nowhere; empty for a name that the system takes.
+std::string complaint_about_length(const std::string& name) {
+    if (name.size() <= platform::longest_name)
+        return {};
+    return format_text("Its name has %d characters, more than the %d that the system takes.\n", name.size(),
+                       platform::longest_name)
+        .value_or(std::string());
 }
 
 } // namespace
@@ -114,7 +124,7 @@ bool CTessalineApp::paths_are_usable() const {
     if (!input_path.empty() && !platform::exists(input_path)) {
         cl_trace::here("CTessalineApp::InitInstance", trace_level::user_error)
             .titled("Tessaline conversion Error")
-            .report("Could not find input filename %s.\n", input_path);
+            .report("Could not find input filename %s.\n%s", input_path, complaint_about_length(input_path));
         return false;
     }
     if (!input_path.empty() && output_path.empty()) {

@@ -24,13 +24,18 @@ constexpr std::size_t bits_without_alpha = 24;
 
 // What an image becomes in the batch folder.
 struct image_material {
-    std::string name;         // of the picture, "Tree_88.jpg"
+    std::string name;         // of the picture, "Tree_88.jpg", in UTF-8
     std::string file;         // by which the stream refers to the material, "IMAGE_TX_Tree_88.jpg.OrnMaterial"
     std::string object_path;  // full name of the material file
+    std::string texture_name; // of the picture as it is written, in UTF-8
     std::string texture_path; // full name of the picture that the renderer is told of
     std::string folder_copy;  // full name of the picture that whoever prepared the batch may have put there
     std::string test_word;    // the last four characters of the name, in capitals
 };
+
+std::string path_of_picture(const std::string& name) {
+    return joined(texture_folder_path, platform::own_from_utf8(name));
+}
 
 image_material described(SUImageRef image) {
     constexpr std::size_t length_of_test_word = 4;
@@ -48,8 +53,9 @@ image_material described(SUImageRef image) {
     const std::string encoded = url_encode_name(base);
     made.file = encoded + ".OrnMaterial";
     made.object_path = joined_inside(material_folder_path, encoded + ".qlobj");
-    made.texture_path = joined(texture_folder_path, base.substr(length_of_prefix));
-    made.folder_copy = joined(joined(theApp.batch_folder, theApp.images_folder), made.name);
+    made.texture_name = base.substr(length_of_prefix);
+    made.texture_path = path_of_picture(made.texture_name);
+    made.folder_copy = joined(joined(theApp.batch_folder, theApp.images_folder), platform::own_from_utf8(made.name));
     made.test_word = in_capitals(made.name.substr(made.name.size() - std::min(made.name.size(), length_of_test_word)));
     return made;
 }
@@ -112,7 +118,7 @@ public:
     }
 
     bool is_valid() const { return SUIsValid(handle); }
-    void write(const std::string& path) const { SUTextureWriteToFile(handle, path.c_str()); }
+    void write(const std::string& path) const { SUTextureWriteToFile(handle, platform::utf8_from_own(path).c_str()); }
 
 private:
     SUTextureRef handle = SU_INVALID;
@@ -161,10 +167,10 @@ void write_by_host(image_material& made, const Picture& texture) {
         made.texture_path = made.folder_copy;
         return;
     }
-    const std::string name = file_name_of(made.texture_path);
+    const std::string& name = made.texture_name;
     const std::string_view extension = extension_of(name);
     const std::string safe_name = filter_file_name(name.substr(0, name.size() - extension.size())).append(extension);
-    const std::string safe_path = joined(texture_folder_path, safe_name);
+    const std::string safe_path = path_of_picture(safe_name);
     if (!is_file(safe_path))
         texture.write(safe_path);
     if (is_file(safe_path)) {
@@ -177,7 +183,7 @@ void write_by_host(image_material& made, const Picture& texture) {
 void settle_extension(image_material& made) {
     static constexpr std::string_view kept[] = {".PNG", ".JPG", ".BMP", ".PSD", ".TIF"};
     if (std::find(std::begin(kept), std::end(kept), made.test_word) == std::end(kept))
-        made.texture_path += ".PNG";
+        made.texture_path = path_of_picture(made.texture_name += ".PNG");
 }
 
 // A picture whose pixels are too many to be passed on. False, with a word in the trace, if there is no way to write it.

@@ -2,7 +2,6 @@
 
 #include "image/decode_picture.h"
 #include "tests/batch/stream_grammar.h"
-#include "tests/run_program.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -20,6 +19,17 @@ std::string bytes_of(const std::filesystem::path& file) {
     return bytes.str();
 }
 
+// Golden files have "/" in the names of files in the batch folder, on every platform.
+std::string with_own_paths(std::string text) {
+    constexpr std::string_view mark = "@BATCH@";
+    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + 1)) {
+        const std::size_t end = text.find_first_of("\r\n", at);
+        const std::size_t size = std::min(end, text.size()) - at;
+        text.replace(at, size, with_own_separators(text.substr(at, size)));
+    }
+    return text;
+}
+
 // The golden files of a case, without marks.
 files_by_name golden_files(const std::string& case_name, const std::map<std::string, std::string>& marks) {
     const bool is_elsewhere = case_name.find('/') != std::string::npos;
@@ -28,7 +38,7 @@ files_by_name golden_files(const std::string& case_name, const std::map<std::str
     EXPECT_TRUE(std::filesystem::exists(folder)) << "no golden files: " << folder;
     files_by_name files;
     for (auto& [name, text] : files_below(folder))
-        files[without_marks(name, marks)] = without_marks(text, marks);
+        files[without_marks(name, marks)] = without_marks(with_own_paths(text), marks);
     return files;
 }
 
@@ -121,27 +131,29 @@ std::string tested_program() {
     return other != nullptr ? other : TESSALINE_PROGRAM;
 }
 
-run_outcome batch::run(const std::vector<std::string>& more_arguments) const {
-    std::vector<std::string> arguments = {full_name + "/geometry.qlm"};
+program_result batch::run(const std::vector<std::string>& more_arguments) const {
+    std::vector<std::string> arguments = {*this / "geometry.qlm"};
     arguments.insert(arguments.end(), more_arguments.begin(), more_arguments.end());
     return run_with(arguments);
 }
 
-std::string batch::command_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
-    std::string command = "cd " + shell_quoted(current_folder) + " && env -u TESSALINE_TRACE -u XDG_CONFIG_HOME";
-    command += date.empty() ? " -u SOURCE_DATE_EPOCH" : " SOURCE_DATE_EPOCH=" + shell_quoted(date);
-    command += " HOME=" + shell_quoted(outside / "home") + " TMPDIR=" + shell_quoted(outside / "tmp") +
-               " TZ=" + shell_quoted(zone) + " " + shell_quoted(tested_program());
-    for (const std::string& argument : arguments)
-        command += " " + shell_quoted(argument);
-    return command;
+program_start batch::start_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
+    program_start start = {tested_program(), arguments, current_folder, settings_in(outside / "home")};
+    const auto fixed = date.empty() ? std::nullopt : std::optional(date);
+    for (environment_change& one : std::vector<environment_change>{{"TESSALINE_TRACE", std::nullopt},
+                                                                   {"SOURCE_DATE_EPOCH", fixed},
+                                                                   {"TMPDIR", outside / "tmp"},
+                                                                   {"TMP", outside / "tmp"},
+                                                                   {"TZ", zone}})
+        start.environment.push_back(std::move(one));
+    return start;
 }
 
-run_outcome batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
-    const program_result result =
-        run_program(command_with(arguments, current_folder) + " 2>" + shell_quoted(outside / "errors") + " </dev/null");
+program_result batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
+    program_result result = run_program(start_with(arguments, current_folder));
+    EXPECT_EQ(result.end, "");
     expect_streams(*this);
-    return {result.status, result.output, outside.read("errors")};
+    return result;
 }
 
 files_by_name batch::files() const {
@@ -231,7 +243,7 @@ void expect_batch(const batch& found, const std::string& case_name, const std::s
 }
 
 void expect_run(const batch& prepared, const std::string& case_name, const std::vector<std::string>& more_arguments) {
-    const run_outcome outcome = prepared.run(more_arguments);
+    const program_result outcome = prepared.run(more_arguments);
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.errors, quiet_errors);

@@ -6,6 +6,7 @@
 #include "image/picture_format.h"
 #include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 
 #include <map>
@@ -14,16 +15,10 @@
 #include <string_view>
 #include <vector>
 
-// What the program did besides writing files.
-struct run_outcome {
-    int status = -1; // 0 is what the program always ends with
-    std::string output;
-    std::string errors;
-};
-
 // What the progress display leaves behind on a standard error that is no terminal, if a run never moves it: fewer than
-// 100 items do not.
-inline constexpr std::string_view quiet_errors = "Tessaline Progress [....................]\n";
+// 100 items do not. A window leaves nothing behind.
+inline constexpr std::string_view quiet_errors =
+    platform::lives_on_the_console ? "Tessaline Progress [....................]\n" : "";
 
 // The folders that every run of a model that opens makes.
 std::set<std::string> folders_of_every_run();
@@ -50,7 +45,7 @@ public:
     explicit batch(const std::string& name = "batch");
 
     const std::string& folder() const { return full_name; }
-    std::string operator/(const std::string& inside) const { return full_name + "/" + inside; }
+    std::string operator/(const std::string& inside) const { return outside / (name + "/" + inside); }
     // The folder in which the batch folder lies.
     const temporary_folder& surrounding() const { return outside; }
 
@@ -71,13 +66,13 @@ public:
 
     // Runs the program on "geometry.qlm", with these arguments behind its full name. Every stream that a run leaves in
     // the batch folder must follow the grammar; otherwise the running test fails.
-    run_outcome run(const std::vector<std::string>& more_arguments = {}) const;
+    program_result run(const std::vector<std::string>& more_arguments = {}) const;
     // Runs it with these arguments alone, from that folder.
-    run_outcome run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
-    run_outcome run_with(const std::vector<std::string>& arguments) const { return run_with(arguments, full_name); }
+    program_result run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
+    program_result run_with(const std::vector<std::string>& arguments) const { return run_with(arguments, full_name); }
 
-    // The command, for the shell, that such a run starts with; its standard streams are those of the shell.
-    std::string command_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
+    // How such a run starts.
+    program_start start_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
 
     // For the next runs: the text of SOURCE_DATE_EPOCH, empty to take it away; the time zone.
     void set_date(std::string seconds, std::string zone);

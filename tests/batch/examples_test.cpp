@@ -1,7 +1,7 @@
 // What a run makes of the examples.
 
 #include "tests/batch/batch_runner.h"
-#include "tests/run_program.h"
+#include "tests/support/run_program.h"
 
 #include <gtest/gtest.h>
 
@@ -19,8 +19,8 @@ std::string folder_of_example(const std::string& name) {
 // The model that the example's program writes, and what a parent puts beside it: what the golden files do not hold anew
 // must stay as it is.
 void put_example(batch& b, const std::string& name) {
-    const std::string program = std::string(EXAMPLE_PROGRAMS) + "/example_" + name;
-    ASSERT_EQ(run_program(shell_quoted(program) + " " + shell_quoted(b / "geometry.qlm")).status, 0);
+    const std::string program = std::string(EXAMPLE_PROGRAMS) + "/example_" + name + PROGRAM_ENDING;
+    ASSERT_EQ(run_program({program, {b / "geometry.qlm"}}).status, 0);
     b.expect_file("geometry.qlm", b.read("geometry.qlm"));
     const files_by_name golden = files_below(folder_of_example(name) + "/expected");
     for (const auto& [inside, bytes] : files_below(folder_of_example(name) + "/parent")) {
@@ -44,7 +44,7 @@ class ExamplesBatch : public testing::TestWithParam<std::string> {};
 TEST_P(ExamplesBatch, becomes_what_lies_beside_it) {
     batch b;
     put_example(b, GetParam());
-    const run_outcome outcome = b.run(arguments_of(GetParam()));
+    const program_result outcome = b.run(arguments_of(GetParam()));
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "");
     expect_batch(b, "examples/" + GetParam());

@@ -70,8 +70,8 @@ TEST(FoldersBatch, a_blank_in_the_name_of_the_folder_does_no_harm) {
 }
 
 TEST(FoldersBatch, names_beyond_ascii_do_no_harm) {
-    batch b("Gr\xC3\xB6\xC3\x9F"
-            "e \xE9\x9A\x8E");
+    batch b(platform::own_from_utf8("Gr\xC3\xB6\xC3\x9F"
+                                    "e \xE9\x9A\x8E"));
     put_square(b);
     expect_run(b, "one_square");
 }
@@ -90,7 +90,7 @@ TEST(FoldersBatch, nothing_appears_around_the_batch_folder) {
     std::set<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(b.surrounding().name()))
         names.insert(entry.path().filename().string());
-    EXPECT_EQ(names, (std::set<std::string>{"batch", "errors", "home", "tmp"}));
+    EXPECT_EQ(names, (std::set<std::string>{"batch", "home", "tmp"}));
     EXPECT_TRUE(std::filesystem::is_empty(b.surrounding() / "tmp"));
 }
 
@@ -106,17 +106,17 @@ TEST(FoldersBatch, the_date_line_holds_the_local_time_of_the_run) {
     const std::string stream = b.read("batch_file.txt");
     const std::size_t start = stream.find('\n') + 1;
     const std::string line = stream.substr(start, stream.find('\n', start) - start);
+    constexpr bool cuts_zone_names = platform::has_drive_letters; // Wine does, to "ES" and "ED"
     std::set<std::string> possible;
     for (std::time_t moment = before; moment <= after; ++moment)
         for (const int hours_west : {4, 5}) { // in summer and in winter
             const std::time_t local = moment - hours_west * 3600;
-            std::tm parts{};
-            gmtime_r(&local, &parts);
+            const std::tm parts = *std::gmtime(&local);
             char text[64];
             std::strftime(text, sizeof text, "#;%m/%d/%Y  %H:%M:%S ", &parts);
-            possible.insert(std::string(text) + (hours_west == 4 ? "EDT\r" : "EST\r"));
+            possible.insert(text + (cuts_zone_names ? "" : hours_west == 4 ? std::string("EDT\r") : "EST\r"));
         }
-    EXPECT_TRUE(possible.contains(line)) << line;
+    EXPECT_TRUE(possible.contains(cuts_zone_names ? line.substr(0, line.rfind(' ') + 1) : line)) << line;
 }
 
 TEST(FoldersBatch, a_fixed_date_does_not_depend_on_the_time_zone) {
@@ -131,7 +131,7 @@ TEST(FoldersBatch, a_stream_that_cannot_be_opened_stops_nothing_else) {
     put_square(b);
     b.put("batch_file.txt/in the way", ""); // a folder of the stream's name
     b.put("option_globals.txt", "");
-    const run_outcome outcome = b.run();
+    const program_result outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.errors, quiet_errors);
     EXPECT_NE(b.read("option_globals.txt"), "");
@@ -145,7 +145,7 @@ TEST(FoldersBatch, folders_that_cannot_be_made_stop_nothing_else) {
     put_square(b);
     for (const std::string& name : folders_of_every_run())
         b.put(name, "a file in the way");
-    const run_outcome outcome = b.run();
+    const program_result outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.errors, quiet_errors);
     expect_batch(b, "files_in_the_way", {});

@@ -174,7 +174,7 @@ TEST(MaterialsBatch, an_edited_material_without_its_last_chunk_ends_the_run_wher
     b.put("option_globals.txt", "ivl_2_sided_faces; 1");
     b.expect_file("option_globals.txt", "ivl_2_sided_faces; 1"); // not written anew
     b.expect_break();
-    const run_outcome outcome = b.run();
+    const program_result outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors,
                 testing::StartsWith("Tessaline - Error: an edited material lacks a chunk of its file\n"));
@@ -190,7 +190,7 @@ TEST(MaterialsBatch, a_chunk_numbered_below_0_ends_the_run) {
     row.square(edited, edited);
     b.put_model(m);
     b.expect_break();
-    const run_outcome outcome = b.run();
+    const program_result outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors,
                 testing::StartsWith("Tessaline - Error: a chunk of an edited material has a number below 0\n"));
@@ -224,7 +224,7 @@ TEST(MaterialsBatch, an_edited_material_that_cannot_be_saved_is_reported_and_the
     b.put_model(m);
     const std::string in_the_way = "ZynBatch_Materials/COL%3a0005_Edited.OrnMaterial";
     b.surrounding().make_folder("batch/" + in_the_way);
-    const run_outcome outcome = b.run();
+    const program_result outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors,
                 testing::HasSubstr("Tessaline - Error: Cannot save edited Ornmaterial: " + b / in_the_way + "\n"));

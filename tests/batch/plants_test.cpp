@@ -88,7 +88,7 @@ TEST(PlantsBatch, a_plant_with_data_of_the_old_form_is_shown_and_placed_without_
     m.root().instance(add_plant(m, "old.plant", {{"ornplant_name", "old.plant"}, {"ornplant_data", "rubbish"}}));
     set_random_height(m, 0);
     b.put_model(m);
-    const run_outcome outcome = b.run();
+    const program_result outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors, testing::HasSubstr("Error: 'Old 64' base Plant found:\nold.plant\n"
                                                    "Please send this model to Quillon Systems for testing.\n"));

@@ -1,7 +1,6 @@
 // What the option file and the model's own settings do, and what a run leaves of them.
 
 #include "tests/batch/batch_runner.h"
-#include "tests/run_program.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -149,20 +148,6 @@ TEST(SettingsBatch, a_face_without_materials_has_one_block_in_the_modes_0_and_1)
         put_square(b, m);
         expect_run(b, "one_square");
     }
-}
-
-// A limit on the size of files stands for a full disk: the new text has thousands of bytes, the parent's some tens.
-TEST(SettingsBatch, an_option_file_that_the_disk_has_no_room_for_keeps_what_the_parent_wrote) {
-    batch b;
-    model_builder m;
-    put_square(b, m);
-    const std::string parents = "# from the parent\nivl_resx; 800\n";
-    b.put("option_globals.txt", parents);
-    const program_result run =
-        run_program("ulimit -f 4; trap '' XFSZ; " + b.command_with({b / "geometry.qlm"}, b.folder()) + " 2>&1");
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(b.read("option_globals.txt"), parents);
-    EXPECT_TRUE(b.read("batch_file.txt").ends_with("END;\r\n"));
 }
 
 } // namespace

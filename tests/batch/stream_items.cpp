@@ -2,6 +2,8 @@
 
 #include "tests/batch/stream_items.h"
 
+#include "platform/platform.h"
+
 void stream_items::take_stream() {
     take_head();
     while (!at_end() && !at_edges())
@@ -96,9 +98,9 @@ void stream_items::take_plant() {
 }
 
 bool stream_items::is_plant_file(std::string_view name) {
-    constexpr std::string_view folder = "/Plants/";
+    constexpr std::string_view folder = platform::path_separator == '/' ? "/Plants/" : "\\Plants\\";
     const std::size_t at = name.rfind(folder);
-    return at != std::string_view::npos && name.find('/', at + folder.size()) == std::string_view::npos;
+    return at != std::string_view::npos && name.find(folder.front(), at + folder.size()) == std::string_view::npos;
 }
 
 void stream_items::take_rpc() {

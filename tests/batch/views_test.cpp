@@ -54,7 +54,7 @@ TEST(OptionFileBatch, one_that_is_a_folder_is_shown_at_the_end_and_stops_nothing
     m.root().square(10);
     b.put_model(m);
     b.put("option_globals.txt/inside", "");
-    const run_outcome outcome = b.run();
+    const program_result outcome = b.run();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.errors, testing::HasSubstr("Options Global FIle not found"));
     EXPECT_TRUE(b.read("batch_file.txt").ends_with("END;\r\n"));

@@ -5,40 +5,32 @@
 // with its seed and keeps its input, from which it can be repeated.
 
 #include "platform/platform.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/batch_reading/stream_reader.h"
 #include "tools/command_line/answers.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <chrono>
-#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <spawn.h>
+#include <sstream>
 #include <string>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <thread>
 #include <vector>
-
-extern char** environ;
 
 namespace {
 
 namespace fs = std::filesystem;
 using bytes = std::vector<std::uint8_t>;
 
-constexpr auto time_limit = std::chrono::seconds(2);
+constexpr int time_limit = 2; // seconds
 constexpr std::uint64_t largest_model = std::uint64_t{1} << 30U;
 // What a run may take beside the model: the program itself, and a few times the unpacked bytes of the largest sample.
 // Sanitizers multiply memory, so the limit is generous; a lying count would ask for gigabytes.
-constexpr long most_kilobytes = 1'500'000;
+constexpr std::uint64_t most_bytes = 1'536'000'000;
 
 bytes cut(const bytes& whole, std::mt19937_64& random) {
     const std::size_t length = random() % (whole.size() + 1);
@@ -52,44 +44,13 @@ bytes flipped(bytes whole, std::mt19937_64& random) {
     return whole;
 }
 
-// Waits for a child; empty if it ended well in time.
-std::string wait_for(pid_t child) {
-    const auto deadline = std::chrono::steady_clock::now() + time_limit;
-    int status = 0;
-    rusage usage{};
-    while (wait4(child, &status, WNOHANG, &usage) == 0) {
-        if (std::chrono::steady_clock::now() > deadline) {
-            kill(child, SIGKILL);
-            wait4(child, &status, 0, &usage);
-            return "took longer than two seconds";
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    if (WIFSIGNALED(status))
-        return "ended by signal " + std::to_string(WTERMSIG(status));
-    if (WEXITSTATUS(status) != 0)
-        return "status " + std::to_string(WEXITSTATUS(status));
-    if (usage.ru_maxrss > most_kilobytes)
-        return "took " + std::to_string(usage.ru_maxrss) + " kB";
-    return "";
-}
-
-// Runs the program on geometry.qlm of the folder with its messages in the file "messages".
-std::string run(const std::string& program, const temporary_folder& folder) {
-    const std::string model = folder / "geometry.qlm";
-    const std::string messages = folder / "messages";
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 1, messages.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    posix_spawn_file_actions_adddup2(&actions, 1, 2);
-    std::string name = program;
-    std::string argument = model;
-    char* arguments[] = {name.data(), argument.data(), nullptr};
-    pid_t child = 0;
-    const int error = posix_spawn(&child, program.c_str(), &actions, nullptr, arguments, environ);
-    posix_spawn_file_actions_destroy(&actions);
-    return error != 0 ? "cannot be started" : wait_for(child);
+// Empty if a run ended well.
+std::string fault_of(const program_result& run) {
+    if (!run.end.empty())
+        return run.end;
+    if (run.status != 0)
+        return "status " + std::to_string(run.status);
+    return run.most_bytes > most_bytes ? "took " + std::to_string(run.most_bytes) + " bytes" : "";
 }
 
 std::string fault_of_stream(const temporary_folder& folder) {
@@ -122,7 +83,8 @@ void try_one(const std::string& program, const std::string& what, const bytes& d
     const temporary_folder folder;
     const std::string model =
         folder.write("geometry.qlm", {reinterpret_cast<const char*>(damaged.data()), damaged.size()});
-    std::string fault = run(program, folder);
+    const program_result run = run_program({program, {model}, {}, settings_in(folder.name()), time_limit});
+    std::string fault = fault_of(run);
     if (fault.empty())
         fault = fault_of_stream(folder);
     ++count.runs;
@@ -130,7 +92,7 @@ void try_one(const std::string& program, const std::string& what, const bytes& d
     if (!fault.empty()) {
         ++count.failed;
         std::printf("%s: %s; kept as %s\n", what.c_str(), fault.c_str(), kept_copy(model).c_str());
-        std::ifstream messages(folder / "messages");
+        std::istringstream messages(run.output + run.errors);
         std::string line;
         for (int i = 0; i < 12 && std::getline(messages, line); ++i)
             std::printf("    %s\n", line.c_str());

@@ -1,4 +1,6 @@
+#include "platform/platform.h"
 #include "qlw/qlw_text_files.h"
+#include "tests/support/shown_to_user.h"
 #include "tests/support/trace_capture.h"
 
 #include <gtest/gtest.h>
@@ -8,10 +10,16 @@
 namespace {
 
 std::string shown(const std::function<void()>& action) {
-    testing::internal::CaptureStderr();
-    action();
-    const std::string text = testing::internal::GetCapturedStderr();
+    const std::string text = shown_to_user(action);
     return text.substr(0, text.find("\n\n    (VER: ")); // the version and the machine are the dialog's affair
+}
+
+// In the words of the system.
+std::string why_not_opened(const std::string& name) {
+    platform::file file;
+    EXPECT_FALSE(file.open(name, platform::open_mode::read));
+    EXPECT_NE(file.failure(), "");
+    return file.failure();
 }
 
 TEST(InputFile, opens_what_exists_without_a_word) {
@@ -30,8 +38,9 @@ TEST(InputFile, missing_and_quiet_is_only_traced) {
     cl_input_file file;
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", open_failure::quiet, "caller", 77)); }), "");
     EXPECT_FALSE(file.is_open());
-    EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " +
-                                                       (folder / "none") + ": No such file or directory: caller 77\n");
+    EXPECT_EQ(capture.text_without_line_numbers(),
+              "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " + (folder / "none") + ": " +
+                  why_not_opened(folder / "none") + ": caller 77\n");
 }
 
 TEST(InputFile, missing_and_not_quiet_is_shown_too) {
@@ -39,12 +48,13 @@ TEST(InputFile, missing_and_not_quiet_is_shown_too) {
     const trace_capture capture;
     cl_input_file file;
     EXPECT_EQ(shown([&] { EXPECT_FALSE(file.open(folder / "none", open_failure::shown, "", 0)); }),
-              "Tessaline - Error: Cannot open file: '" + (folder / "none") + "' No such file or directory:  0");
+              "Tessaline - Error: Cannot open file: '" + (folder / "none") + "' " + why_not_opened(folder / "none") +
+                  ":  0");
     EXPECT_EQ(capture.text_without_line_numbers(),
-              "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " + (folder / "none") +
-                  ": No such file or directory:  0\n" +
-                  "qlw_std(#): cl_input_file::open():: *** ERROR: Cannot open file: '" + (folder / "none") +
-                  "' No such file or directory:  0\n");
+              "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " + (folder / "none") + ": " +
+                  why_not_opened(folder / "none") + ":  0\n" +
+                  "qlw_std(#): cl_input_file::open():: *** ERROR: Cannot open file: '" + (folder / "none") + "' " +
+                  why_not_opened(folder / "none") + ":  0\n");
 }
 
 TEST(InputFile, a_folder_is_no_file) {
@@ -53,7 +63,7 @@ TEST(InputFile, a_folder_is_no_file) {
     cl_input_file file;
     EXPECT_FALSE(file.open(folder.name(), open_failure::quiet, "", 0));
     EXPECT_EQ(capture.text_without_line_numbers(), "qlw_std(#): cl_input_file::open():: REPORT: File not opened: " +
-                                                       folder.name() + ": Is a directory:  0\n");
+                                                       folder.name() + ": " + why_not_opened(folder.name()) + ":  0\n");
 }
 
 TEST(InputFile, a_binary_file_that_is_missing_is_shown_unless_quiet_and_never_just_traced) {

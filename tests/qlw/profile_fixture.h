@@ -40,7 +40,7 @@ protected:
     }
 
     temporary_folder folder;
-    with_environment settings{"XDG_CONFIG_HOME", folder / "config"};
+    with_settings_folder settings{folder / "config"};
     with_environment home{"HOME", folder / "home"};
     captured_trace trace;
     memory_registry* registry = nullptr;

@@ -136,11 +136,4 @@ TEST_F(UserProfile, a_run_with_an_unwritable_home_goes_on_without_a_message) {
                                                              "ivl_max_azure_minutes"}));
 }
 
-TEST_F(UserProfile, without_a_variable_for_settings_they_lie_below_the_home_folder) {
-    const with_environment no_settings{"XDG_CONFIG_HOME", std::nullopt};
-    write_profile_int("Globals", "ivl_number", 5);
-    EXPECT_EQ(get_profile_int("Globals", "ivl_number", 7, true), 5);
-    EXPECT_EQ(folder.read("home/.config/Quillon Systems/Profile.ini"), "[Globals]\r\nivl_number=5\r\n");
-}
-
 } // namespace

@@ -175,12 +175,4 @@ TEST(File, opening_another_file_closes_the_first) {
     EXPECT_EQ(folder.read("b"), "second");
 }
 
-TEST(File, a_full_disk_shows_at_the_close) {
-    cl_output_file file;
-    ASSERT_TRUE(file.open("/dev/full", output_file_mode::report_failure));
-    EXPECT_TRUE(file.write_string("gathered"));
-    EXPECT_FALSE(file.close());
-    EXPECT_FALSE(file.is_open());
-}
-
 } // namespace

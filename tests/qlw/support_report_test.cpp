@@ -74,7 +74,7 @@ TEST_F(SupportReport, has_one_line_for_each_fact_and_no_other) {
 
 TEST_F(SupportReport, names_the_user_that_the_profile_names) {
     const temporary_folder home;
-    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    const with_settings_folder profile(home.name());
     home.write("Quillon Systems/Profile.ini",
                "[Common]\r\nPhone=123\r\nEmail=Ann@Example.com\r\nUser Name=Ann\r\nCompany=Example\r\n");
     reset_profile_state();
@@ -89,7 +89,7 @@ TEST_F(SupportReport, of_a_machine_without_registry_names_date_computer_and_syst
     if (!platform::lives_on_the_console)
         GTEST_SKIP() << "this system has a registry";
     const temporary_folder home;
-    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    const with_settings_folder profile(home.name());
     const with_environment date("SOURCE_DATE_EPOCH", "951782400"); // 2000-02-29 00:00 UTC
     EXPECT_EQ(get_support_report(), "     #Date: 'Tuesday, February 29, 2000'\r\n"
                                     "     #Computer: '" +
@@ -115,7 +115,7 @@ TEST_F(SupportReport, of_a_machine_without_registry_names_date_computer_and_syst
 
 TEST_F(SupportReport, takes_what_is_known_of_the_user_from_the_profile) {
     const temporary_folder home;
-    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    const with_settings_folder profile(home.name());
     home.write("Quillon Systems/Profile.ini", "[Common]\r\nCompany=Larch & Partners\r\nPhone=555 0100\r\n"
                                               "User Name=Ada Larch\r\nEmail=Ada@Larch.Example\r\n");
     EXPECT_THAT(get_support_report(), testing::HasSubstr("     #Company: 'Larch & Partners'\r\n"
@@ -126,7 +126,7 @@ TEST_F(SupportReport, takes_what_is_known_of_the_user_from_the_profile) {
 
 TEST_F(SupportReport, takes_what_the_machine_knows_from_the_registry) {
     const temporary_folder home;
-    const with_environment profile("XDG_CONFIG_HOME", home.name());
+    const with_settings_folder profile(home.name());
     auto registry = std::make_unique<memory_registry>();
     registry->put_text("HKLM\\SYSTEM\\CurrentControlSet\\Control\\ComputerName\\ActiveComputerName\\ComputerName",
                        "drawing-board");

@@ -1,18 +1,22 @@
-# LIBRARY: a shared library. HEADER: what declares the calls of the C interface. Every call declared is shown by the
-# library, and the library shows no other name.
-execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
-string(REGEX MATCHALL "[0-9a-f]+ [A-Za-z] [^\n]+" lines "${symbols}")
+# LIBRARY: a shared library. HEADER: what declares the calls of the C interface. TOOLS: the folder of declared_calls. NM,
+# or on Windows OBJDUMP: what lists the names of a library. Every call declared is shown by the library, and the library
+# shows no other name.
+include(${TOOLS}/declared_calls.cmake)
+if(OBJDUMP)
+  execute_process(COMMAND ${OBJDUMP} -p ${LIBRARY} OUTPUT_VARIABLE table COMMAND_ERROR_IS_FATAL ANY)
+  set(before_name "\n\t\\[ *[0-9]+\\] +")
+else()
+  execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY} OUTPUT_VARIABLE table COMMAND_ERROR_IS_FATAL ANY)
+  set(table "\n${table}")
+  set(before_name "\n[0-9a-f]+ [A-Za-z] ")
+endif()
+string(REGEX MATCHALL "${before_name}[A-Za-z_0-9]+[^\n]*" lines "${table}")
 set(shown)
 foreach(line ${lines})
-  string(REGEX REPLACE "^[0-9a-f]+ [A-Za-z] " "" name "${line}")
+  string(REGEX REPLACE "^${before_name}" "" name "${line}")
   list(APPEND shown ${name})
 endforeach()
-file(READ ${HEADER} text)
-string(REGEX REPLACE "(//|#define)[^\n]*" "" text "${text}")
-string(REGEX MATCHALL "SU[A-Za-z0-9]+\\(" declared "${text}")
-list(TRANSFORM declared REPLACE "\\($" "")
-list(REMOVE_DUPLICATES declared)
-list(SORT declared)
+declared_calls(${HEADER} declared)
 list(SORT shown)
 if(NOT declared OR NOT declared STREQUAL shown)
   set(missing ${declared})

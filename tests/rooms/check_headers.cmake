@@ -1,9 +1,13 @@
-# COMPILER, PATHS: see compile.cmake. Compiles each header of FOLDERS, which lie in ROOT, by itself.
+# COMPILER, PATHS: see compile.cmake. Compiles each header of FOLDERS, which lie in ROOT, by itself, but for those in
+# the folders WITHOUT.
 include(${CMAKE_CURRENT_LIST_DIR}/compile.cmake)
 set(headers)
 foreach(folder ${FOLDERS})
   file(GLOB_RECURSE found RELATIVE ${ROOT} ${ROOT}/${folder}/*.h)
   list(APPEND headers ${found})
+endforeach()
+foreach(folder ${WITHOUT})
+  list(FILTER headers EXCLUDE REGEX "^${folder}/")
 endforeach()
 if(NOT headers)
   message(FATAL_ERROR "no headers in ${FOLDERS}")

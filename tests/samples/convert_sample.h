@@ -2,8 +2,8 @@
 
 // A sample converted by the built program.
 
-#include "tests/run_program.h"
 #include "tests/samples_folder.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 
 #include <filesystem>
@@ -15,9 +15,7 @@
 inline std::string convert(const std::string& sample, const temporary_folder& batch) {
     std::filesystem::copy_file(samples_folder() + sample, batch / "geometry.qlm");
     const temporary_folder home; // the settings of whoever runs the tests are neither read nor written
-    const program_result run =
-        run_program("XDG_CONFIG_HOME=" + shell_quoted(home / "config") + " HOME=" + shell_quoted(home.name()) + " " +
-                    shell_quoted(TESSALINE_PROGRAM) + " " + shell_quoted(batch / "geometry.qlm") + " 2>/dev/null");
+    const program_result run = run_program({TESSALINE_PROGRAM, {batch / "geometry.qlm"}, {}, settings_in(home.name())});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.output, "");
     return batch.read("batch_file.txt");

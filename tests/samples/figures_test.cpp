@@ -1,9 +1,9 @@
 // What skp-dump tells of every sample against the figures of an independent reader.
 
-#include "tests/run_program.h"
 #include "tests/samples/expected_figures.h"
 #include "tests/samples/known_exceptions.h"
 #include "tests/samples/removed_by_openings.h"
+#include "tests/support/run_program.h"
 
 #include <algorithm>
 #include <cmath>
@@ -69,8 +69,7 @@ class SampleFigures : public testing::TestWithParam<std::string> {};
 
 TEST_P(SampleFigures, agree_with_those_of_an_independent_reader) {
     const json expected = mended(GetParam(), expected_figures()[GetParam()]);
-    const program_result run = run_program(shell_quoted(SKP_DUMP_PROGRAM) + " --json " +
-                                           shell_quoted(samples_folder() + GetParam()) + " 2>/dev/null");
+    const program_result run = run_program({SKP_DUMP_PROGRAM, {"--json", samples_folder() + GetParam()}});
     json found = json::parse(run.output);
     ASSERT_EQ(found["opens"], expected["opens"]) << run.output;
     ASSERT_EQ(run.status == 0, expected["opens"].get<bool>());

@@ -1,8 +1,8 @@
 // Every sample converted beside an option file: the file is left with the sun of the model.
 
 #include "sketchup/SketchUpAPI.h"
-#include "tests/run_program.h"
 #include "tests/samples/expected_figures.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 
 #include <array>
@@ -59,8 +59,7 @@ std::string rewritten_options(const std::string& sample, const std::string& opti
     const temporary_folder home;
     std::filesystem::copy_file(samples_folder() + sample, batch / "geometry.qlm");
     batch.write("option_globals.txt", options);
-    run_program("XDG_CONFIG_HOME=" + shell_quoted(home / "config") + " HOME=" + shell_quoted(home.name()) + " " +
-                shell_quoted(TESSALINE_PROGRAM) + " " + shell_quoted(batch / "geometry.qlm") + " 2>/dev/null");
+    run_program({TESSALINE_PROGRAM, {batch / "geometry.qlm"}, {}, settings_in(home.name())});
     return batch.read("option_globals.txt");
 }
 

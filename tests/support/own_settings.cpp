@@ -2,6 +2,7 @@
 // settings are read or written by a test, and no two test programs meet in theirs.
 
 #include "tests/support/environment.h"
+#include "tests/support/shown_to_user.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const temporary_folder folder;
-    const with_environment settings("XDG_CONFIG_HOME", folder / "config");
+    const with_settings_folder settings(folder / "config");
+    const attended_desktop desktop;
     return RUN_ALL_TESTS();
 }

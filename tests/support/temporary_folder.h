@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -18,11 +19,19 @@ inline std::string text_of_file(const std::string& path) {
     return text.str();
 }
 
+// The same with the platform's separators for "/".
+inline std::string with_own_separators(std::string name) {
+    std::replace(name.begin(), name.end(), '/', platform::path_separator);
+    return name;
+}
+
+// Names in it are given with "/" on every platform.
 class temporary_folder {
 public:
     // Throws if the folder cannot be made: no test can go on without it.
     temporary_folder() {
-        const std::string beginning = platform::absolute_name(platform::temporary_folder()) + "/tessaline_test_";
+        const std::string beginning =
+            with_own_separators(platform::absolute_name(platform::temporary_folder()) + "/tessaline_test_");
         const auto made = platform::make_unique_folder(beginning);
         if (!made)
             throw std::runtime_error("no folder can be made: " + beginning);
@@ -36,7 +45,7 @@ public:
     }
 
     const std::string& name() const { return folder; }
-    std::string operator/(const std::string& inside) const { return folder + "/" + inside; }
+    std::string operator/(const std::string& inside) const { return folder + with_own_separators("/" + inside); }
 
     // Makes a file with these bytes, and the folders above it; gives its full name.
     std::string write(const std::string& inside, std::string_view bytes) const {

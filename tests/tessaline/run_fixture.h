@@ -72,7 +72,7 @@ protected:
 
     temporary_folder batch;
     with_environment fixed_date{"SOURCE_DATE_EPOCH", "0"};
-    with_environment own_profile{"XDG_CONFIG_HOME", batch / "config"};
+    with_settings_folder own_profile{batch / "config"};
     SketchUpReader reader;
     int result = 0;
 };

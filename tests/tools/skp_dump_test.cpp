@@ -5,8 +5,8 @@
 #include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tests/image/pictures.h"
-#include "tests/run_program.h"
 #include "tests/samples_folder.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 
 #include <filesystem>
@@ -27,15 +27,15 @@ std::string model_file(const temporary_folder& folder, model_builder& builder) {
     return folder.write("model.skp", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
 }
 
-program_result dump(const std::string& arguments) {
-    return run_program(std::string(SKP_DUMP_PROGRAM) + " " + arguments);
+program_result dump(const std::vector<std::string>& arguments) {
+    return run_program({SKP_DUMP_PROGRAM, arguments});
 }
 
 std::set<std::string> files_below(const std::string& folder) {
     std::set<std::string> found;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
         if (entry.is_regular_file())
-            found.insert(std::filesystem::relative(entry.path(), folder).string());
+            found.insert(std::filesystem::relative(entry.path(), folder).generic_string());
     return found;
 }
 
@@ -50,7 +50,7 @@ TEST(SkpDumpTextures, never_leave_the_folder_whatever_the_materials_are_called) 
     builder.textured_material("..", small_png(), "d.png", 1, 1);
     builder.material("Plain", {1, 2, 3, 255});
     const std::string model = model_file(folder, builder);
-    const program_result result = dump("--textures " + shell_quoted(folder / "pictures") + " " + shell_quoted(model));
+    const program_result result = dump({"--textures", folder / "pictures", model});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(files_below(folder.name()),
               (std::set<std::string>{"model.skp", "pictures/0001__._.._outside.png", "pictures/0002__etc_passwd.png",
@@ -64,8 +64,8 @@ TEST(SkpDumpTextures, that_cannot_be_written_are_told_by_the_status) {
     model_builder builder;
     builder.textured_material("Damaged", {'x'}, "a.png", 1, 1);
     const std::string model = model_file(folder, builder);
-    EXPECT_NE(dump("--textures " + shell_quoted(folder / "pictures") + " " + shell_quoted(model) + " 2>&1").status, 0);
-    EXPECT_NE(dump("--textures " + shell_quoted(folder / "no/such") + " " + shell_quoted(model) + " 2>&1").status, 0);
+    EXPECT_NE(dump({"--textures", folder / "pictures", model}).status, 0);
+    EXPECT_NE(dump({"--textures", folder / "no/such", model}).status, 0);
     EXPECT_EQ(files_below(folder.name()), (std::set<std::string>{"model.skp"}));
 }
 
@@ -78,7 +78,7 @@ void expect_lines(const std::string& text, const std::vector<std::string>& lines
 
 std::string summary_of(model_builder& builder) {
     const temporary_folder folder;
-    return dump(shell_quoted(model_file(folder, builder))).output;
+    return dump({model_file(folder, builder)}).output;
 }
 
 } // namespace
@@ -190,7 +190,7 @@ void add_walls(model_builder& builder) {
 
 std::string dump_of(model_builder& builder, const std::string& how) {
     const temporary_folder folder;
-    return dump(how + " " + shell_quoted(model_file(folder, builder))).output;
+    return dump({how, model_file(folder, builder)}).output;
 }
 
 } // namespace

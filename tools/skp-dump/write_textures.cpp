@@ -26,7 +26,7 @@ bool write_texture(SUMaterialRef material, SUTextureRef texture, std::size_t num
     std::snprintf(prefix, sizeof prefix, "%04zu_", number);
     const std::string name = su_text(material, SUMaterialGetName);
     const std::string file_name = prefix + safe_file_name(name) + extension_for(su_text(texture, SUTextureGetFileName));
-    const std::string path = folder + platform::path_separator + file_name;
+    const std::string path = platform::utf8_from_own(folder) + platform::path_separator + file_name;
     if (SUTextureWriteToFile(texture, path.c_str()) != SU_ERROR_NONE) {
         std::fprintf(stderr, "skp-dump: the picture of material %s cannot be written\n", name.c_str());
         return false;

@@ -1,12 +1,11 @@
 // How a run starts: whole runs from a command line.
 
+#include "tests/support/shown_to_user.h"
 #include "tests/tessaline/run_fixture.h"
 
 #include "platform/platform.h"
 #include "tessaline/state/application.h"
-#include "tests/run_program.h"
 #include "tests/support/answering_desktop.h"
-#include "tests/support/terminal_run.h"
 
 namespace {
 
@@ -19,11 +18,11 @@ protected:
         return save(m, inside);
     }
 
-    // What a run with that command line prints to standard error.
+    // What a run with that command line tells the user.
     static std::string told_by(const std::string& command_line) {
-        testing::internal::CaptureStderr();
-        EXPECT_FALSE(theApp.InitInstance(command_line)); // there is no message loop to enter
-        return testing::internal::GetCapturedStderr();
+        return shown_to_user([&] {
+            EXPECT_FALSE(theApp.InitInstance(command_line)); // there is no message loop to enter
+        });
     }
 };
 
@@ -103,38 +102,15 @@ TEST_F(StartUp, a_missing_input_is_reported_and_nothing_is_written_or_deleted) {
     EXPECT_EQ(batch.read("out.txt"), "old");
 }
 
-TEST_F(StartUp, a_missing_model_in_quotes_leaves_the_stream_beside_it) {
-    batch.write("batch_file.txt", "old");
-    told_by("tessaline \"" + batch / "geometry.qlm" + "\"");
-    EXPECT_EQ(batch.read("batch_file.txt"), "old");
-}
-
-TEST_F(StartUp, a_missing_model_in_quotes_is_told_of_where_nobody_can_be_asked) {
-    const std::string missing = batch / "a b/missing.qlm"; // holds a blank, so that the line has it in quotation marks
-    const program_result run =
-        run_program(shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(missing) + " </dev/null 2>&1");
-    EXPECT_THAT(run.output, testing::HasSubstr("Could not find input filename " + missing + ".\n"));
-    EXPECT_EQ(run.status, 0);
-    EXPECT_FALSE(batch.has("a b"));
-}
-
-TEST_F(StartUp, a_missing_model_in_quotes_is_told_of_behind_the_question_for_the_stream) {
-    const std::string missing = batch / "a b/missing.qlm";
-    const std::string command = shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(missing);
-    const std::vector<std::string> rows = rows_left_on_terminal(command, batch / "out.xml\n");
-    const std::string shown = testing::PrintToString(rows);
-    const std::size_t question = shown.find("Tessaline, Debug Mode - to create SKP XML file [");
-    const std::size_t message = shown.find("Could not find input filename ");
-    EXPECT_LT(question, message) << shown;
-    EXPECT_NE(message, std::string::npos) << shown;
-}
-
-TEST_F(StartUp, a_dismissed_question_ends_the_run_without_a_word) {
-    const std::string command = shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(batch / "a b/missing.qlm");
-    const std::string end_of_input = "\x04";
-    const std::string shown = testing::PrintToString(rows_left_on_terminal(command, end_of_input));
-    EXPECT_THAT(shown, testing::HasSubstr("Tessaline, Debug Mode - to create SKP XML file ["));
-    EXPECT_THAT(shown, testing::Not(testing::HasSubstr("Could not find")));
+TEST_F(StartUp, a_name_that_the_system_does_not_take_is_called_too_long) {
+    const std::string longest = "/" + std::string(platform::longest_name - 1, 'a');
+    const std::string told = told_by("tessaline " + longest + " " + batch / "out.txt");
+    EXPECT_THAT(told, testing::HasSubstr("Could not find input filename " + longest + "."));
+    EXPECT_THAT(told, testing::Not(testing::HasSubstr("characters")));
+    EXPECT_THAT(told_by("tessaline " + longest + "a " + batch / "out.txt"),
+                testing::HasSubstr(std::string("Its name has ") + std::to_string(platform::longest_name + 1) +
+                                   " characters, more than the " + std::to_string(platform::longest_name) +
+                                   " that the system takes."));
 }
 
 TEST_F(StartUp, a_missing_model_with_its_stream_as_the_second_path_leaves_that) {
@@ -177,7 +153,7 @@ TEST_F(StartUp, without_arguments_and_without_a_terminal_the_usage_is_printed) {
 
 TEST_F(StartUp, the_marker_in_the_temporary_folder_shows_the_command_line_and_both_paths) {
     const std::string model = saved_model("geometry.qlm");
-    const with_environment temporary("TMPDIR", batch / "tmp");
+    const with_temporary_folder temporary(batch / "tmp");
     batch.write("tmp/qlw_show_command_line", "");
     const std::string line = "tessaline \"" + model + "\"";
     const std::string told = told_by("  " + line + " ");

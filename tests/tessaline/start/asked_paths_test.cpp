@@ -22,7 +22,7 @@ protected:
     ~AskedPaths() override { reset_profile_state(); }
 
     temporary_folder folder;
-    with_environment settings{"XDG_CONFIG_HOME", folder / "config"};
+    with_settings_folder settings{folder / "config"};
     trace_capture capture;
     memory_registry* registry = nullptr;
 };

@@ -5,7 +5,7 @@
 #include "platform/platform.h"
 #include "qlw/letter_case.h"
 #include "qlw/qlw_trace.h"
-#include "tests/run_program.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/trace_capture.h"
 
@@ -18,10 +18,12 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-// Runs the program; what it prints to standard error goes to a file of the folder.
-program_result run_tessaline(const std::string& arguments, const temporary_folder& folder) {
-    return run_program("SOURCE_DATE_EPOCH=951782400 XDG_CONFIG_HOME=" + shell_quoted(folder / "config") + ' ' +
-                       shell_quoted(TESSALINE_PROGRAM) + ' ' + arguments + " 2>" + shell_quoted(folder / "told.txt"));
+program_result run_tessaline(const std::vector<std::string>& arguments, const temporary_folder& folder) {
+    return run_program(
+        {TESSALINE_PROGRAM,
+         arguments,
+         {},
+         {{"SOURCE_DATE_EPOCH", "951782400"}, {"XDG_CONFIG_HOME", folder / "config"}, {"APPDATA", folder / "config"}}});
 }
 
 TEST(SupportAnswers, show_the_dialog_behind_more_and_print_its_report) {
@@ -48,7 +50,7 @@ TEST(SupportAnswers, end_with_their_life) {
 
 TEST(SupportReportProgram, prints_the_report_and_ends_with_status_0) {
     const temporary_folder folder;
-    const program_result run = run_tessaline("--support-report", folder);
+    const program_result run = run_tessaline({"--support-report"}, folder);
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.output, StartsWith("     #Date: 'Tuesday, February 29, 2000'\n"
                                        "     #Computer: '" +
@@ -65,18 +67,17 @@ TEST(SupportReportProgram, prints_the_report_and_ends_with_status_0) {
                                      platform::system_version().description +
                                      "'\n"
                                      "     #SU Version: ''\n"));
-    EXPECT_EQ(folder.read("told.txt"), "");
+    EXPECT_EQ(run.errors, "");
 }
 
 TEST(SupportReportProgram, in_front_of_a_run_prints_the_place_of_its_errors_and_their_report) {
     const temporary_folder folder;
     const std::string missing = folder / "missing.skp";
-    const program_result run =
-        run_tessaline("--support-report " + shell_quoted(missing) + ' ' + shell_quoted(folder / "out.txt"), folder);
+    const program_result run = run_tessaline({"--support-report", missing, folder / "out.txt"}, folder);
     EXPECT_EQ(run.status, 0);
-    EXPECT_THAT(folder.read("told.txt"), StartsWith("Tessaline - Error: Could not find input filename " + missing +
-                                                    ".\n\n\n    (VER: SC26w - "));
-    EXPECT_THAT(folder.read("told.txt"), HasSubstr("\n         (Error occurred in Tessaline line: "));
+    EXPECT_THAT(run.errors, StartsWith("Tessaline - Error: Could not find input filename " + missing +
+                                       ".\n\n\n    (VER: SC26w - "));
+    EXPECT_THAT(run.errors, HasSubstr("\n         (Error occurred in Tessaline line: "));
     EXPECT_THAT(run.output, StartsWith("Could not find input filename " + missing +
                                        ".\n\n\n     (Error occurred in Tessaline line: "));
     EXPECT_THAT(run.output, HasSubstr("     #Date: 'Tuesday, February 29, 2000'\n"));

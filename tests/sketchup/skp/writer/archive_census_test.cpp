@@ -5,10 +5,10 @@
 #include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/read_model.h"
 #include "sketchup/skp/writer/modern_writer.h"
-#include "tests/run_program.h"
 #include "tests/samples_folder.h"
 #include "tests/sketchup/skp/writer/archive_exceptions.h"
 #include "tests/sketchup/skp/writer/random_model.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -81,8 +81,8 @@ std::vector<std::unique_ptr<model>> built_models() {
 std::unique_ptr<model> model_of_example(const std::string& name) {
     const temporary_folder folder;
     const std::string file = folder / "model.skp";
-    const std::string program = std::string(EXAMPLE_PROGRAMS) + "/example_" + name;
-    EXPECT_EQ(run_program(shell_quoted(program) + " " + shell_quoted(file)).status, 0);
+    const std::string program = std::string(EXAMPLE_PROGRAMS) + "/example_" + name + PROGRAM_ENDING;
+    EXPECT_EQ(run_program({program, {file}}).status, 0);
     return skp::read_model(file_bytes(file));
 }
 

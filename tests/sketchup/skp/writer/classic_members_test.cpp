@@ -5,11 +5,11 @@
 #include "sketchup/builder/model_builder.h"
 #include "sketchup/skp/read_model.h"
 #include "sketchup/skp/writer/classic_writer.h"
-#include "tests/run_program.h"
 #include "tests/samples_folder.h"
 #include "tests/sketchup/skp/writer/classic_samples.h"
 #include "tests/sketchup/skp/writer/member_exceptions.h"
 #include "tests/sketchup/skp/writer/random_model.h"
+#include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -95,8 +95,8 @@ TEST_P(ClassicMembers, the_examples_leave_nothing_empty_that_real_files_always_h
     const temporary_folder folder;
     for (const char* name : {"garden", "room", "stages"}) {
         const std::string model = folder / (std::string(name) + ".skp");
-        const std::string program = std::string(EXAMPLE_PROGRAMS) + "/example_" + name;
-        ASSERT_EQ(run_program(shell_quoted(program) + " " + shell_quoted(model)).status, 0);
+        const std::string program = std::string(EXAMPLE_PROGRAMS) + "/example_" + name + PROGRAM_ENDING;
+        ASSERT_EQ(run_program({program, {model}}).status, 0);
         EXPECT_EQ(breaches_in(written(*skp::read_model(file_bytes(model)))), "") << name;
         if (GetParam().version == skp::classic_version::v17) {
             EXPECT_EQ(breaches_in(file_bytes(model)), "") << name;

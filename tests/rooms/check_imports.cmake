@@ -1,0 +1,23 @@
+# OBJDUMP: lists what a program needs. PROGRAMS: programs for Windows. Each needs libraries that are part of Windows 7 and
+# of every later Windows, and no others: it runs where it is copied to.
+set(of_the_system advapi32.dll comctl32.dll comdlg32.dll gdi32.dll kernel32.dll msvcrt.dll ole32.dll psapi.dll
+  shell32.dll user32.dll)
+set(failed FALSE)
+foreach(program ${PROGRAMS})
+  execute_process(COMMAND ${OBJDUMP} -p ${program} OUTPUT_VARIABLE table COMMAND_ERROR_IS_FATAL ANY)
+  string(REGEX MATCHALL "DLL Name: [^\n]+" lines "${table}")
+  if(NOT lines)
+    message(FATAL_ERROR "no table of needed libraries: ${program}")
+  endif()
+  foreach(line ${lines})
+    string(REPLACE "DLL Name: " "" needed "${line}")
+    string(TOLOWER "${needed}" needed)
+    if(NOT needed IN_LIST of_the_system)
+      message("${program} needs ${needed}")
+      set(failed TRUE)
+    endif()
+  endforeach()
+endforeach()
+if(failed)
+  message(FATAL_ERROR "a program needs more than Windows")
+endif()

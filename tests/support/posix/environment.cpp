@@ -1,0 +1,8 @@
+#include "tests/support/environment.h"
+
+void set_environment_variable(const std::string& name, const std::optional<std::string>& value) {
+    if (value)
+        setenv(name.c_str(), value->c_str(), 1);
+    else
+        unsetenv(name.c_str());
+}
