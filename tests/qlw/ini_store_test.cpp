@@ -100,15 +100,6 @@ TEST(IniStore, nothing_of_many_processes_that_write_at_once_is_lost) {
     EXPECT_EQ(names_in(folder), (std::set<std::string>{"a.ini"}));
 }
 
-TEST(IniStore, a_lock_that_cannot_be_made_is_no_wait) {
-    const temporary_folder folder;
-    folder.make_folder("a.ini.lock");
-    ini_store store(5);
-    EXPECT_EQ(store.write(folder / "a.ini", "a", "key", "1"), ini_write::ended);
-    EXPECT_EQ(store.patience(), 5);
-    EXPECT_FALSE(folder.has("a.ini"));
-}
-
 TEST(IniStore, a_file_larger_than_any_profile_is_neither_read_nor_touched) {
     const temporary_folder folder;
     const std::string bytes = "[a]\nkey=1\n;" + std::string(4u << 20, 'x');

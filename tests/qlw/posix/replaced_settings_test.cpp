@@ -95,4 +95,13 @@ TEST(IniStore, values_are_kept_again_when_the_other_process_has_let_go) {
     EXPECT_EQ(folder.read("a.ini"), "[a]\r\nkey=2\r\n");
 }
 
+TEST(IniStore, a_lock_that_cannot_be_made_is_no_wait) {
+    const temporary_folder folder;
+    folder.make_folder("a.ini.lock");
+    ini_store store(5);
+    EXPECT_EQ(store.write(folder / "a.ini", "a", "key", "1"), ini_write::ended);
+    EXPECT_EQ(store.patience(), 5);
+    EXPECT_FALSE(folder.has("a.ini"));
+}
+
 } // namespace
