@@ -18,7 +18,8 @@ constexpr int name_edit = 0x480;
 constexpr int name_box = 0x47c;
 constexpr const char* open_title = "Tessaline, to create SKP XML file";
 constexpr const char* save_title = "Tessaline, Debug Mode - to create SKP XML file";
-constexpr const char* error_title = "Tessaline - Error";
+constexpr const char* error_title = "Tessaline - Tessaline conversion Error";
+constexpr const char* report_title = "Tessaline - Error";
 
 std::string backslashed(std::string name) {
     for (char& c : name)
@@ -124,7 +125,7 @@ TEST_F(StartedByHand, a_missing_model_is_told_of_and_the_report_goes_to_the_clip
     EXPECT_THAT(text_of(message, CONTROL_MESSAGE), HasSubstr("\r\n    Click More to send message to Support."));
     press(message, CONTROL_MORE);
     EXPECT_TRUE(comes_true([&] { return !IsWindow(message); }));
-    const HWND report = program.dialog(error_title);
+    const HWND report = program.dialog(report_title);
     EXPECT_THAT(text_of(report, CONTROL_MESSAGE), HasSubstr("(Error occurred in Tessaline line: "));
     // A look into the clipboard would keep the program from it.
     const DWORD before = GetClipboardSequenceNumber();
