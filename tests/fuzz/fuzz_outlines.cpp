@@ -7,6 +7,7 @@
 #include "sketchup/model/opening_tolerance.h"
 #include "sketchup/skp/format_error.h"
 #include "sketchup/skp/link.h"
+#include "tests/fuzz/byte_source.h"
 
 #include <algorithm>
 #include <array>
@@ -16,50 +17,28 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <span>
 #include <vector>
 
 namespace {
 
 using namespace sketchup;
 
-// Past the end all bytes are 0.
-class byte_source {
-public:
-    byte_source(const std::uint8_t* data, std::size_t size) : bytes_(data, size) {}
-    bool is_empty() const { return bytes_.empty(); }
-    int next() {
-        if (bytes_.empty())
-            return 0;
-        const int byte = bytes_.front();
-        bytes_ = bytes_.subspan(1);
-        return byte;
-    }
-    // Mostly whole, so that lines meet; sometimes beside that by less or more than the tolerance.
-    double coordinate() {
-        static constexpr std::array<double, 8> beside = {0, 0, 0, 0, 1e-9, 4e-4, -9e-4, 1.1e-3};
-        const int byte = next();
-        return byte % 32 + beside[static_cast<std::size_t>(byte / 32)];
-    }
-    // Mostly in the plane.
-    vec3 point() {
-        const double x = coordinate();
-        const double y = coordinate();
-        static constexpr std::array<double, 8> heights = {0, 0, 0, 0, 9e-4, -9e-4, 1.1e-3, 5};
-        return {x, y, heights[static_cast<std::size_t>(next() % 8)]};
-    }
-    double any_number() {
-        std::array<std::uint8_t, sizeof(double)> bytes;
-        for (std::uint8_t& byte : bytes)
-            byte = static_cast<std::uint8_t>(next());
-        double number = 0;
-        std::memcpy(&number, bytes.data(), sizeof number);
-        return number;
-    }
+// Mostly in the plane.
+vec3 next_point(byte_source& from) {
+    const double x = from.coordinate();
+    const double y = from.coordinate();
+    static constexpr std::array<double, 8> heights = {0, 0, 0, 0, 9e-4, -9e-4, 1.1e-3, 5};
+    return {x, y, heights[static_cast<std::size_t>(from.next() % 8)]};
+}
 
-private:
-    std::span<const std::uint8_t> bytes_;
-};
+double next_number(byte_source& from) {
+    std::array<std::uint8_t, sizeof(double)> bytes;
+    for (std::uint8_t& byte : bytes)
+        byte = static_cast<std::uint8_t>(from.next());
+    double number = 0;
+    std::memcpy(&number, bytes.data(), sizeof number);
+    return number;
+}
 
 transform next_transform(byte_source& from) {
     const int kind = from.next();
@@ -69,7 +48,7 @@ transform next_transform(byte_source& from) {
     if (kind & 2)
         placed = after(placed, scaled(from.coordinate() - 8, from.coordinate() - 8, 1));
     if (kind >= 224)
-        placed[static_cast<std::size_t>(kind) % placed.size()] = from.any_number();
+        placed[static_cast<std::size_t>(kind) % placed.size()] = next_number(from);
     return placed;
 }
 
@@ -94,8 +73,8 @@ struct drawn_model {
     }
 
     void add_rectangle(byte_source& from) {
-        const vec3 a = from.point();
-        const vec3 b = from.point();
+        const vec3 a = next_point(from);
+        const vec3 b = next_point(from);
         list_builder& to = components.back();
         to.edge(a, {b.x, a.y, a.z});
         to.edge({b.x, a.y, a.z}, {b.x, b.y, a.z});
@@ -104,7 +83,7 @@ struct drawn_model {
     }
 
     void add_line(const vec3& start, byte_source& from) {
-        last = from.point();
+        last = next_point(from);
         components.back().edge(start, last);
     }
 
@@ -126,7 +105,7 @@ struct drawn_model {
         case 1:
             return add_rectangle(from);
         case 2:
-            return add_line(from.point(), from);
+            return add_line(next_point(from), from);
         case 3:
         case 4:
             return add_line(last, from);

@@ -3,6 +3,7 @@
 
 #include "sketchup/model/plane_cut.h"
 #include "sketchup/model/plane_frame.h"
+#include "tests/fuzz/byte_source.h"
 #include "tests/fuzz/scan_area.h"
 
 #include <array>
@@ -11,36 +12,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <numbers>
-#include <span>
 
 namespace {
 
 using scan_area::point;
 using scan_area::polygon;
 using sketchup::vec3;
-
-// Past the end all bytes are 0.
-class byte_source {
-public:
-    byte_source(const std::uint8_t* data, std::size_t size) : bytes_(data, size) {}
-    bool is_empty() const { return bytes_.empty(); }
-    int next() {
-        if (bytes_.empty())
-            return 0;
-        const int byte = bytes_.front();
-        bytes_ = bytes_.subspan(1);
-        return byte;
-    }
-    // Mostly whole, so that outlines meet; sometimes beside that by less or more than the tolerance.
-    double coordinate() {
-        static constexpr std::array<double, 8> beside = {0, 0, 0, 0, 1e-9, 4e-4, -9e-4, 1.1e-3};
-        const int byte = next();
-        return byte % 32 + beside[static_cast<std::size_t>(byte / 32)];
-    }
-
-private:
-    std::span<const std::uint8_t> bytes_;
-};
 
 polygon rectangle(byte_source& from) {
     const point a = {from.coordinate(), from.coordinate()};
