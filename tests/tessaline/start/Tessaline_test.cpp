@@ -38,6 +38,12 @@ TEST_F(StartUp, the_application_starts_with_the_values_that_parents_rely_on) {
     EXPECT_FALSE(app.is_doing_animation);
 }
 
+TEST_F(StartUp, the_folder_of_the_program_is_known_with_a_separator_at_its_end) {
+    told_by("tessaline " + saved_model("geometry.qlm"));
+    const std::string program = platform::program_path();
+    EXPECT_EQ(theApp.program_folder, program.substr(0, program.find_last_of(platform::path_separator) + 1));
+}
+
 TEST_F(StartUp, one_quoted_path_in_a_folder_with_a_blank_writes_the_stream_beside_it_over_an_old_one) {
     const std::string model = saved_model("a b/geometry.qlm");
     batch.write("a b/batch_file.txt", "old");
