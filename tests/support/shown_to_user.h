@@ -24,3 +24,6 @@ private:
 // message box as "title: text" with plain line feeds and one at the end, as the console shows them. The desktop must
 // be attended.
 std::string shown_to_user(const std::function<void()>& action);
+
+// Runs the action and gives what it writes to standard output through platform/, byte for byte.
+std::string written_to_output(const std::function<void()>& action);

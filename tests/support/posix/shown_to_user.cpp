@@ -12,3 +12,9 @@ std::string shown_to_user(const std::function<void()>& action) {
     action();
     return testing::internal::GetCapturedStderr();
 }
+
+std::string written_to_output(const std::function<void()>& action) {
+    testing::internal::CaptureStdout();
+    action();
+    return testing::internal::GetCapturedStdout();
+}

@@ -1,5 +1,6 @@
 #include "tests/support/shown_to_user.h"
 
+#include "tests/support/temporary_folder.h"
 #include "tests/support/windows/window_reader.h"
 
 #include <atomic>
@@ -55,4 +56,18 @@ std::string shown_to_user(const std::function<void()>& action) {
     action();
     const std::string written = testing::internal::GetCapturedStderr();
     return written + read_so_far().substr(before);
+}
+
+// GoogleTest's own way reads the file as text.
+std::string written_to_output(const std::function<void()>& action) {
+    const temporary_folder folder;
+    const HANDLE before = GetStdHandle(STD_OUTPUT_HANDLE);
+    const HANDLE file = CreateFileA((folder / "output").c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    EXPECT_NE(file, INVALID_HANDLE_VALUE);
+    SetStdHandle(STD_OUTPUT_HANDLE, file);
+    action();
+    SetStdHandle(STD_OUTPUT_HANDLE, before);
+    CloseHandle(file);
+    return folder.read("output");
 }

@@ -144,19 +144,6 @@ TEST_F(StartUp, an_unknown_output_is_reported) {
                                                  "parse output filename passed to SKP conversion routine.\n");
 }
 
-TEST_F(StartUp, arguments_without_an_input_path_print_the_usage_and_delete_nothing) {
-    const std::string model = saved_model("house.skp");
-    EXPECT_THAT(told_by("tessaline " + model), testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
-    EXPECT_TRUE(batch.has("house.skp"));
-    EXPECT_THAT(told_by("tessaline -is_animation"), testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
-}
-
-TEST_F(StartUp, without_arguments_and_without_a_terminal_the_usage_is_printed) {
-    if (platform::can_ask_for_file())
-        GTEST_SKIP() << "somebody is there to be asked";
-    EXPECT_THAT(told_by("\"tessaline\""), testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
-}
-
 TEST_F(StartUp, the_marker_in_the_temporary_folder_shows_the_command_line_and_both_paths) {
     const std::string model = saved_model("geometry.qlm");
     const with_temporary_folder temporary(batch / "tmp");

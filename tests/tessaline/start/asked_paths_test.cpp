@@ -59,7 +59,8 @@ TEST_F(AskedPaths, the_stream_is_offered_under_the_name_of_the_model_with_anothe
 }
 
 TEST_F(AskedPaths, a_model_without_an_ending_gets_one_for_its_stream) {
-    EXPECT_EQ(question_for_stream("/my.models/house").default_name, "/my.models/house.xml");
+    EXPECT_EQ(question_for_stream(with_own_separators("/my.models/house")).default_name,
+              with_own_separators("/my.models/house.xml"));
 }
 
 } // namespace

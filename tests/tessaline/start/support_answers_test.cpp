@@ -4,8 +4,10 @@
 
 #include "platform/platform.h"
 #include "qlw/letter_case.h"
+#include "qlw/qlw_std.h"
 #include "qlw/qlw_trace.h"
 #include "tests/support/run_program.h"
+#include "tests/support/shown_to_user.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/trace_capture.h"
 
@@ -29,13 +31,14 @@ program_result run_tessaline(const std::vector<std::string>& arguments, const te
 TEST(SupportAnswers, show_the_dialog_behind_more_and_print_its_report) {
     const trace_capture capture;
     const cl_support_answers answers;
-    testing::internal::CaptureStderr();
-    testing::internal::CaptureStdout();
-    cl_trace("source", 12, "function", 2, 0).report("No such\nfolder");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Tessaline - Error: No such\nfolder\n\n    (VER: SC26w - " +
-                                                          in_capitals(platform::computer_name()) +
-                                                          ")\n         (Error occurred in source line: 12)\n");
-    const std::string report = testing::internal::GetCapturedStdout();
+    std::string report;
+    const std::string shown = shown_to_user([&] {
+        testing::internal::CaptureStdout();
+        cl_trace("source", 12, "function", 2, 0).report("No such\nfolder");
+        report = testing::internal::GetCapturedStdout();
+    });
+    EXPECT_EQ(shown, "Tessaline - Error: No such\nfolder\n\n    (VER: SC26w - " +
+                         in_capitals(platform::computer_name()) + ")\n         (Error occurred in source line: 12)\n");
     EXPECT_THAT(report, StartsWith("No such\nfolder\n\n     (Error occurred in source line: 12)\n\n     #Date: '"));
     EXPECT_THAT(report, EndsWith("     #SU Version: ''\n"));
 }
@@ -43,9 +46,8 @@ TEST(SupportAnswers, show_the_dialog_behind_more_and_print_its_report) {
 TEST(SupportAnswers, end_with_their_life) {
     const trace_capture capture;
     { const cl_support_answers answers; }
-    testing::internal::CaptureStderr();
-    cl_trace("source", 12, "function", 2, 0).report("text");
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("Click More to send message to Support."));
+    const std::string shown = shown_to_user([] { cl_trace("source", 12, "function", 2, 0).report("text"); });
+    EXPECT_THAT(shown, HasSubstr("Click More to send message to Support."));
 }
 
 TEST(SupportReportProgram, prints_the_report_and_ends_with_status_0) {
@@ -64,7 +66,7 @@ TEST(SupportReportProgram, prints_the_report_and_ends_with_status_0) {
                                      "     #TC: 'zql'\n"
                                      "     #VC: '10'\n"
                                      "     #Windows: '" +
-                                     platform::system_version().description +
+                                     get_windows_version_text() +
                                      "'\n"
                                      "     #SU Version: ''\n"));
     EXPECT_EQ(run.errors, "");

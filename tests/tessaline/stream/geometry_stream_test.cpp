@@ -1,6 +1,7 @@
 #include "tessaline/stream/geometry_stream.h"
 
 #include "tests/support/answering_desktop.h"
+#include "tests/support/shown_to_user.h"
 #include "tests/support/trace_capture.h"
 #include "tests/tessaline/stream_text.h"
 
@@ -264,15 +265,14 @@ TEST(GeometryStream, a_file_that_cannot_be_made_leaves_the_stream_closed) {
 }
 
 TEST(GeometryStream, no_path_means_standard_output) {
-    testing::internal::CaptureStdout();
-    {
+    const auto write = [] {
         geometry_stream stream;
         stream.open(nullptr, "Tessaline");
         EXPECT_TRUE(stream.is_open());
         EXPECT_TRUE(stream.is_standard_output());
         stream.write_end();
-    }
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), lines({"#;", "END;"}));
+    };
+    EXPECT_EQ(written_to_output(write), lines({"#;", "END;"}));
 }
 
 TEST(GeometryStream, a_full_disk_ends_the_stream_and_nothing_else) {

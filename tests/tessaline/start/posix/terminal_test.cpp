@@ -104,4 +104,21 @@ TEST_F(MissingModel, a_missing_model_in_quotes_leaves_the_stream_beside_it) {
     EXPECT_EQ(batch.read("batch_file.txt"), "old");
 }
 
+TEST_F(MissingModel, arguments_without_an_input_path_print_the_usage_and_delete_nothing) {
+    model_builder m;
+    const std::string model = save(m, "house.skp");
+    EXPECT_THAT(shown_to_user([&] { theApp.InitInstance("tessaline " + model); }),
+                testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
+    EXPECT_TRUE(batch.has("house.skp"));
+    EXPECT_THAT(shown_to_user([] { theApp.InitInstance("tessaline -is_animation"); }),
+                testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
+}
+
+TEST_F(MissingModel, without_arguments_and_without_a_terminal_the_usage_is_printed) {
+    if (platform::can_ask_for_file())
+        GTEST_SKIP() << "somebody is there to be asked";
+    EXPECT_THAT(shown_to_user([] { theApp.InitInstance("\"tessaline\""); }),
+                testing::HasSubstr("usage: tessaline INPUT OUTPUT"));
+}
+
 } // namespace
