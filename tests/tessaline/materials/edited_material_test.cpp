@@ -125,8 +125,8 @@ TEST_F(EditedMaterial, a_name_that_leads_out_of_the_folder_makes_and_deletes_no_
     EXPECT_EQ(folder.read("Brick.OrnMaterial"), "old");
     EXPECT_TRUE(std::filesystem::is_empty(inside));
     ASSERT_EQ(desktop.shown.size(), 3U);
-    EXPECT_THAT(desktop.shown[0].text,
-                testing::StartsWith("Cannot save edited Ornmaterial: " + inside + "/../Brick.OrnMaterial"));
+    EXPECT_THAT(desktop.shown[0].text, testing::StartsWith("Cannot save edited Ornmaterial: " + inside +
+                                                           platform::path_separator + "../Brick.OrnMaterial"));
 }
 
 } // namespace

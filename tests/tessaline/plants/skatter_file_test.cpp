@@ -33,7 +33,7 @@ protected:
 };
 
 TEST_F(SkatterFile, lies_in_the_batch_folder) {
-    EXPECT_EQ(skatter_file_path("/models/batch"), "/models/batch/skatter_insts.txt");
+    EXPECT_EQ(skatter_file_path(batch.name()), batch / "skatter_insts.txt");
 }
 
 TEST_F(SkatterFile, the_fourth_field_is_the_name_and_sixteen_numbers_follow) {
