@@ -1,5 +1,6 @@
 # OBJDUMP: lists what a program needs. PROGRAMS: programs for Windows. Each needs libraries that are part of Windows 7 and
 # of every later Windows, and no others: it runs where it is copied to.
+cmake_minimum_required(VERSION 3.25)
 set(of_the_system advapi32.dll comctl32.dll comdlg32.dll gdi32.dll kernel32.dll msvcrt.dll ole32.dll psapi.dll
   shell32.dll user32.dll)
 set(failed FALSE)

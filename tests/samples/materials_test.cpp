@@ -91,8 +91,8 @@ void expect_named_pictures_to_decode_and_no_others(const converted_materials& fo
         const std::string path = read_material_file(text).value_or(read_material()).image_path;
         if (path.empty())
             continue;
-        const std::string file = std::filesystem::path(path).filename().string();
-        EXPECT_EQ(path, found.batch / ("Batch_SketchUp_Textures/" + file));
+        const std::string file = std::filesystem::path(path).filename().string(); // in UTF-8
+        EXPECT_EQ(path, found.batch / ("Batch_SketchUp_Textures/" + platform::own_from_utf8(file)));
         EXPECT_TRUE(decoded(path)) << path;
         named.insert(file);
     }
