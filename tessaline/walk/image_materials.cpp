@@ -149,7 +149,10 @@ public:
     stored_picture& operator=(const stored_picture&) = delete;
     ~stored_picture() { SUTextureWriterRelease(&writer); }
 
-    void write(const std::string& path) const { SUTextureWriterWriteTexture(writer, id, path.c_str(), false); }
+    void write(const std::string& path) const {
+        constexpr bool reorient = false;
+        SUTextureWriterWriteTexture(writer, id, platform::utf8_from_own(path).c_str(), reorient);
+    }
 
 private:
     SUTextureWriterRef writer = SU_INVALID; // not that of the run, whose numbers stand in file names
