@@ -30,7 +30,7 @@ std::string words_of_the_reader(const std::string& file_name) {
 } // namespace
 
 opened_model::opened_model(const std::string& file_name) {
-    if (SUModelCreateFromFile(&handle, file_name.c_str()) != SU_ERROR_NONE)
+    if (SUModelCreateFromFile(&handle, platform::utf8_from_own(file_name).c_str()) != SU_ERROR_NONE)
         reason = words_of_the_reader(file_name);
 }
 
