@@ -1,6 +1,7 @@
 #include "image/picture_format.h"
 
 #include "image/codecs.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <string>
@@ -12,10 +13,6 @@ bool begins_with(std::span<const std::uint8_t> file, std::string_view signature)
     return file.size() >= signature.size() &&
            std::equal(signature.begin(), signature.end(), file.begin(),
                       [](char c, std::uint8_t byte) { return static_cast<std::uint8_t>(c) == byte; });
-}
-
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 } // namespace
@@ -45,8 +42,7 @@ picture_format format_of_name(std::string_view file_name) {
     const std::size_t dot = file_name.find_last_of("./\\");
     if (dot == std::string_view::npos || file_name[dot] != '.')
         return picture_format::unknown;
-    std::string extension(file_name.substr(dot + 1));
-    std::transform(extension.begin(), extension.end(), extension.begin(), lower);
+    const std::string extension = lower_case(file_name.substr(dot + 1));
     if (extension == "png")
         return picture_format::png;
     if (extension == "jpg" || extension == "jpeg")

@@ -1,9 +1,9 @@
 // Empties folders, and goes through their entries.
 
 #include "qlw/folder_refusal.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_std.h"
 #include "qlw/qlw_trace.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,11 +2,11 @@
 
 #include "qlw/clipboard.h"
 #include "qlw/desktop.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_identity.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/support_report.h"
 #include "qlw/trace_state.h"
+#include "text/letter_case.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "qlw/ini_text.h"
 
-#include "qlw/letter_case.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "qlw/registry_path.h"
 
-#include "qlw/letter_case.h"
+#include "text/letter_case.h"
 
 namespace {
 

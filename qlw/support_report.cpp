@@ -1,13 +1,13 @@
 #include "qlw/support_report.h"
 
 #include "platform/platform.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_identity.h"
 #include "qlw/qlw_std.h"
 #include "qlw/registry_access.h"
 #include "qlw/text_format.h"
 #include "qlw/trace_state.h"
+#include "text/letter_case.h"
 
 #include <array>
 #include <chrono>

@@ -2,9 +2,9 @@
 
 #include "tessaline/blocks/block_writer.h"
 
-#include "qlw/letter_case.h"
 #include "qlw/qlw_globals.h"
 #include "tessaline/state/run_state.h"
+#include "text/letter_case.h"
 
 namespace {
 

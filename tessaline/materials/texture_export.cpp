@@ -3,11 +3,11 @@
 
 #include "tessaline/materials/texture_export.h"
 
-#include "qlw/letter_case.h"
 #include "qlw/qlw_trace.h"
 #include "tessaline/files/paths.h"
 #include "tessaline/model/model_text.h"
 #include "tessaline/state/run_state.h"
+#include "text/letter_case.h"
 
 #include <cstdint>
 

@@ -2,12 +2,12 @@
 // list of the run.
 
 #include "qlw/color_text.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_trace.h"
 #include "qlw/text_numbers.h"
 #include "tessaline/parameters/attributes.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/state/slp_oparms.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <span>

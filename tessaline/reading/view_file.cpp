@@ -3,11 +3,11 @@
 #include "tessaline/reading/view_file.h"
 
 #include "platform/platform.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_text_files.h"
 #include "qlw/text_numbers.h"
 #include "qlw/trimmed.h"
 #include "tessaline/files/paths.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,6 @@
 // Which side of a face becomes which block, and what stands in it. Reads and changes the parameters of the face's
 // level; reads the materials, the texture writer and the flags of the run.
 
-#include "qlw/letter_case.h"
 #include "qlw/qlw_globals.h"
 #include "tessaline/faces/face_geometry.h"
 #include "tessaline/model/drawing_elements.h"
@@ -11,6 +10,7 @@
 #include "tessaline/stream/length_units.h"
 #include "tessaline/walk/lamps.h"
 #include "tessaline/walk/SketchUpReader.h"
+#include "text/letter_case.h"
 
 #include <utility>
 

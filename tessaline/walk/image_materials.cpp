@@ -3,7 +3,6 @@
 
 #include "image/picture.h"
 #include "qlw/fast_image.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_trace.h"
 #include "tessaline/files/paths.h"
 #include "tessaline/materials/material_file.h"
@@ -12,6 +11,7 @@
 #include "tessaline/model/model_text.h"
 #include "tessaline/state/run_state.h"
 #include "tessaline/walk/SketchUpReader.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <cstdint>

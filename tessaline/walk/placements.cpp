@@ -3,7 +3,6 @@
 
 #include "tessaline/walk/placements.h"
 
-#include "qlw/letter_case.h"
 #include "qlw/qlw_globals.h"
 #include "tessaline/faces/face_sides.h"
 #include "tessaline/model/drawing_elements.h"
@@ -15,6 +14,7 @@
 #include "tessaline/walk/lamps.h"
 #include "tessaline/walk/SketchUpReader.h"
 #include "tessaline/walk/walk_log.h"
+#include "text/letter_case.h"
 
 #include <optional>
 #include <string>

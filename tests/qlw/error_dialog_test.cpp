@@ -3,10 +3,10 @@
 #include "qlw/error_dialog.h"
 
 #include "platform/platform.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_trace.h"
 #include "tests/support/answering_desktop.h"
 #include "tests/support/trace_capture.h"
+#include "text/letter_case.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

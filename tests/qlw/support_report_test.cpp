@@ -4,12 +4,12 @@
 
 #include "memory_registry.h"
 #include "platform/platform.h"
-#include "qlw/letter_case.h"
 #include "qlw/profile_state.h"
 #include "qlw/qlw_globals.h"
 #include "qlw/qlw_std.h"
 #include "tests/support/environment.h"
 #include "tests/support/trace_capture.h"
+#include "text/letter_case.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,6 +2,7 @@
 
 #include "sketchup/skp/writer/material_document_writer.h"
 #include "sketchup/skp/writer/written_lists.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <set>
@@ -28,13 +29,6 @@ std::string file_name_of(std::string_view name) {
         if (*end == '.' || *end == ' ')
             *end = '_';
     return result;
-}
-
-std::string lower_case(std::string text) {
-    for (char& c : text)
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    return text;
 }
 
 // Hands out each name once, however it is spelt.

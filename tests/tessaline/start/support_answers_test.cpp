@@ -3,13 +3,13 @@
 #include "tessaline/start/support_answers.h"
 
 #include "platform/platform.h"
-#include "qlw/letter_case.h"
 #include "qlw/qlw_std.h"
 #include "qlw/qlw_trace.h"
 #include "tests/support/run_program.h"
 #include "tests/support/shown_to_user.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/trace_capture.h"
+#include "text/letter_case.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

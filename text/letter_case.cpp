@@ -1,4 +1,4 @@
-#include "qlw/letter_case.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 
