@@ -23,6 +23,17 @@ protected:
         EXPECT_TRUE(WritePrivateProfileStringA("Globals", key, value, name.c_str()));
     }
 
+    // Writes ours=2 while another program has the file in that way, and lets go a little later.
+    void write_while_held(const char* way) {
+        driven_program holder("window_desk", {way, name});
+        ASSERT_EQ(holder.line(), "held");
+        std::jthread releasing([&] {
+            Sleep(100);
+            holder.go_on();
+        });
+        store.write(name, "Globals", "ours", "2");
+    }
+
     temporary_folder folder;
     std::string name = platform::absolute_name(folder.write("Profile.ini", "[Globals]\r\nours=1\r\ntheirs=1\r\n"));
     ini_store store;
@@ -45,24 +56,12 @@ TEST_F(SharedProfile, a_value_with_blanks_around_it_reads_so_on_either_side) {
 }
 
 TEST_F(SharedProfile, a_write_waits_for_a_program_that_has_locked_the_file) {
-    driven_program holder("window_desk", {"hold", name});
-    ASSERT_EQ(holder.line(), "held");
-    std::jthread releasing([&] {
-        Sleep(100);
-        holder.go_on();
-    });
-    store.write(name, "Globals", "ours", "2");
+    write_while_held("hold");
     EXPECT_EQ(system_value("ours"), "2");
 }
 
 TEST_F(SharedProfile, a_write_waits_for_a_program_that_keeps_the_file_to_itself) {
-    driven_program holder("window_desk", {"keep", name});
-    ASSERT_EQ(holder.line(), "held");
-    std::jthread releasing([&] {
-        Sleep(100);
-        holder.go_on();
-    });
-    store.write(name, "Globals", "ours", "2");
+    write_while_held("keep");
     EXPECT_EQ(system_value("ours"), "2");
 }
 
