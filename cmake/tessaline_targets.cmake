@@ -82,6 +82,13 @@ function(tessaline_room name)
   tessaline_show(${name} PUBLIC ${room_SHOW})
 endfunction()
 
+# What is tested is optimised; optimising the tests themselves would only lengthen the build.
+set(how_tests_compile -O0)
+if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+  # Else a compiler cache would give objects that refuse a precompiled header of the same bytes.
+  list(APPEND how_tests_compile "SHELL:-Xclang -fno-pch-timestamp")
+endif()
+
 # tessaline_test(NAME LABEL LINK TARGET... [FOLDERS FOLDER...]): one GoogleTest program of every *_test.cpp (and *.c,
 # and the helper *.cpp files beside them) of the current folder and the folders named, and of folders in them for this
 # system alone; LABEL is the ctest label.
@@ -99,15 +106,11 @@ function(tessaline_test name label)
     add_executable(${name} ${sources})
     tessaline_dialogs(${name})
     target_link_libraries(${name} PRIVATE tessaline_flags tests_shown ${test_LINK} own_settings tests_system GTest::gmock)
-    # What is tested is optimised; optimising the tests themselves would only lengthen the build.
-    target_compile_options(${name} PRIVATE -O0)
-    # Half of what a test takes to compile is these two.
-    target_precompile_headers(${name} PRIVATE
-      "$<$<COMPILE_LANGUAGE:CXX>:<gtest/gtest.h$<ANGLE-R>>" "$<$<COMPILE_LANGUAGE:CXX>:<gmock/gmock.h$<ANGLE-R>>")
-    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
-      # Else a compiler cache would give objects that refuse a precompiled header of the same bytes.
-      target_compile_options(${name} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
-    endif()
+    target_compile_options(${name} PRIVATE ${how_tests_compile})
+    target_precompile_headers(${name} REUSE_FROM own_settings)
+    set(c_sources ${sources})
+    list(FILTER c_sources INCLUDE REGEX "\\.c$")
+    set_source_files_properties(${c_sources} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     target_compile_definitions(${name} PRIVATE TESSALINE_SOURCE_DIR="${seen_source}"
       PROGRAM_ENDING="${CMAKE_EXECUTABLE_SUFFIX}")
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
