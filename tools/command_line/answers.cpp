@@ -12,7 +12,9 @@ void print(std::FILE* to, std::string_view text) {
 
 bool is_unknown(std::string_view argument, std::initializer_list<std::string_view> options) {
     return argument.size() > 1 && argument.front() == '-' &&
-           std::find(options.begin(), options.end(), argument) == options.end();
+           std::none_of(options.begin(), options.end(), [argument](std::string_view option) {
+               return option.ends_with('=') ? argument.starts_with(option) : argument == option;
+           });
 }
 
 } // namespace

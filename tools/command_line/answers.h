@@ -11,6 +11,7 @@
 //   "--version" alone: name and version on standard output, 0.
 //   Any argument that begins with "-" and is none of `options`: one line on standard error, 2. A file of such a name is
 //   given as "./-name".
+// options: one that ends in "=" stands for all that begin with it.
 // usage: whole lines, the first as "usage: NAME ...". argc and argv: as main has them.
 std::optional<int> answer_at_once(int argc, const char* const* argv, std::string_view name, std::string_view usage,
                                   std::initializer_list<std::string_view> options = {});
