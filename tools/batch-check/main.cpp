@@ -1,0 +1,113 @@
+// Says whether batch folders are whole and well-formed, and what they hold.
+
+#include "platform/platform.h"
+#include "tools/batch_check/check_batch.h"
+#include "tools/batch_check/codes.h"
+#include "tools/batch_check/first_screen.h"
+#include "tools/batch_check/report_json.h"
+#include "tools/command_line/answers.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using namespace batch_check;
+
+constexpr std::string_view usage = "usage: batch-check [OPTIONS] BATCH_FOLDER...\n"
+                                   "Says whether each folder holds a whole and well-formed batch, and what it holds.\n"
+                                   "  --json           one JSON document on standard output instead of words\n"
+                                   "  --json=FILE      the same into a file, beside the words\n"
+                                   "  --strict         warnings make a batch unsound too\n"
+                                   "  --ignore CODE    nothing of this kind counts; may be given more than once\n"
+                                   "  --list-codes     print every kind of finding\n"
+                                   "Status 0 if all are sound, 1 if anything was found, 2 if one is no batch.\n";
+
+constexpr std::string_view json_into = "--json=";
+constexpr int status_sound = 0;
+constexpr int status_findings = 1;
+constexpr int status_no_batch = 2;
+
+struct request {
+    std::vector<std::string> folders;
+    std::set<code> ignored;
+    bool prints_json = false;
+    std::string json_file; // empty for none
+    bool is_strict = false;
+};
+
+int refuse(const std::string& reason) {
+    platform::write_standard_error("batch-check: " + reason + "\n");
+    return status_no_batch;
+}
+
+// Why a folder is not sound, in one line.
+std::string reason_of(const batch_report& report) {
+    if (report.is_batch)
+        return sum_of(report.found);
+    return report.found.kept().empty() ? "not a batch" : report.found.kept()[0].text;
+}
+
+int check_folder(const request& asked, const std::string& folder, const batch_report& report) {
+    if (!asked.prints_json)
+        platform::write_standard_output(first_screen(folder, report) + finding_lines(report.found));
+    if (report.is_sound(asked.is_strict))
+        return status_sound;
+    platform::write_standard_error("batch-check: " + folder + ": " + reason_of(report) + "\n");
+    return report.is_batch ? status_findings : status_no_batch;
+}
+
+bool write_json(const request& asked, const std::string& json) {
+    if (asked.prints_json)
+        platform::write_standard_output(json);
+    if (asked.json_file.empty())
+        return true;
+    platform::file file;
+    return file.open(asked.json_file, platform::open_mode::write) && file.write_all(json) && file.close();
+}
+
+int check_all(const request& asked) {
+    std::vector<named_report> reports;
+    int status = status_sound;
+    for (const std::string& folder : asked.folders) {
+        reports.push_back({folder, batch_check::check_batch(*folder_on_disk(folder), asked.ignored)});
+        status = std::max(status, check_folder(asked, folder, reports.back().report));
+    }
+    if (!write_json(asked, json_of(reports, asked.is_strict)))
+        return refuse("cannot write " + asked.json_file);
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (const auto status = answer_at_once(argc, argv, "batch-check", usage,
+                                           {"--json", "--json=", "--strict", "--ignore", "--list-codes"}))
+        return *status;
+    request asked;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "--list-codes") {
+            platform::write_standard_output(code_list());
+            return status_sound;
+        }
+        asked.is_strict |= argument == "--strict";
+        asked.prints_json |= argument == "--json";
+        if (argument == "--ignore") {
+            const auto ignored = i + 1 < argc ? code_named(argv[++i]) : std::nullopt;
+            if (!ignored)
+                return refuse(std::string("--ignore needs a code of --list-codes"));
+            asked.ignored.insert(*ignored);
+        } else if (argument.starts_with(json_into)) {
+            asked.json_file = argument.substr(json_into.size());
+        } else if (!argument.starts_with('-')) {
+            asked.folders.emplace_back(argument);
+        }
+    }
+    if (asked.folders.empty())
+        return refuse_command_line(usage);
+    return check_all(asked);
+}

@@ -1,0 +1,81 @@
+#include "tools/batch_check/batch_contents.h"
+
+#include "tools/batch_check/batch_folders.h"
+
+#include <algorithm>
+
+namespace batch_check {
+namespace {
+
+template<class List>
+bool is_one_of(std::string_view name, const List& list) {
+    return std::find(list.begin(), list.end(), name) != list.end();
+}
+
+// A name with "/" in place of either separator.
+std::string with_slashes(std::string_view name) {
+    std::string text(name);
+    std::replace(text.begin(), text.end(), '\\', '/');
+    return text;
+}
+
+// Files of materials that are edited by hand: no run takes them away.
+bool is_kept_by_every_run(std::string_view file) {
+    constexpr std::string_view ground = "ZynBatch_Materials/Zyn_Ground_Plane.";
+    constexpr std::string_view standard = "ZynBatch_Materials/Zyn%20Default%20Color.";
+    return file.starts_with(ground) || file.starts_with(standard);
+}
+
+} // namespace
+
+batch_contents::batch_contents(const batch_files& files) : names(files.full_names()) {
+    add_folder(files, "", 0);
+    for (std::string& name : names)
+        name = with_slashes(name);
+}
+
+void batch_contents::add_folder(const batch_files& files, const std::string& folder, int depth) {
+    const auto entries = files.list(folder);
+    if (!entries)
+        return;
+    could_list = true;
+    for (const listed_entry& entry : *entries) {
+        const std::string name = folder.empty() ? entry.name : folder + '/' + entry.name;
+        if (!entry.is_folder) {
+            sizes[name] = entry.size;
+            byte_count += entry.size;
+        } else if (depth == 0) {
+            add_folder(files, name, depth + 1);
+        }
+    }
+}
+
+std::optional<batch_contents::place> batch_contents::place_of(std::string_view full_name,
+                                                              std::initializer_list<std::string_view> folders) const {
+    const std::string name = with_slashes(full_name);
+    const std::size_t file = name.rfind('/');
+    if (file == std::string::npos || file == 0)
+        return std::nullopt;
+    const std::size_t folder = name.rfind('/', file - 1);
+    if (folder == std::string::npos || !is_one_of(name.substr(folder + 1, file - folder - 1), folders))
+        return std::nullopt;
+    return place{name.substr(folder + 1), names.empty() || is_one_of(name.substr(0, folder), names)};
+}
+
+void batch_contents::report_rest(bool knows_references, findings& found) const {
+    for (const auto& [file, size] : sizes) {
+        const std::size_t slash = file.find('/');
+        const std::string_view folder = std::string_view(file).substr(0, slash == std::string::npos ? 0 : slash);
+        if (folder.empty() && file == mark_of_a_running_run)
+            found.add(code::batch_unfinished, file, 0, "a run has not come to its end, or still goes on");
+        if (referred.contains(file) || is_kept_by_every_run(file) ||
+            (folder.empty() ? is_one_of(file, known_files) : folder == images_folder))
+            continue;
+        if (!is_one_of(folder, emptied_folders))
+            found.add(code::extra_file, file, 0, "no run and no parent is known to make this file");
+        else if (knows_references)
+            found.add(code::orphan, file, 0, "nothing refers to this file");
+    }
+}
+
+} // namespace batch_check

@@ -1,0 +1,47 @@
+#pragma once
+
+// Where the files of a batch come from: a folder of the disk, or the memory of a test. Names lead from the batch folder
+// on, with "/" between.
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace batch_check {
+
+// The bytes of a file, one after the other.
+class byte_source {
+public:
+    virtual ~byte_source() = default;
+    // Up to `size` bytes; 0 at the end and on an error.
+    virtual std::size_t read(char* into, std::size_t size) = 0;
+};
+
+struct listed_entry {
+    std::string name; // without folder
+    bool is_folder = false;
+    std::uint64_t size = 0; // bytes
+};
+
+class batch_files {
+public:
+    virtual ~batch_files() = default;
+    // The entries of a folder inside, of the batch folder itself for the empty name, sorted by the bytes of their
+    // names; nothing if there is no such folder.
+    virtual std::optional<std::vector<listed_entry>> list(const std::string& folder) const = 0;
+    // Null for what cannot be opened and for what is no plain file.
+    virtual std::unique_ptr<byte_source> open(const std::string& name) const = 0;
+    // The full names by which the batch folder may be known; none if any will do.
+    virtual std::vector<std::string> full_names() const = 0;
+};
+
+// The whole file; nothing if it cannot be opened or has more than `limit` bytes.
+std::optional<std::string> whole_file(const batch_files& files, const std::string& name, std::uint64_t limit);
+
+// A folder of the disk. name: as it was given.
+std::unique_ptr<batch_files> folder_on_disk(const std::string& name);
+
+} // namespace batch_check

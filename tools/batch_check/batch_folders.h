@@ -1,0 +1,29 @@
+#pragma once
+
+// The folders of a batch and the files that are known in it.
+
+#include <array>
+#include <string_view>
+
+namespace batch_check {
+
+inline constexpr const char* stream_file_name = "batch_file.txt";
+inline constexpr std::string_view materials_folder = "ZynBatch_Materials";
+inline constexpr std::string_view textures_folder = "Batch_SketchUp_Textures";
+inline constexpr std::string_view images_folder = "ZynBatch_Images";
+inline constexpr std::string_view lights_folder = "ZynBatch_Lights";
+inline constexpr std::string_view plants_folder = "Plants";
+
+// Those that each run empties: what nothing refers to there is no part of the batch.
+inline constexpr std::array emptied_folders = {materials_folder, textures_folder, lights_folder,
+                                               std::string_view("Batch_OrnTexture_Files")};
+
+inline constexpr std::string_view mark_of_a_running_run = "tessaline-run.json.part";
+
+// What lies in the batch folder itself: the stream, the model and what a parent puts beside it, the report of a run.
+inline constexpr std::array known_files = {
+    std::string_view("batch_file.txt"),     std::string_view("geometry.qlm"),      mark_of_a_running_run,
+    std::string_view("option_globals.txt"), std::string_view("skatter_insts.txt"), std::string_view("zyn_pages.txt"),
+    std::string_view("tessaline-run.json"), std::string_view("zyn_view.txt")};
+
+} // namespace batch_check

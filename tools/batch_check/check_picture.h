@@ -1,0 +1,23 @@
+#pragma once
+
+// Whether a picture can be decoded, and has the format of its name.
+
+#include "tools/batch_check/batch_files.h"
+#include "tools/batch_check/findings.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace batch_check {
+
+struct picture_facts {
+    std::uint64_t bytes = 0;
+    std::uint64_t content = 0; // equal for files of the same bytes
+};
+
+// file: as "Batch_SketchUp_Textures/TX0001_Wall.png". Nothing if the file cannot be read. A picture is decoded whole
+// in memory up to image::most_pixels, and above that only looked at row by row, or by its header.
+std::optional<picture_facts> check_picture(const batch_files& files, const std::string& file, findings& found);
+
+} // namespace batch_check

@@ -1,0 +1,95 @@
+#include "tools/batch_check/report_json.h"
+
+#include "platform/platform.h"
+
+#include <nlohmann/json.hpp>
+
+namespace batch_check {
+namespace {
+
+using json = nlohmann::ordered_json;
+
+// Names of files travel in the platform's own encoding.
+std::string utf8(const std::string& text) {
+    return platform::utf8_from_own(text);
+}
+
+json counts_of(const batch_report& report) {
+    const stream_facts& stream = report.stream;
+    return {{"layers", stream.layers},      {"meshes", stream.meshes},
+            {"vertices", stream.vertices},  {"triangles", stream.triangles},
+            {"lines", stream.edges},        {"materials", stream.materials.size()},
+            {"lamps", stream.lamps.size()}, {"pictures", report.pictures.count},
+            {"bytes", report.bytes}};
+}
+
+json box_of(const stream_facts& stream) {
+    if (stream.low[0] > stream.high[0])
+        return nullptr;
+    return {stream.low, stream.high};
+}
+
+json finding_of(const finding& one) {
+    const code_entry& entry = entry_of(one.what);
+    return {{"code", entry.name},
+            {"severity", name_of(entry.weight)},
+            {"file", utf8(one.file)},
+            {"line", one.line},
+            {"text", utf8(one.text)}};
+}
+
+json findings_of(const findings& found) {
+    json all = json::array();
+    for (const finding& one : found.kept())
+        all.push_back(finding_of(one));
+    for (const code_entry& entry : all_codes())
+        if (const std::uint64_t more = found.left_out(entry.what); more > 0)
+            all.push_back(finding_of({entry.what, "", 0, "and " + std::to_string(more) + " more"}));
+    return all;
+}
+
+json batch_of(const named_report& named, bool is_strict) {
+    const batch_report& report = named.report;
+    json types = json::object();
+    for (const auto& [type, count] : report.lamps_by_type)
+        types[utf8(type)] = count;
+    return {{"batch", utf8(last_part(named.folder))},
+            {"status", status_of(report, is_strict)},
+            {"counts", counts_of(report)},
+            {"box_metres", box_of(report.stream)},
+            {"lamps_by_type", types},
+            {"findings", findings_of(report.found)},
+            {"errors", report.found.count(severity::error)},
+            {"warnings", report.found.count(severity::warning)},
+            {"notes", report.found.count(severity::note)}};
+}
+
+} // namespace
+
+std::string_view status_of(const batch_report& report, bool is_strict) {
+    return !report.is_batch ? "not a batch" : report.is_sound(is_strict) ? "sound" : "findings";
+}
+
+std::string last_part(const std::string& folder) {
+    const auto part = [](std::string name) {
+        while (name.size() > 1 && (name.back() == '/' || name.back() == platform::path_separator))
+            name.pop_back();
+        const std::size_t separator = name.find_last_of(platform::path_separator == '/' ? "/" : "/\\");
+        return separator == std::string::npos ? name : name.substr(separator + 1);
+    };
+    const std::string last = part(folder);
+    if (last != "." && last != "..")
+        return last;
+    return part(platform::real_name(folder).value_or(platform::absolute_name(folder)));
+}
+
+std::string json_of(std::span<const named_report> reports, bool is_strict) {
+    json batches = json::array();
+    for (const named_report& one : reports)
+        batches.push_back(batch_of(one, is_strict));
+    const json document = {
+        {"format", 1}, {"program", "batch-check"}, {"version", TESSALINE_VERSION}, {"batches", batches}};
+    return document.dump(1, ' ', false, json::error_handler_t::replace) + "\n";
+}
+
+} // namespace batch_check
