@@ -11,4 +11,8 @@ std::optional<std::string> environment_variable(const std::string& name) {
     return value ? std::optional<std::string>(value) : std::nullopt;
 }
 
+bool is_unattended() {
+    return !environment_variable("TESSALINE_UNATTENDED").value_or(std::string()).empty();
+}
+
 } // namespace platform

@@ -7,12 +7,14 @@
 namespace platform {
 
 file::file(file&& other) noexcept
-    : handle(std::exchange(other.handle, closed)), failure_text(std::move(other.failure_text)) {}
+    : handle(std::exchange(other.handle, closed)), file_name(std::move(other.file_name)),
+      failure_text(std::move(other.failure_text)) {}
 
 file& file::operator=(file&& other) noexcept {
     if (this != &other) {
         close();
         handle = std::exchange(other.handle, closed);
+        file_name = std::move(other.file_name);
         failure_text = std::move(other.failure_text);
     }
     return *this;

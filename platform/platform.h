@@ -79,6 +79,11 @@ os_version system_version();
 enum class standard_stream { input, output, error };
 bool is_terminal(standard_stream stream);
 
+// Whether nobody sits before the program: TESSALINE_UNATTENDED is set and not empty. What would be shown in a window,
+// and wait for somebody to close it, goes to standard error then as it does on a console, and the progress of a run as
+// lines "progress 42", one for each percentage that is new.
+bool is_unattended();
+
 // Writes the bytes at once and unchanged; a failure is ignored, since there is no other place to tell of it.
 void write_standard_output(std::string_view text);
 void write_standard_error(std::string_view text);
@@ -153,7 +158,8 @@ struct file_question {
     bool asks_before_overwriting = false;
 };
 
-// Whether the user can be asked at all: always on Windows; on POSIX if standard input and error are terminals.
+// Whether the user can be asked at all: on Windows unless it is_unattended(); on POSIX if standard input and error are
+// terminals.
 bool can_ask_for_file();
 
 // The name that the user chose; nothing if the question was dismissed or cannot be asked. On a POSIX terminal the title
@@ -188,6 +194,10 @@ std::string absolute_name(const std::string& name);
 
 bool make_folder(const std::string& name); // the parent must exist; false also if the name is taken
 bool delete_file(const std::string& name); // a file or a link itself, never a folder
+bool delete_empty_folder(const std::string& name);
+// Whatever was written on the file system of that folder is on its disk when it returns; false if the disk refused it.
+// Windows: true, and nothing is done: there each file would have to be opened for that.
+bool flush_file_system(const std::string& folder);
 bool rename_replacing(const std::string& from, const std::string& to); // atomic; an old file `to` is replaced
 
 // Makes a folder that nobody else has or gets, however many ask at once, and that only this user may enter. Its name is
@@ -224,7 +234,8 @@ public:
     ~file();
 
     // Closes what was open and opens another file. Never waits: a pipe that nobody reads cannot be opened for writing.
-    // False on failure, with the system's words in failure(), or "Not a plain file".
+    // False on failure, with the system's words in failure(), or "Not a plain file". Where a disk takes nothing from
+    // this user, for want of room or of rights, the trace says so, and so it does of a later write.
     bool open(const std::string& name, open_mode mode);
     bool is_open() const { return handle != closed; }
 
@@ -236,12 +247,13 @@ public:
     // False if the system reports a late write error, or if the file was not open.
     bool close();
 
-    // Why the last open failed, in the system's words; may be empty.
+    // Why the last open or write failed, in the system's words; may be empty.
     const std::string& failure() const { return failure_text; }
 
 private:
     static constexpr std::intptr_t closed = -1;
     std::intptr_t handle = closed;
+    std::string file_name; // of what is open for writing; empty otherwise
     std::string failure_text;
 };
 

@@ -2,6 +2,7 @@
 
 // Text for developers, where the user has asked for it.
 
+#include <string>
 #include <string_view>
 
 namespace platform {
@@ -13,7 +14,11 @@ bool trace_is_wanted();
 // "-". Nothing is written where it is not set, and what cannot be written is lost.
 void write_to_trace(std::string_view text);
 
-// The same for the console alone (console.cpp of each system).
+// That a disk takes nothing under that name, with the system's words for the reason. Whoever looks for the cause of a
+// batch that is not whole finds it here.
+void trace_refused_write(const std::string& name, const std::string& words);
+
+// write_to_trace for the console alone (console.cpp of each system).
 void write_trace_to_console(std::string_view text);
 
 } // namespace platform

@@ -1,5 +1,6 @@
 // Text for the user and for developers, where there are no windows.
 
+#include "platform/message_line.h"
 #include "platform/platform.h"
 #include "platform/trace_file.h"
 
@@ -69,13 +70,7 @@ bool debug_output_is_heard() {
 }
 
 void message_box(std::string_view title, std::string_view text) {
-    std::string message(title);
-    if (!title.empty())
-        message += ": ";
-    message += text;
-    if (message.empty() || message.back() != '\n')
-        message += '\n';
-    write_over_progress_bar(message);
+    write_over_progress_bar(message_line(title, text));
 }
 
 } // namespace platform

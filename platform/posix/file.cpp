@@ -2,6 +2,8 @@
 
 #include "platform/platform.h"
 
+#include "platform/posix/refused_write.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <system_error>
@@ -60,7 +62,10 @@ bool file::open(const std::string& name, open_mode mode) {
         descriptor = ::open(name.c_str(), flags_of(mode) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
     } while (descriptor < 0 && errno == EINTR);
     if (descriptor < 0) {
-        failure_text = words_for(errno);
+        const int error = errno;
+        failure_text = words_for(error);
+        if (mode == open_mode::write)
+            trace_if_refused(name, error);
         return false;
     }
     failure_text = fault_of(descriptor, mode);
@@ -71,6 +76,7 @@ bool file::open(const std::string& name, open_mode mode) {
         return false;
     }
     handle = descriptor;
+    file_name = mode == open_mode::write ? name : std::string(); // the trace itself is appended to
     return true;
 }
 
@@ -95,8 +101,13 @@ bool file::write_all(std::string_view bytes) {
         const ssize_t count = ::write(static_cast<int>(handle), bytes.data(), std::min(bytes.size(), largest_step));
         if (count < 0 && errno == EINTR)
             continue;
-        if (count <= 0)
+        if (count <= 0) {
+            const int error = errno;
+            failure_text = words_for(error);
+            if (!file_name.empty())
+                trace_if_refused(file_name, error);
             return false;
+        }
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;

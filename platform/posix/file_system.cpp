@@ -2,14 +2,18 @@
 
 #include "platform/platform.h"
 
+#include "platform/posix/refused_write.h"
+
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -70,7 +74,10 @@ std::string absolute_name(const std::string& name) {
 }
 
 bool make_folder(const std::string& name) {
-    return mkdir(name.c_str(), 0777) == 0; // the user's mask takes its share
+    if (mkdir(name.c_str(), 0777) == 0) // the user's mask takes its share
+        return true;
+    trace_if_refused(name, errno);
+    return false;
 }
 
 std::optional<std::string> make_unique_folder(const std::string& beginning) {
@@ -80,6 +87,19 @@ std::optional<std::string> make_unique_folder(const std::string& beginning) {
 
 bool delete_file(const std::string& name) {
     return unlink(name.c_str()) == 0;
+}
+
+bool delete_empty_folder(const std::string& name) {
+    return rmdir(name.c_str()) == 0;
+}
+
+bool flush_file_system(const std::string& folder) {
+    const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened < 0)
+        return false;
+    const bool is_done = syncfs(opened) == 0;
+    close(opened);
+    return is_done;
 }
 
 bool rename_replacing(const std::string& from, const std::string& to) {

@@ -1,6 +1,7 @@
 // Shows how far a run is: a bar on standard error.
 
 #include "platform/posix/progress_bar.h"
+#include "platform/progress_lines.h"
 
 #include <algorithm>
 #include <utility>
@@ -55,6 +56,11 @@ void progress_bar::draw() const {
 }
 
 bool run_with_progress_window(std::string_view caption, const std::function<void(progress_window&)>& work) {
+    if (is_unattended()) {
+        progress_lines lines(write_standard_error);
+        work(lines);
+        return true;
+    }
     progress_bar bar(caption, write_standard_error, is_terminal(standard_stream::error));
     work(bar);
     return true;

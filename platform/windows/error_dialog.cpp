@@ -57,6 +57,12 @@ private:
 } // namespace
 
 error_dialog_answer show_error_dialog(const error_dialog_view& view) {
+    if (is_unattended()) {
+        std::string text = view.text;
+        std::erase(text, '\r');
+        message_box(view.caption, text);
+        return {};
+    }
     error_window dialog(view);
     dialog.answer.was_shown = dialog.run(static_cast<int>(view.kind));
     return dialog.answer;

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 
+#include "platform/windows/refused_write.h"
 #include "platform/windows/system_words.h"
 
 #include <algorithm>
@@ -51,7 +52,10 @@ bool file::open(const std::string& name, open_mode mode) {
                                                      : CreateFileA(name.c_str(), how.access, FILE_SHARE_READ, nullptr,
                                                                    how.disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (opened == INVALID_HANDLE_VALUE) {
-        failure_text = fault_of(name, GetLastError());
+        const DWORD error = GetLastError();
+        failure_text = fault_of(name, error);
+        if (mode == open_mode::write)
+            trace_if_refused(name, error);
         return false;
     }
     if (mode == open_mode::read && GetFileType(opened) != FILE_TYPE_DISK) {
@@ -60,6 +64,7 @@ bool file::open(const std::string& name, open_mode mode) {
         return false;
     }
     handle = reinterpret_cast<std::intptr_t>(opened);
+    file_name = mode == open_mode::write ? name : std::string(); // the trace itself is appended to
     return true;
 }
 
@@ -81,8 +86,13 @@ bool file::write_all(std::string_view bytes) {
     while (!bytes.empty()) {
         DWORD count = 0;
         const auto step = static_cast<DWORD>(std::min(bytes.size(), largest_step));
-        if (!WriteFile(handle_of(handle), bytes.data(), step, &count, nullptr) || count == 0)
+        if (!WriteFile(handle_of(handle), bytes.data(), step, &count, nullptr) || count == 0) {
+            const DWORD error = GetLastError();
+            failure_text = words_for(error);
+            if (!file_name.empty())
+                trace_if_refused(file_name, error);
             return false;
+        }
         bytes.remove_prefix(count);
     }
     return true;

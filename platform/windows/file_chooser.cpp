@@ -55,7 +55,7 @@ std::optional<std::string> asked_in_any_case(ask_call ask, const file_question& 
 } // namespace
 
 bool can_ask_for_file() {
-    return true;
+    return !is_unattended();
 }
 
 std::optional<std::string> ask_for_file_to_open(const file_question& question) {

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 
+#include "platform/windows/refused_write.h"
 #include "platform/windows/system_handle.h"
 
 #include <algorithm>
@@ -141,7 +142,10 @@ std::string absolute_name(const std::string& name) {
 }
 
 bool make_folder(const std::string& name) {
-    return CreateDirectoryA(name.c_str(), nullptr);
+    if (CreateDirectoryA(name.c_str(), nullptr))
+        return true;
+    trace_if_refused(name, GetLastError());
+    return false;
 }
 
 bool delete_file(const std::string& name) {
@@ -151,6 +155,14 @@ bool delete_file(const std::string& name) {
     const DWORD attributes = GetFileAttributesA(name.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && has(attributes, FILE_ATTRIBUTE_DIRECTORY) &&
            is_symbolic_link(name) && RemoveDirectoryA(name.c_str());
+}
+
+bool delete_empty_folder(const std::string& name) {
+    return RemoveDirectoryA(name.c_str());
+}
+
+bool flush_file_system(const std::string&) {
+    return true;
 }
 
 bool rename_replacing(const std::string& from, const std::string& to) {

@@ -3,6 +3,7 @@
 
 #include "platform/platform.h"
 
+#include "platform/progress_lines.h"
 #include "platform/windows/modal_dialog.h"
 #include "platform/windows/resource_numbers.h"
 
@@ -74,6 +75,11 @@ private:
 } // namespace
 
 bool run_with_progress_window(std::string_view caption, const std::function<void(progress_window&)>& work) {
+    if (is_unattended()) {
+        progress_lines lines(write_standard_error);
+        work(lines);
+        return true;
+    }
     progress_dialog dialog(caption, work);
     return dialog.run(DIALOG_PROGRESS);
 }
