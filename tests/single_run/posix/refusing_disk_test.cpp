@@ -1,0 +1,135 @@
+// Disks that are full, and folders that an ordinary user may not write.
+
+#include "tests/single_run/posix/started_program.h"
+#include "tests/single_run/run_fixture.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace sketchup;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class RefusingDisk : public RunFixture {
+protected:
+    // The run, with its batch folder on a disk of so many KiB of its own: the status, and on further lines the names
+    // that are left on that disk. Nothing if no such disk can be had.
+    std::optional<std::string> outcome_on_disk_of(int kibibytes) const {
+        const program_start start = start_with({});
+        program_start on_disk = start;
+        const std::string command = "mount -t tmpfs -o size=\"$1\"k tmpfs \"$2\" || exit 99\n"
+                                    "\"$3\" \"$4\" \"$2/batch\" >/dev/null\n"
+                                    "echo $?; ls \"$2\"; ls \"$2/batch\" | grep run";
+        on_disk.program = "/usr/bin/unshare";
+        on_disk.arguments = {"-m",
+                             "sh",
+                             "-c",
+                             command,
+                             "sh",
+                             std::to_string(kibibytes),
+                             here.make_folder("disk"),
+                             start.program,
+                             here / "model.skp"};
+        const program_result result = run_program(on_disk);
+        return result.output.empty() ? std::nullopt : std::optional(result.output);
+    }
+};
+
+TEST_F(RefusingDisk, whatever_a_full_disk_refuses_the_run_says_so_and_leaves_nothing) {
+    put_model(800); // a model of 200 KiB, a stream of 300
+    int done = 0;
+    int refused = 0;
+    for (int size = 8; size <= 1024; size *= 2)
+        for (const int kibibytes : {size, size + size / 4, size + size / 2}) {
+            const auto outcome = outcome_on_disk_of(kibibytes);
+            if (!outcome)
+                GTEST_SKIP() << "no disk can be mounted here";
+            const bool is_done = outcome->starts_with("0\n");
+            EXPECT_EQ(*outcome, is_done ? "0\nbatch\ntessaline-run.json\n" : "4\n") << kibibytes << " KiB";
+            (is_done ? done : refused) += 1;
+        }
+    EXPECT_GT(done, 0);
+    EXPECT_GT(refused, 10);
+}
+
+// The system would end the program for a file that grows beyond the limit; the run and its converter are told instead.
+TEST_F(RefusingDisk, a_limit_on_the_size_of_files_counts_as_a_full_disk) {
+    put_model(800);
+    program_start start = start_with({});
+    start.arguments.insert(start.arguments.begin(), {"-c", "ulimit -f 300; exec \"$@\"", "sh", start.program});
+    start.program = "/bin/sh";
+    const program_result outcome = run_program(start);
+    EXPECT_EQ(outcome.status, 4) << outcome.errors;
+    EXPECT_THAT(last_line(outcome.errors), HasSubstr("File too large"));
+    EXPECT_FALSE(here.has("batch"));
+}
+
+TEST_F(RefusingDisk, a_folder_that_an_ordinary_user_may_not_write_has_status_4_and_nothing_in_it) {
+    const std::string locked = here.make_folder("locked");
+    chmod(here.name().c_str(), 0755);
+    chmod((here / "home").c_str(), 0777);
+    chmod(locked.c_str(), 0555);
+    program_start start = start_of({here / "model.skp", locked + "/batch"});
+    constexpr uid_t nobody = 65534;
+    // What it writes to standard error lies where it may not write, and is open before it loses its rights.
+    started_program run(start, geteuid() == 0 ? nobody : 0);
+    EXPECT_EQ(run.wait(), 4);
+    EXPECT_EQ(last_line(run.errors()),
+              "tessaline-run: " + locked + "/batch cannot be made: the folder above it takes nothing.");
+    EXPECT_FALSE(here.has("locked/batch"));
+    chmod(locked.c_str(), 0755);
+}
+
+TEST_F(RefusingDisk, a_finished_batch_that_an_ordinary_user_may_not_replace_stays) {
+    ASSERT_EQ(run().status, 0);
+    const auto before = files_in("batch");
+    chmod(here.name().c_str(), 0755);
+    program_start start = start_of({"--force", here / "model.skp", here / "batch"});
+    constexpr uid_t nobody = 65534;
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only the superuser can start a program as another user";
+    started_program run(start, nobody);
+    EXPECT_EQ(run.wait(), 4);
+    EXPECT_EQ(files_in("batch"), before);
+}
+
+TEST_F(RefusingDisk, a_report_that_the_disk_refuses_has_status_4_and_the_batch_stays) {
+    const program_result outcome = run_with({"--json", "/dev/full"});
+    EXPECT_EQ(outcome.status, 4);
+    EXPECT_THAT(last_line(outcome.errors), testing::EndsWith(" The report could not be written to /dev/full."));
+    EXPECT_TRUE(here.has("batch/tessaline-run.json"));
+}
+
+TEST_F(RefusingDisk, a_link_in_place_of_the_folder_is_refused_whatever_it_leads_to) {
+    const std::string elsewhere = here.make_folder("elsewhere");
+    std::filesystem::create_directory_symlink(elsewhere, here / "batch");
+    for (const char* name : {"batch", "batch/"}) {
+        const program_result outcome = run_program(start_of({"--force", here / "model.skp", here / name}));
+        EXPECT_EQ(outcome.status, 4);
+        EXPECT_EQ(last_line(outcome.errors), "tessaline-run: " + here / "batch" + " is a link.");
+    }
+    EXPECT_TRUE(files_in("elsewhere").empty());
+    std::filesystem::remove(elsewhere);
+    EXPECT_EQ(run().status, 4); // it leads nowhere now
+}
+
+TEST_F(RefusingDisk, a_link_in_place_of_the_mark_makes_no_unfinished_batch) {
+    here.write("elsewhere.txt", "of somebody else");
+    here.make_folder("batch");
+    std::filesystem::create_symlink(here / "elsewhere.txt", here / "batch/tessaline-run.json.part");
+    EXPECT_EQ(run().status, 4);
+    EXPECT_EQ(here.read("elsewhere.txt"), "of somebody else");
+}
+
+TEST_F(RefusingDisk, links_in_an_unfinished_batch_go_and_what_they_lead_to_stays) {
+    here.write("elsewhere/letter.txt", "dear reader");
+    here.write("batch/tessaline-run.json.part", "");
+    std::filesystem::create_directory_symlink(here / "elsewhere", here / "batch/Plants");
+    EXPECT_EQ(run().status, 0);
+    EXPECT_EQ(here.read("elsewhere/letter.txt"), "dear reader");
+    EXPECT_FALSE(std::filesystem::is_symlink(here / "batch/Plants"));
+}
+
+} // namespace

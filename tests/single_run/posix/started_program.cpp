@@ -1,0 +1,82 @@
+#include "tests/single_run/posix/started_program.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+started_program::started_program(const program_start& start, uid_t user) {
+    errors_file = start.arguments.back() + ".errors"; // beside the batch
+    std::vector<std::string> words = {start.program};
+    words.insert(words.end(), start.arguments.begin(), start.arguments.end());
+    std::vector<char*> arguments;
+    for (std::string& word : words)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    const int errors = open(errors_file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
+    process = fork();
+    if (process == 0) {
+        for (const auto& [name, value] : start.environment)
+            value ? setenv(name.c_str(), value->c_str(), 1) : unsetenv(name.c_str());
+        dup2(nothing, STDIN_FILENO);
+        dup2(nothing, STDOUT_FILENO);
+        dup2(errors, STDERR_FILENO);
+        if (user == 0 || setuid(user) == 0)
+            execv(start.program.c_str(), arguments.data());
+        _exit(127);
+    }
+    close(errors);
+    close(nothing);
+    if (process < 0)
+        throw std::runtime_error("no process can be made");
+}
+
+started_program::~started_program() {
+    if (process > 0) {
+        send(SIGKILL);
+        waitpid(process, nullptr, 0);
+    }
+    unlink(errors_file.c_str());
+}
+
+std::vector<pid_t> started_program::children() const {
+    std::ifstream list("/proc/" + std::to_string(process) + "/task/" + std::to_string(process) + "/children");
+    std::vector<pid_t> all;
+    for (pid_t child = 0; list >> child;)
+        all.push_back(child);
+    return all;
+}
+
+int started_program::wait() {
+    int status = 0;
+    comes_true([&] { return waitpid(process, &status, WNOHANG) != 0; });
+    process = -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::string started_program::errors() const {
+    std::ostringstream text;
+    text << std::ifstream(errors_file).rdbuf();
+    return text.str();
+}
+
+bool comes_true(const std::function<bool()>& condition) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes(1);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return true;
+}
+
+bool is_running(pid_t process) {
+    return kill(process, 0) == 0;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+// A program that runs while the test goes on, and the signals that it gets.
+
+#include "tests/support/run_program.h"
+
+#include <csignal>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+class started_program {
+public:
+    // Throws if it cannot be started. user: that of the superuser only; 0 for the user of the test.
+    explicit started_program(const program_start& start, uid_t user = 0);
+    started_program(const started_program&) = delete;
+    started_program& operator=(const started_program&) = delete;
+    ~started_program(); // ends it if it runs still
+
+    pid_t number() const { return process; }
+    void send(int signal_number) const { kill(process, signal_number); }
+    // The programs that it has started and that run still.
+    std::vector<pid_t> children() const;
+
+    // Its status when it has ended; -1 if a signal has ended it.
+    int wait();
+    std::string errors() const;
+
+private:
+    pid_t process = -1;
+    std::string errors_file;
+};
+
+// Waits until the condition holds; false if it does not within a minute.
+bool comes_true(const std::function<bool()>& condition);
+
+bool is_running(pid_t process);

@@ -1,0 +1,44 @@
+// A converter that does not do its work, in the way that the file stand_in.txt beside it says:
+//   wait    makes the file "waiting" beside the stream and waits to be ended
+//   half    leaves the beginning of a stream
+//   crash   ends as programs do that have gone wrong
+//   status  leaves nothing and ends with status 3
+// Its arguments are those of the converter.
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <thread>
+
+namespace {
+
+std::string beside(const std::string& file, const std::string& name) {
+    return file.substr(0, file.find_last_of("/\\") + 1) + name;
+}
+
+std::string text_of(const std::string& name) {
+    std::ifstream file(name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3)
+        return 1;
+    const std::string stream = argv[2];
+    const std::string what = text_of(beside(argv[0], "stand_in.txt"));
+    if (what == "wait") {
+        std::ofstream(beside(stream, "left_behind")) << "by a run that was killed";
+        std::ofstream(beside(stream, "waiting")) << "yes";
+        for (;;)
+            std::this_thread::sleep_for(std::chrono::hours(1));
+    }
+    if (what == "half")
+        std::ofstream(stream, std::ios::binary) << "#;Tessaline Geometry\r\n";
+    if (what == "crash")
+        std::abort();
+    return what == "status" ? 3 : 0;
+}
