@@ -46,13 +46,11 @@ refusal words_of_the_reader(const std::string& model, std::uint64_t memory, cons
 }
 
 constexpr const char* not_enough_memory = "The converter did not get on with the memory that it was given.";
-constexpr int status_of_the_loader = 127; // of a program whose libraries found no room
-
 // Why the converter did not do its work, where its end alone tells it.
 void look_at_end(const child_end& end, const converter_words& said, std::uint64_t memory, converted_model& converted) {
-    const bool never_ran =
-        end.fate == child_fate::not_started || (end.fate == child_fate::ended && end.number == status_of_the_loader);
-    if (said.out_of_memory || (never_ran && memory != 0))
+    // Where there is no room for a program the system ends it by a signal while it is loaded, or its loader gives up.
+    const bool found_no_room = memory != 0 && !said.has_begun && (end.fate != child_fate::ended || end.number != 0);
+    if (said.out_of_memory || found_no_room)
         converted = {run_status::beyond_limits, not_enough_memory, {}, {}, 0};
     else if (end.fate == child_fate::crashed)
         converted = {run_status::ended_by_signal, "The converter was ended by " + end.words + '.', {}, {}, 0};

@@ -44,6 +44,7 @@ converter_words::converter_words(std::function<void(int)> on_progress, std::func
 
 void converter_words::take(std::string_view line) {
     if (const auto percent = percentage(line)) {
+        has_begun = true;
         progress(*percent);
         return;
     }

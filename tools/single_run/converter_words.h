@@ -22,6 +22,7 @@ public:
     std::vector<std::string> messages;
     std::string refused_model;  // what the trace says of a model that cannot be opened; empty if it says nothing
     std::string refused_write;  // the first thing that the disk refused, with the reason; empty if nothing was refused
+    bool has_begun = false;     // it told of its progress
     bool lost_options = false;  // the option file could not be rewritten
     bool out_of_memory = false; // it ended for want of memory
 

@@ -13,11 +13,11 @@ namespace {
 
 // The interface tells no more than a code, so the file is read once more for the words of the reader.
 std::string words_of_the_reader(const std::string& file_name) {
-    const auto bytes = platform::read_file(file_name, std::numeric_limits<std::uint32_t>::max());
-    if (!bytes)
-        return "the file cannot be read";
-    const auto* first = reinterpret_cast<const std::uint8_t*>(bytes->data());
     try {
+        const auto bytes = platform::read_file(file_name, std::numeric_limits<std::uint32_t>::max());
+        if (!bytes)
+            return "the file cannot be read";
+        const auto* first = reinterpret_cast<const std::uint8_t*>(bytes->data());
         skp::read_model(std::vector<std::uint8_t>(first, first + bytes->size()));
     } catch (const skp::format_error& error) {
         return error.what();
