@@ -1,7 +1,7 @@
 // Disks that are full, and folders that an ordinary user may not write.
 
-#include "tests/single_run/posix/started_program.h"
-#include "tests/single_run/run_fixture.h"
+#include "tests/tools/single_run/posix/started_program.h"
+#include "tests/tools/single_run/run_fixture.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

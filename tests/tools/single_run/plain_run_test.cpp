@@ -1,6 +1,6 @@
 // Runs from beginning to end: what is done, skipped, refused.
 
-#include "tests/single_run/run_fixture.h"
+#include "tests/tools/single_run/run_fixture.h"
 
 namespace {
 

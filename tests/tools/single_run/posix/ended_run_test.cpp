@@ -1,7 +1,7 @@
 // Runs that are ended in the middle, by signals to them and to the converter.
 
-#include "tests/single_run/posix/started_program.h"
-#include "tests/single_run/run_fixture.h"
+#include "tests/tools/single_run/posix/started_program.h"
+#include "tests/tools/single_run/run_fixture.h"
 
 namespace {
 

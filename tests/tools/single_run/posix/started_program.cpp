@@ -1,4 +1,4 @@
-#include "tests/single_run/posix/started_program.h"
+#include "tests/tools/single_run/posix/started_program.h"
 
 #include <chrono>
 #include <cstdlib>

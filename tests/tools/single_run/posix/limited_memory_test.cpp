@@ -1,6 +1,6 @@
 // Runs whose programs get too little memory. The address sanitizer asks for more of it than any limit leaves.
 
-#include "tests/single_run/run_fixture.h"
+#include "tests/tools/single_run/run_fixture.h"
 
 namespace {
 
