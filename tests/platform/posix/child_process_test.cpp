@@ -1,0 +1,130 @@
+#include "platform/child_process.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+
+#include <unistd.h>
+
+namespace {
+
+using platform::child_end;
+using platform::child_fate;
+using platform::child_start;
+
+struct seen_child {
+    child_end end;
+    std::string output;
+    std::string errors;
+};
+
+seen_child run(child_start start) {
+    seen_child seen;
+    start.on_output = [&seen](std::string_view bytes) { seen.output += bytes; };
+    start.on_errors = [&seen](std::string_view bytes) { seen.errors += bytes; };
+    seen.end = platform::run_child(start);
+    return seen;
+}
+
+child_start shell(const std::string& script) {
+    return {"/bin/sh", {"-c", script}};
+}
+
+// A process that has ended and that nobody has asked about yet counts as ended.
+bool runs(const std::string& process) {
+    std::string text;
+    std::ifstream file("/proc/" + process + "/stat");
+    std::getline(file, text);
+    const std::size_t name_end = text.rfind(") ");
+    return name_end != std::string::npos && text[name_end + 2] != 'Z';
+}
+
+TEST(ChildProcess, hands_on_what_is_printed_and_the_status) {
+    const seen_child seen = run(shell("echo out; echo err >&2; exit 5"));
+    EXPECT_EQ(seen.end.fate, child_fate::ended);
+    EXPECT_EQ(seen.end.number, 5);
+    EXPECT_EQ(seen.output, "out\n");
+    EXPECT_EQ(seen.errors, "err\n");
+    EXPECT_GT(seen.end.peak_memory_bytes, 100000u);
+}
+
+TEST(ChildProcess, more_output_than_a_pipe_holds_is_handed_on_whole) {
+    EXPECT_EQ(run(shell("head -c 3000000 /dev/zero; head -c 2000000 /dev/zero >&2")).output.size(), 3000000u);
+}
+
+TEST(ChildProcess, an_input_is_empty) {
+    EXPECT_EQ(run(shell("cat; echo end")).output, "end\n");
+}
+
+TEST(ChildProcess, a_program_that_is_not_there_is_told_in_the_words_of_the_system) {
+    const seen_child seen = run({"/no/such/program"});
+    EXPECT_EQ(seen.end.fate, child_fate::not_started);
+    EXPECT_EQ(seen.end.words, "No such file or directory");
+}
+
+TEST(ChildProcess, variables_are_changed_taken_away_and_kept) {
+    ASSERT_EQ(setenv("TESSALINE_TEST_KEPT", "k", 1), 0);
+    ASSERT_EQ(setenv("TESSALINE_TEST_GONE", "g", 1), 0);
+    child_start start = shell("echo $TESSALINE_TEST_KEPT-${TESSALINE_TEST_GONE-none}-$TESSALINE_TEST_NEW");
+    start.environment = {{"TESSALINE_TEST_GONE", std::nullopt}, {"TESSALINE_TEST_NEW", "n=1"}};
+    EXPECT_EQ(run(start).output, "k-none-n=1\n");
+    unsetenv("TESSALINE_TEST_KEPT");
+    unsetenv("TESSALINE_TEST_GONE");
+}
+
+TEST(ChildProcess, a_program_that_a_signal_ends_is_told_by_its_name) {
+    const seen_child seen = run(shell("kill -SEGV $$"));
+    EXPECT_EQ(seen.end.fate, child_fate::crashed);
+    EXPECT_EQ(seen.end.number, SIGSEGV);
+    EXPECT_EQ(seen.end.words, "SIGSEGV");
+}
+
+TEST(ChildProcess, a_program_that_is_not_done_at_the_deadline_is_ended) {
+    child_start start = shell("echo $$; exec sleep 1000");
+    start.deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(200);
+    const seen_child seen = run(start);
+    EXPECT_EQ(seen.end.fate, child_fate::out_of_time);
+    EXPECT_FALSE(runs(seen.output.substr(0, seen.output.find('\n'))));
+}
+
+TEST(ChildProcess, what_a_program_has_started_and_left_ends_with_it) {
+    const seen_child seen = run(shell("sleep 1000 >/dev/null 2>&1 & echo $!"));
+    EXPECT_EQ(seen.end.fate, child_fate::ended);
+    const std::string left = seen.output.substr(0, seen.output.find('\n'));
+    for (int i = 0; i < 10000 && runs(left); ++i)
+        usleep(1000);
+    EXPECT_FALSE(runs(left));
+}
+
+TEST(ChildProcess, a_limit_of_memory_is_that_of_the_program) {
+    child_start start = shell("ulimit -v");
+    start.memory_limit = std::uint64_t{512} << 20U;
+    EXPECT_EQ(run(start).output, "524288\n"); // KiB
+}
+
+TEST(ChildProcess, a_request_to_end_ends_the_program_and_is_told_by_its_name) {
+    const platform::end_requests noted;
+    EXPECT_EQ(platform::end_request(), "");
+    child_start start = shell("echo begun; exec sleep 1000");
+    start.on_output = [](std::string_view) { raise(SIGTERM); };
+    EXPECT_EQ(platform::run_child(start).fate, child_fate::called_off);
+    EXPECT_EQ(platform::end_request(), "SIGTERM");
+}
+
+TEST(ChildProcess, a_request_to_end_is_forgotten_with_whoever_noted_it) {
+    {
+        const platform::end_requests noted;
+        raise(SIGINT);
+        EXPECT_EQ(platform::end_request(), "SIGINT");
+    }
+    EXPECT_EQ(platform::end_request(), "");
+}
+
+TEST(ChildProcess, a_reader_that_is_gone_ends_a_program_as_ever) {
+    const platform::end_requests noted; // for this process alone such a signal is none
+    EXPECT_EQ(run(shell("kill -PIPE $$")).end.words, "SIGPIPE");
+}
+
+} // namespace
