@@ -20,7 +20,7 @@ std::string sentence_of_success(const run_options& options, const std::string& f
                                 double seconds) {
     const nlohmann::json counts = nlohmann::json::parse(verdict.counts, nullptr, false);
     std::array<char, 32> time;
-    std::snprintf(time.data(), time.size(), "%.1f", seconds);
+    std::snprintf(time.data(), time.size(), "%.2f", seconds);
     return last_part(options.model) + " is converted: " + counted(counts, "triangles", "triangle", "triangles") + ", " +
            counted(counts, "materials", "material", "materials") + " and " + counted(counts, "lamps", "lamp", "lamps") +
            " in " + folder + " after " + time.data() + " seconds.";
