@@ -1,8 +1,8 @@
 #include "tools/batch_check/check_material.h"
 
-#include "tools/batch_check/content_hash.h"
 #include "tools/batch_check/number_forms.h"
 #include "tools/batch_check/small_text.h"
+#include "tools/content_hash/content_hash.h"
 
 #include <array>
 #include <cmath>
@@ -75,10 +75,12 @@ public:
     material_check(const small_text& lines, const finding_place& where) : text(lines), place(where) {}
 
     material_facts run(const std::string& declared_name) {
-        material_facts facts;
+        content_hash content;
         for (std::size_t i = 0; i < text.line_count(); ++i) {
-            if (i >= lines_of_names)
-                facts.content = content_hash("\n", content_hash(text.line(i), facts.content));
+            if (i >= lines_of_names) {
+                content.add(text.line(i));
+                content.add("\n");
+            }
             if (next_form == forms.size()) {
                 place.report(code::material_line, i, "one line too many: " + quoted(text.line(i)));
                 break;
@@ -88,6 +90,8 @@ public:
         if (next_form < forms.size() && !is_out_of_order)
             place.report(code::material_line, text.line_count(), quoted(forms[next_form].key) + " must stand here");
         compare_lines(declared_name);
+        material_facts facts;
+        facts.content = content.digest();
         facts.image_path = value("Image_Path: ");
         facts.image_line = line_of["Image_Path: "] + 1;
         return facts;

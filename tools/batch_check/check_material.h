@@ -14,7 +14,7 @@ namespace batch_check {
 struct material_facts {
     std::string image_path;     // empty if it names no picture
     std::size_t image_line = 0; // that names it
-    std::uint64_t content = 0;  // equal for files that say the same but for the names
+    std::string content;        // equal for files that say the same but for the names
 };
 
 // file: as "ZynBatch_Materials/Wall.qlobj". declared_name: by which the stream knows the material. Nothing if the file

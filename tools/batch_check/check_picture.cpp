@@ -3,7 +3,7 @@
 #include "image/decode_picture.h"
 #include "image/picture_format.h"
 #include "image/picture_rows.h"
-#include "tools/batch_check/content_hash.h"
+#include "tools/content_hash/content_hash.h"
 
 #include <memory>
 #include <span>
@@ -52,7 +52,7 @@ std::optional<picture_facts> check_picture(const batch_files& files, const std::
     const image::picture_format named = image::format_of_name(file);
     if (extent && named != image::picture_format::unknown && named != format)
         found.add(code::picture_format, file, 0, "the picture has another format than its name says");
-    return picture_facts{text->size(), content_hash(*text)};
+    return picture_facts{text->size(), content_hash_of(*text)};
 }
 
 } // namespace batch_check

@@ -13,7 +13,7 @@ namespace batch_check {
 
 struct picture_facts {
     std::uint64_t bytes = 0;
-    std::uint64_t content = 0; // equal for files of the same bytes
+    std::string content; // equal for files of the same bytes
 };
 
 // file: as "Batch_SketchUp_Textures/TX0001_Wall.png". Nothing if the file cannot be read. A picture is decoded whole

@@ -122,8 +122,8 @@ void reference_check::warn_of_other_folder(const batch_contents::place& place, c
                          "the full name of " + quoted(place.file) + " leads to another folder");
 }
 
-const std::string& reference_check::first_of_content(std::unordered_map<std::uint64_t, std::string>& first,
-                                                     std::uint64_t content, const std::string& file) {
+const std::string& reference_check::first_of_content(std::unordered_map<std::string, std::string>& first,
+                                                     const std::string& content, const std::string& file) {
     return first.try_emplace(content, file).first->second;
 }
 

@@ -27,14 +27,14 @@ private:
     // Says so if a full name leads to another folder than this one.
     void warn_of_other_folder(const batch_contents::place& place, const std::string& file, std::size_t line);
     // The first file of equal content; this one if there is none before it.
-    static const std::string& first_of_content(std::unordered_map<std::uint64_t, std::string>& first,
-                                               std::uint64_t content, const std::string& file);
+    static const std::string& first_of_content(std::unordered_map<std::string, std::string>& first,
+                                               const std::string& content, const std::string& file);
 
     const batch_files& files;
     batch_contents& contents;
     batch_report& report;
-    std::unordered_map<std::uint64_t, std::string> material_of_content;
-    std::unordered_map<std::uint64_t, std::string> picture_of_content;
+    std::unordered_map<std::string, std::string> material_of_content;
+    std::unordered_map<std::string, std::string> picture_of_content;
 };
 
 } // namespace batch_check

@@ -1,7 +1,7 @@
 #include "tools/single_run/hashed_file.h"
 
 #include "platform/platform.h"
-#include "tools/single_run/sha256.h"
+#include "tools/content_hash/content_hash.h"
 
 #include <vector>
 
@@ -25,7 +25,7 @@ hashed_file read_through(const std::string& from, const std::string* to, const r
     platform::file target;
     if (to != nullptr && !target.open(*to, platform::open_mode::write))
         return failed(std::move(result), file_fault::not_written, target.failure());
-    sha256 hash;
+    content_hash hash;
     std::vector<char> buffer(step);
     for (std::size_t count = step; count == step;) {
         if (clock.must_stop() != stop_reason::none)
@@ -39,7 +39,7 @@ hashed_file read_through(const std::string& from, const std::string* to, const r
     }
     if (to != nullptr && !target.close())
         return failed(std::move(result), file_fault::not_written, {});
-    result.facts.sha256 = hash.digest();
+    result.facts.xxh128 = hash.digest();
     return result;
 }
 

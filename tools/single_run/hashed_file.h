@@ -10,7 +10,7 @@
 struct file_facts {
     std::string name; // without folder
     std::uint64_t bytes = 0;
-    std::string sha256; // 64 hexadecimal digits
+    std::string xxh128; // 32 hexadecimal digits (content_hash.h)
 };
 
 enum class file_fault { none, not_read, not_written, stopped };

@@ -14,7 +14,7 @@ std::string utf8(const std::string& text) {
 }
 
 json of_file(const file_facts& file) {
-    return {{"name", utf8(file.name)}, {"bytes", file.bytes}, {"sha256", file.sha256}};
+    return {{"name", utf8(file.name)}, {"bytes", file.bytes}, {"xxh128", file.xxh128}};
 }
 
 json of_files(const std::vector<file_facts>& files) {
@@ -81,7 +81,7 @@ bool is_same_run(std::string_view bytes, const run_report& wanted) {
                before["model"][key] == now["model"][key];
     };
     return same("format") && same("version") && same("folder") && same("files") && same("options") &&
-           before.contains("model") && same_of_model("bytes") && same_of_model("sha256");
+           before.contains("model") && same_of_model("bytes") && same_of_model("xxh128");
 }
 
 batch_verdict verdict_in(std::string_view bytes) {
