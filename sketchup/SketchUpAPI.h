@@ -619,6 +619,20 @@ enum SUResult SUStringGetUTF16(SUStringRef string, size_t max, unichar text[], s
 enum SUResult SUCameraGetOrientation(SUCameraRef camera, struct SUPoint3D* position, struct SUPoint3D* target,
                                      struct SUVector3D* up);
 
+// Whether it draws in perspective, and not in parallel.
+enum SUResult SUCameraGetPerspective(SUCameraRef camera, bool* perspective);
+
+// The field of view in degrees; NO_DATA for a parallel camera. The second: whether it is the angle of the view's height,
+// and not of its width.
+enum SUResult SUCameraGetPerspectiveFrustumFOV(SUCameraRef camera, double* field_of_view);
+enum SUResult SUCameraGetFOVIsHeight(SUCameraRef camera, bool* is_height);
+
+// The height of what a parallel camera shows, in inches; NO_DATA for one in perspective.
+enum SUResult SUCameraGetOrthographicFrustumHeight(SUCameraRef camera, double* height);
+
+// Width divided by height; NO_DATA for a camera that takes those of the window.
+enum SUResult SUCameraGetAspectRatio(SUCameraRef camera, double* aspect_ratio);
+
 enum SUResult SUSceneGetName(SUSceneRef scene, SUStringRef* name);
 
 // NO_DATA if the scene keeps no camera.

@@ -439,6 +439,11 @@ void abi_of_string(void) {
 void abi_of_scene(void);
 void abi_of_scene(void) {
     SIGNATURE(SUResult, SUCameraGetOrientation, SUCameraRef, SUPoint3D*, SUPoint3D*, SUVector3D*);
+    SIGNATURE(SUResult, SUCameraGetPerspective, SUCameraRef, bool*);
+    SIGNATURE(SUResult, SUCameraGetPerspectiveFrustumFOV, SUCameraRef, double*);
+    SIGNATURE(SUResult, SUCameraGetFOVIsHeight, SUCameraRef, bool*);
+    SIGNATURE(SUResult, SUCameraGetOrthographicFrustumHeight, SUCameraRef, double*);
+    SIGNATURE(SUResult, SUCameraGetAspectRatio, SUCameraRef, double*);
     SIGNATURE(SUResult, SURenderingOptionsGetValue, SURenderingOptionsRef, const char*, SUTypedValueRef*);
     SIGNATURE(SUResult, SUShadowInfoGetValue, SUShadowInfoRef, const char*, SUTypedValueRef*);
 }

@@ -22,6 +22,50 @@ TEST(Camera, gives_eye_target_and_a_unit_up_vector) {
     EXPECT_EQ(SUCameraGetOrientation(camera, &eye, nullptr, &up), SU_ERROR_NULL_POINTER_OUTPUT);
 }
 
+TEST(Camera, in_perspective_has_a_field_of_view_and_no_height) {
+    model_builder builder;
+    builder.model().camera.perspective = true;
+    builder.model().camera.field_of_view = 40;
+    builder.model().camera.fov_is_vertical = false;
+    builder.model().camera.height = 70;
+    builder.model().camera.aspect = 1.5;
+    test_model opened(builder);
+    SUCameraRef camera = SU_INVALID;
+    ASSERT_EQ(SUModelGetCamera(opened.ref, &camera), SU_ERROR_NONE);
+    bool perspective = false;
+    bool is_height = true;
+    double number = 0;
+    EXPECT_EQ(SUCameraGetPerspective(camera, &perspective), SU_ERROR_NONE);
+    EXPECT_TRUE(perspective);
+    EXPECT_EQ(SUCameraGetPerspectiveFrustumFOV(camera, &number), SU_ERROR_NONE);
+    EXPECT_EQ(number, 40);
+    EXPECT_EQ(SUCameraGetFOVIsHeight(camera, &is_height), SU_ERROR_NONE);
+    EXPECT_FALSE(is_height);
+    EXPECT_EQ(SUCameraGetAspectRatio(camera, &number), SU_ERROR_NONE);
+    EXPECT_EQ(number, 1.5);
+    EXPECT_EQ(SUCameraGetOrthographicFrustumHeight(camera, &number), SU_ERROR_NO_DATA);
+    EXPECT_EQ(SUCameraGetPerspectiveFrustumFOV(camera, nullptr), SU_ERROR_NULL_POINTER_OUTPUT);
+    EXPECT_EQ(SUCameraGetAspectRatio(SU_INVALID, &number), SU_ERROR_INVALID_INPUT);
+}
+
+TEST(Camera, in_parallel_has_a_height_and_no_field_of_view) {
+    model_builder builder;
+    builder.model().camera.perspective = false;
+    builder.model().camera.height = 70;
+    builder.model().camera.aspect = 0;
+    test_model opened(builder);
+    SUCameraRef camera = SU_INVALID;
+    ASSERT_EQ(SUModelGetCamera(opened.ref, &camera), SU_ERROR_NONE);
+    bool perspective = true;
+    double number = 0;
+    EXPECT_EQ(SUCameraGetPerspective(camera, &perspective), SU_ERROR_NONE);
+    EXPECT_FALSE(perspective);
+    EXPECT_EQ(SUCameraGetOrthographicFrustumHeight(camera, &number), SU_ERROR_NONE);
+    EXPECT_EQ(number, 70);
+    EXPECT_EQ(SUCameraGetPerspectiveFrustumFOV(camera, &number), SU_ERROR_NO_DATA);
+    EXPECT_EQ(SUCameraGetAspectRatio(camera, &number), SU_ERROR_NO_DATA);
+}
+
 TEST(Scene, gives_its_own_camera_if_it_keeps_one) {
     model_builder builder;
     builder.scene("Bare");
