@@ -1,7 +1,7 @@
 // Prints what the provider sees in model files.
 
 #include "tools/command_line/answers.h"
-#include "tools/skp-dump/opened_model.h"
+#include "tools/model_opening/opened_model.h"
 #include "tools/skp-dump/prints.h"
 #include "tools/skp-dump/write_textures.h"
 

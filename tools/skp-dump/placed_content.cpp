@@ -1,6 +1,6 @@
 #include "tools/skp-dump/placed_content.h"
 
-#include "tools/skp-dump/su_lists.h"
+#include "tools/model_opening/su_lists.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,9 +4,9 @@
 
 #include "platform/platform.h"
 #include "sketchup/api/inspect.h"
+#include "tools/model_opening/su_lists.h"
 #include "tools/skp-dump/model_counts.h"
 #include "tools/skp-dump/placed_content.h"
-#include "tools/skp-dump/su_lists.h"
 
 #include <cmath>
 #include <cstdio>

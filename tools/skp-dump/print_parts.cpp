@@ -2,7 +2,7 @@
 
 #include "sketchup/api/inspect.h"
 #include "sketchup/model/model.h"
-#include "tools/skp-dump/su_lists.h"
+#include "tools/model_opening/su_lists.h"
 #include "tools/skp-dump/value_text.h"
 
 #include <cstdio>

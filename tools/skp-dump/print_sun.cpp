@@ -1,7 +1,7 @@
 // Where the model stands, when, and where its sun is.
 
+#include "tools/model_opening/su_lists.h"
 #include "tools/skp-dump/prints.h"
-#include "tools/skp-dump/su_lists.h"
 
 #include <chrono>
 #include <cstdio>

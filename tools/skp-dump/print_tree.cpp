@@ -1,6 +1,6 @@
 #include "tools/skp-dump/prints.h"
 
-#include "tools/skp-dump/su_lists.h"
+#include "tools/model_opening/su_lists.h"
 #include "tools/skp-dump/value_text.h"
 
 #include <cstdio>

@@ -2,7 +2,7 @@
 
 #include "image/picture_format.h"
 #include "platform/platform.h"
-#include "tools/skp-dump/su_lists.h"
+#include "tools/model_opening/su_lists.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "tools/skp-dump/opened_model.h"
+#include "tools/model_opening/opened_model.h"
 
 #include "platform/platform.h"
 #include "sketchup/skp/format_error.h"

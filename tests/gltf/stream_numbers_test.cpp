@@ -1,0 +1,61 @@
+#include "tests/support/temporary_folder.h"
+#include "tools/batch_glb/stream_lines.h"
+#include "tools/batch_glb/stream_numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <random>
+
+TEST(StreamNumbers, are_the_nearest_doubles_to_their_texts) {
+    std::mt19937_64 engine(5);
+    std::uniform_real_distribution<double> uniform(-2000, 2000);
+    for (int i = 0; i < 200000; ++i) {
+        char text[40] = {};
+        const int digits = 1 + i % 15;
+        std::snprintf(text, sizeof text, "%.*g", digits, uniform(engine) * std::pow(10, i % 7 - 3));
+        double expected = 0;
+        std::from_chars(text, text + sizeof text, expected);
+        ASSERT_EQ(read_real(text), expected) << text;
+    }
+}
+
+TEST(StreamNumbers, in_triples_may_have_blanks_behind_commas_and_nothing_else) {
+    EXPECT_EQ(read_triple("(1,-2.5,3e-05)"), (std::array<double, 3>{1, -2.5, 3e-05}));
+    EXPECT_EQ(read_triple("(1, 2, 3)"), (std::array<double, 3>{1, 2, 3}));
+    EXPECT_TRUE(std::isnan((*read_triple("(nan,inf,-inf)"))[0]));
+    for (const char* wrong :
+         {"", "(", "()", "(1,2)", "(1,2,3,4)", "1,2,3", "(1,2,3) ", "(,2,3)", "(1,2,.)", "(--1,2,3)"})
+        EXPECT_FALSE(read_triple(wrong)) << wrong;
+}
+
+TEST(StreamNumbers, of_corners_are_whole_and_three) {
+    EXPECT_EQ(read_corners("0,1,2"), (std::array<int, 3>{0, 1, 2}));
+    EXPECT_EQ(read_corners("0, 1, 2"), (std::array<int, 3>{0, 1, 2}));
+    for (const char* wrong : {"", "0,1", "0,1,2,3", "0,1,2.5", "0,1,99999999999"})
+        EXPECT_FALSE(read_corners(wrong)) << wrong;
+}
+
+TEST(StreamLines, are_the_same_however_small_the_block_is) {
+    const temporary_folder folder;
+    const std::string file = folder.write("a", "one\r\n\r\nthree is longer\nfour");
+    for (std::size_t block = 1; block < 30; ++block) {
+        stream_lines lines;
+        ASSERT_TRUE(lines.open(file, block));
+        std::vector<std::string> found;
+        for (std::string_view line; lines.next(line);)
+            found.emplace_back(line);
+        EXPECT_EQ(found, (std::vector<std::string>{"one", "", "three is longer", "four"})) << block;
+        EXPECT_EQ(lines.number(), 4U);
+    }
+}
+
+TEST(StreamLines, of_a_missing_file_are_told_and_of_an_empty_one_none) {
+    const temporary_folder folder;
+    stream_lines lines;
+    EXPECT_FALSE(lines.open(folder / "none"));
+    ASSERT_TRUE(lines.open(folder.write("empty", "")));
+    std::string_view line;
+    EXPECT_FALSE(lines.next(line));
+}

@@ -1,0 +1,131 @@
+#include "tools/batch_glb/batch_materials.h"
+
+#include "platform/platform.h"
+
+#include <utility>
+
+namespace {
+
+constexpr std::uint64_t most_bytes_of_a_file = std::uint64_t{1} << 24U;    // of a material
+constexpr std::uint64_t most_bytes_of_a_picture = std::uint64_t{1} << 30U; // as one that can be decoded may have
+
+std::string in_folder(const std::string& folder, const char* inside, std::string_view name) {
+    return folder + platform::path_separator + inside + platform::path_separator + std::string(name);
+}
+
+// Names come from another system at times, so either separator counts.
+std::string_view without_folder(std::string_view path) {
+    const std::size_t last = path.find_last_of("/\\");
+    return last == std::string_view::npos ? path : path.substr(last + 1);
+}
+
+material_look plain(std::string name, std::uint32_t blue_green_red) {
+    material_look look;
+    look.basics.name = name;
+    look.display_name = std::move(name);
+    look.basics.color = blue_green_red;
+    return look;
+}
+
+} // namespace
+
+batch_materials::batch_materials(std::string batch_folder, gltf::glb_writer& to)
+    : folder(std::move(batch_folder)), writer(to) {
+    slots.push_back({.number = none, .look = plain("no material", 0xffffff), .picture_known = true, .texture = {}});
+    slots.push_back({.number = of_edges, .look = plain("edges", 0x202020), .picture_known = true, .texture = {}});
+    by_number[of_edges] = slot_of_edges;
+}
+
+void batch_materials::note(std::string text) {
+    if (said.size() < most_notes)
+        said.push_back(std::move(text));
+}
+
+void batch_materials::declare(int number, std::string_view name) {
+    slot declared{.number = number, .look = {}, .texture = {}};
+    const std::string path = in_folder(folder, "ZynBatch_Materials", file_of_material(name));
+    const auto bytes = platform::read_file(path, most_bytes_of_a_file);
+    std::optional<material_look> look;
+    if (bytes)
+        look = read_material_look({reinterpret_cast<const char*>(bytes->data()), bytes->size()});
+    if (!look)
+        note("there is no material file " + path);
+    declared.look = look ? *std::move(look) : plain(std::string(name), 0xffffff);
+    by_number[number] = slots.size();
+    slots.push_back(std::move(declared));
+}
+
+std::size_t batch_materials::slot_of(int number) const {
+    const auto found = by_number.find(number);
+    return found == by_number.end() ? slot_of_none : found->second;
+}
+
+// The batch's own folders come first: a batch that has been moved still names the place where it was made.
+std::optional<std::vector<std::uint8_t>> batch_materials::bytes_of_picture(const std::string& path) const {
+    const std::string_view name = without_folder(path);
+    const std::string places[] = {in_folder(folder, "Batch_SketchUp_Textures", name),
+                                  in_folder(folder, "ZynBatch_Images", name), path};
+    for (const std::string& place : places)
+        if (const auto bytes = platform::read_file(place, most_bytes_of_a_picture)) {
+            const auto* first = reinterpret_cast<const std::uint8_t*>(bytes->data());
+            return std::vector<std::uint8_t>(first, first + bytes->size());
+        }
+    return std::nullopt;
+}
+
+batch_materials::shown_picture batch_materials::load(const std::string& path) {
+    const auto bytes = bytes_of_picture(path);
+    const auto picture = bytes ? picture_for_glb(*bytes) : std::optional<embedded_picture>();
+    if (!picture) {
+        note((bytes ? "this is no picture that can be shown: " : "there is no picture ") + path);
+        return {};
+    }
+    ++embedded;
+    return {add_texture(writer, *picture, platform::utf8_from_own(without_folder(path))), picture->covers};
+}
+
+void batch_materials::find_picture(slot& of) {
+    of.picture_known = true;
+    const std::string& path = of.look.basics.image_path;
+    if (path.empty())
+        return;
+    const auto [entry, is_new] = by_path.try_emplace(path);
+    if (is_new)
+        entry->second = load(path);
+    of.texture = entry->second.texture;
+    of.covers = entry->second.covers;
+}
+
+bool batch_materials::has_picture(std::size_t at) {
+    slot& asked = slots[at];
+    if (!asked.picture_known)
+        find_picture(asked);
+    return asked.texture.has_value();
+}
+
+std::size_t batch_materials::material_of(std::size_t at, bool two_sided, bool with_picture) {
+    const int which = (two_sided ? 1 : 0) + (with_picture ? 2 : 0);
+    const auto [entry, is_new] = made.try_emplace({at, which});
+    if (!is_new)
+        return entry->second;
+    const slot& from = slots[at];
+    gltf::json material = material_json(from.look, writer);
+    material["name"] = platform::utf8_from_own(from.look.display_name);
+    material["extras"] = {{"material_number", from.number}, {"name", platform::utf8_from_own(from.look.basics.name)}};
+    if (two_sided)
+        material["doubleSided"] = true;
+    if (with_picture && from.texture) {
+        gltf::json& base = material["pbrMetallicRoughness"];
+        // The picture has the colour already; what shows through stays.
+        base["baseColorFactor"] = {1, 1, 1, base["baseColorFactor"][3]};
+        base["baseColorTexture"] = {{"index", *from.texture}};
+        if (material.contains("emissiveFactor")) {
+            material["emissiveFactor"] = {1, 1, 1};
+            material["emissiveTexture"] = {{"index", *from.texture}};
+        }
+        if (!material.contains("alphaMode") && !material.contains("extensions"))
+            set_coverage(material, from.covers);
+    }
+    entry->second = writer.add(gltf::list::materials, material);
+    return entry->second;
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+// The materials that a stream declares, and what becomes of them in a GLB.
+
+#include "tools/batch_glb/material_look.h"
+#include "tools/glb_pictures/embedded_picture.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+class batch_materials {
+public:
+    // Numbers with a meaning of their own.
+    static constexpr int none = 0;
+    static constexpr int of_edges = 1;
+
+    batch_materials(std::string batch_folder, gltf::glb_writer& to);
+
+    // "MATI;": from now on the number means the material of that file name. Its file is read; without one it is white.
+    void declare(int number, std::string_view name);
+
+    // Where the material stands that a number means now; the same for all numbers that mean none.
+    std::size_t slot_of(int number) const;
+    std::size_t declared() const { return slots.size() - first_declared; }
+
+    // Whether the material of that slot has a picture that can be shown; the picture goes into the GLB with the first
+    // question.
+    bool has_picture(std::size_t slot);
+
+    // The material of the GLB. Two-sided ones, and ones with a picture, are materials of their own.
+    std::size_t material_of(std::size_t slot, bool two_sided, bool with_picture);
+
+    std::size_t pictures() const { return embedded; }
+    // In words, a line each, at most `most_notes`.
+    const std::vector<std::string>& notes() const { return said; }
+
+private:
+    static constexpr std::size_t slot_of_none = 0;
+    static constexpr std::size_t slot_of_edges = 1;
+    static constexpr std::size_t first_declared = 2;
+    static constexpr std::size_t most_notes = 20;
+
+    struct slot {
+        int number = 0;
+        material_look look;
+        bool picture_known = false;
+        std::optional<std::size_t> texture;
+        coverage covers = coverage::opaque;
+    };
+    struct shown_picture {
+        std::optional<std::size_t> texture;
+        coverage covers = coverage::opaque;
+    };
+
+    void note(std::string text);
+    void find_picture(slot& of);
+    shown_picture load(const std::string& path);
+    std::optional<std::vector<std::uint8_t>> bytes_of_picture(const std::string& path) const;
+
+    std::string folder;
+    gltf::glb_writer& writer;
+    std::vector<slot> slots;
+    std::unordered_map<int, std::size_t> by_number;
+    std::unordered_map<std::string, shown_picture> by_path;
+    std::map<std::pair<std::size_t, int>, std::size_t> made; // by slot, and which of its four
+    std::size_t embedded = 0;
+    std::vector<std::string> said;
+};
