@@ -27,6 +27,19 @@ constexpr seed seeds[] = {
     {"fuzz_plane_cut", "across_a_star", "KAJJEPTPXP\\PTPXPT@HAC_CAAALDHKLM"},
     {"fuzz_plane_cut", "nothing_left", "H@@@JH@@@JH"},
     {"fuzz_plane_cut", "nearly_touching", "H@@@JH@\xA4\xC0\x42\x43@\xC6\xA1\xE2\x43"},
+    {"fuzz_batch_glb", "a_lamp_of_two_materials",
+     "#;head\r\nMATF;a.OrnMaterial\r\nMTX2;1\r\nMATI;10\r\nMESH;\r\nLITE;0\r\nTLAY;Walls\r\nCULL;0\r\nMPUV;1\r\n"
+     "MATL;10\r\nMAT2;10\r\nNORM;(0,0,1)\r\nUVQ;(0,0,1)\r\nVERT;(0,0,0)\r\nADDV;0\r\nNORM;(0,0,1)\r\nUVQ;(1,0,1)\r\n"
+     "VERT;(1,0,0)\r\nADDV;1\r\nNORM;(0,0,1)\r\nUVQ;(1,1,1)\r\nVERT;(1,1,0)\r\nADDV;2\r\nFACE;0,1,2\r\nMATL;0\r\n"
+     "FACE;2,1,0\r\nEMSH;\r\n#;\r\nEND;\r\n== ZynBatch_Materials/a.qlobj\nMatl: a.OrnMaterial\nTrans: 0.5\nRefr: 1.4\n"
+     "Glow: 2\n== ZynBatch_Lights/light_0.txt\ntype;spot_glow\nbeam_angle;30\nfield_angle;45\nintensity_lumens;850\n"
+     "== zyn_view.txt\nEYE;(0,-4,0)\nTARGETX;0\nTARGETY;1\nTARGETZ;0\nFOV;40\nCAMERATYPE;ortho\nORTHOHEIGHT;2\n"
+     "== option_globals.txt\nbvl_sun_on; 1\nrskp_sun_altitude; 0.5\nrskp_sun_azimuth; 1\n"},
+    {"fuzz_batch_glb", "things_and_lines",
+     "MESH;\nEDGE;1\nTLAY;Edges\nEDG1;(0, 0, 1)\nEDG2;(1, 0, 1)\nEMSH;\nCLPN;(0,0,1)\nCLPP;(0,0,2)\nPLLB;T\nPLNM;O\n"
+     "PLLC;(1,2,3)\nPLDM;inf\nPLRT;45\nPLNT;1\nRPCP;(0,0,0)\nRPCX;(1,1,0)\nRPCY;(0,1,0)\nRPCZ;(0,0,1)\nRPSX;2\nRPCL;a\n"
+     "RPCN;w\nMESH\nTLAY;a\nCULL;1\nMATL;3\nNORM;(nan,0,0)\nVERT;(1e39,0,0)\nADDV;2000000000\n"
+     "FACE;2000000000, 0, 1\nEND;\n"},
     {"fuzz_ini", "empty", ""},
     {"fuzz_ini", "profile",
      "; mine\r\n[Globals]\r\nsvl_name=a b\r\nivl_number = -5 \r\n\r\n[Common]\r\nPhone=\"1\"\r\n"},
