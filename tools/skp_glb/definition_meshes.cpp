@@ -13,22 +13,30 @@ bool is_bare(SUFaceRef face) {
            SUFaceGetBackMaterial(face, &material) != SU_ERROR_NONE;
 }
 
-// The upper right corner of an image in its own space, where its lower left one is the origin.
-gltf::float2 size_of(SUImageRef image) {
-    std::size_t wide = 0;
-    std::size_t high = 0;
-    if (SUImageGetPixelDimensions(image, &wide, &high) == SU_ERROR_NONE)
-        return {static_cast<float>(static_cast<double>(wide) * metres_in_an_inch),
-                static_cast<float>(static_cast<double>(high) * metres_in_an_inch)};
+struct rectangle {
+    gltf::float2 low{};
+    gltf::float2 high{};
+};
+
+float in_metres(double inches) {
+    return static_cast<float>(inches * metres_in_an_inch);
+}
+
+// Where an image lies in its own space, whose plane is z = 0: over the face that its definition holds, or, where none
+// is to be had, over its pixels from the origin.
+rectangle rectangle_of(SUImageRef image) {
     SUComponentDefinitionRef definition = SU_INVALID;
     SUEntitiesRef inside = SU_INVALID;
     SUBoundingBox3D box{};
     SUImageGetDefinition(image, &definition);
-    if (SUComponentDefinitionGetEntities(definition, &inside) != SU_ERROR_NONE ||
-        SUEntitiesGetBoundingBox(inside, &box) != SU_ERROR_NONE || !(box.max_point.x < 1e9))
-        return {};
-    return {static_cast<float>(box.max_point.x * metres_in_an_inch),
-            static_cast<float>(box.max_point.y * metres_in_an_inch)};
+    if (SUComponentDefinitionGetEntities(definition, &inside) == SU_ERROR_NONE &&
+        SUEntitiesGetBoundingBox(inside, &box) == SU_ERROR_NONE && box.min_point.x < box.max_point.x)
+        return {{in_metres(box.min_point.x), in_metres(box.min_point.y)},
+                {in_metres(box.max_point.x), in_metres(box.max_point.y)}};
+    std::size_t wide = 0;
+    std::size_t high = 0;
+    SUImageGetPixelDimensions(image, &wide, &high);
+    return {{}, {in_metres(static_cast<double>(wide)), in_metres(static_cast<double>(high))}};
 }
 
 } // namespace
@@ -75,9 +83,9 @@ const model_mesh& definition_meshes::mesh_of(SUImageRef image) {
     model_mesh& result = entry->second;
     if (!is_new)
         return result;
-    const auto [width, height] = size_of(image);
+    const auto [low, high] = rectangle_of(image);
     gltf::primitive_data quad;
-    quad.positions = {{0, 0, 0}, {width, 0, 0}, {width, height, 0}, {0, height, 0}};
+    quad.positions = {{low[0], low[1], 0}, {high[0], low[1], 0}, {high[0], high[1], 0}, {low[0], high[1], 0}};
     quad.normals.assign(4, {0, 0, 1});
     quad.coordinates = {{0, 1}, {1, 1}, {1, 0}, {0, 0}};
     quad.indices = {0, 1, 2, 0, 2, 3};
