@@ -1,7 +1,10 @@
 #include "tests/batch/batch_runner.h"
 
 #include "image/decode_picture.h"
-#include "tests/batch/stream_grammar.h"
+#include "tests/support/files_in_memory.h"
+#include "tools/batch_check/check_batch.h"
+#include "tools/batch_check/check_stream.h"
+#include "tools/batch_check/first_screen.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -12,6 +15,7 @@
 namespace {
 
 constexpr std::string_view first_line_of_stream = "#;Tessaline Geometry";
+constexpr const char* usual_stream = "batch_file.txt";
 
 std::string bytes_of(const std::filesystem::path& file) {
     std::ostringstream bytes;
@@ -75,6 +79,15 @@ std::string copy_of(const batch& found, const std::string& case_name) {
     std::filesystem::create_directories(kept);
     std::filesystem::copy(found.folder(), kept, std::filesystem::copy_options::recursive);
     return kept;
+}
+
+// Fails the running test unless these codes are found and no others, notes aside.
+void expect_these(const std::set<batch_check::code>& expected, const batch_check::findings& found) {
+    std::set<batch_check::code> codes;
+    for (const batch_check::finding& one : found.kept())
+        if (batch_check::entry_of(one.what).weight != batch_check::severity::note)
+            codes.insert(one.what);
+    EXPECT_TRUE(codes == expected) << "found:\n" << batch_check::finding_lines(found);
 }
 
 } // namespace
@@ -152,7 +165,7 @@ program_start batch::start_with(const std::vector<std::string>& arguments, const
 program_result batch::run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const {
     program_result result = run_program(start_with(arguments, current_folder));
     EXPECT_EQ(result.end, "");
-    expect_streams(*this);
+    expect_findings(*this);
     return result;
 }
 
@@ -211,17 +224,20 @@ std::string difference_from(const encoded_picture& wanted, std::string_view text
     return {};
 }
 
-void expect_streams(const batch& found) {
-    for (const auto& [name, bytes] : found.files()) {
-        if (!bytes.starts_with(first_line_of_stream))
+void expect_findings(const batch& found) {
+    const files_by_name files = found.files();
+    for (const auto& [name, bytes] : files) {
+        if (name == usual_stream || !bytes.starts_with(first_line_of_stream))
             continue;
-        const std::optional<grammar_fault> fault = first_grammar_fault(bytes);
-        const auto line_count = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-        if (!found.breaks_off())
-            EXPECT_EQ(fault, std::nullopt) << name;
-        else
-            EXPECT_TRUE(fault && fault->line == line_count + 1) << name << " does not just break off";
+        batch_check::findings seen;
+        files_in_memory::bytes_in_memory stream(bytes);
+        batch_check::check_stream(stream, name, seen);
+        expect_these(found.expected_codes(), seen);
     }
+    const auto usual = files.find(usual_stream);
+    if (usual != files.end() && usual->second.starts_with(first_line_of_stream))
+        expect_these(found.expected_codes(),
+                     batch_check::check_batch(*batch_check::folder_on_disk(found.folder())).found);
 }
 
 void expect_batch(const batch& found, const std::string& case_name, const std::set<std::string>& folders) {
@@ -237,7 +253,7 @@ void expect_batch(const batch& found, const std::string& case_name, const std::s
     for (const std::string& one : differences(expected, files))
         ADD_FAILURE() << one;
     EXPECT_EQ(found.folders(), folders);
-    expect_streams(found);
+    expect_findings(found);
     if (testing::Test::HasFailure())
         GTEST_LOG_(INFO) << "what was found is in " << copy_of(found, case_name);
 }

@@ -8,6 +8,7 @@
 #include "sketchup/skp/writer/classic_writer.h"
 #include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
+#include "tools/batch_check/codes.h"
 
 #include <map>
 #include <set>
@@ -61,11 +62,11 @@ public:
     void expect_file(const std::string& inside, std::string_view bytes);
     void expect_picture(const std::string& inside, encoded_picture wanted);
 
-    // The next runs end before their stream does: it must be right as far as it goes.
-    void expect_break() { may_break_off = true; }
+    // What the checker must find in the batch that the next runs leave; else it must find nothing, notes aside.
+    void expect_finding(batch_check::code what) { codes_to_find.insert(what); }
 
-    // Runs the program on "geometry.qlm", with these arguments behind its full name. Every stream that a run leaves in
-    // the batch folder must follow the grammar; otherwise the running test fails.
+    // Runs the program on "geometry.qlm", with these arguments behind its full name. The running test fails if the
+    // checker finds anything else in what a run leaves than it must.
     program_result run(const std::vector<std::string>& more_arguments = {}) const;
     // Runs it with these arguments alone, from that folder.
     program_result run_with(const std::vector<std::string>& arguments, const std::string& current_folder) const;
@@ -83,8 +84,8 @@ public:
     std::set<std::string> folders() const;
     // What put_model wrote last: a run must leave it as it is.
     const files_by_name& models() const { return written_models; }
-    // What was told with expect_break, put_mark, expect_file and expect_picture.
-    bool breaks_off() const { return may_break_off; }
+    // What was told with expect_finding, put_mark, expect_file and expect_picture.
+    const std::set<batch_check::code>& expected_codes() const { return codes_to_find; }
     const std::map<std::string, std::string>& marks() const { return golden_marks; }
     const files_by_name& expected_files() const { return files_to_find; }
     const std::map<std::string, encoded_picture>& expected_pictures() const { return pictures_to_find; }
@@ -97,7 +98,7 @@ private:
     std::map<std::string, std::string> golden_marks; // "@BATCH@" among them
     files_by_name files_to_find;
     std::map<std::string, encoded_picture> pictures_to_find;
-    bool may_break_off = false;
+    std::set<batch_check::code> codes_to_find;
     std::string date = "1000000000"; // 9 September 2001, 01:46:40
     std::string zone = "UTC";
 };
@@ -110,9 +111,9 @@ std::vector<std::string> differences(const files_by_name& expected, const files_
 // What is wrong with the bytes of a picture; empty if nothing is.
 std::string difference_from(const encoded_picture& wanted, std::string_view bytes);
 
-// Fails the running test unless each stream in the batch folder is a whole and right one, or, if runs may break off,
-// right as far as it goes.
-void expect_streams(const batch& found);
+// Fails the running test unless the checker finds what it must and nothing else, notes aside: in the batch folder if it
+// holds a stream of the usual name, and in every stream of another name that lies there.
+void expect_findings(const batch& found);
 
 // Fails the running test unless the batch folder holds, byte for byte, the golden files of `case_name`, the models that
 // were put there, what else is expected, and these folders. In golden files "@BATCH@" stands for the full name of the

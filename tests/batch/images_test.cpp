@@ -78,6 +78,7 @@ TEST(ImagesBatch, those_that_are_hidden_leave_nothing) {
 
 TEST(ImagesBatch, a_copy_that_lies_ready_is_taken_but_for_a_png_with_alpha) {
     batch b;
+    b.expect_finding(batch_check::code::picture_damaged);
     model_builder m;
     add_image(m, plain_jpeg, "Tree.jpg");
     add_image(m, alpha_png, "Sign.png", {100, 0, 0});

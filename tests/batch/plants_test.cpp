@@ -84,6 +84,7 @@ TEST(PlantsBatch, chance_is_the_same_in_every_run) {
 
 TEST(PlantsBatch, a_plant_with_data_of_the_old_form_is_shown_and_placed_without_a_file) {
     batch b;
+    b.expect_finding(batch_check::code::plant_missing);
     model_builder m;
     m.root().instance(add_plant(m, "old.plant", {{"ornplant_name", "old.plant"}, {"ornplant_data", "rubbish"}}));
     set_random_height(m, 0);

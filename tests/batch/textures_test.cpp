@@ -143,6 +143,8 @@ TEST(TexturesBatch, a_face_that_is_distorted_on_one_side_shows_two_materials) {
 // Two of the names are read as escaped once and then count as escaped already; the first is too long.
 TEST(TexturesBatch, a_name_that_no_file_can_have_costs_the_files_alone) {
     batch b;
+    b.expect_finding(batch_check::code::material_missing);
+    b.expect_finding(batch_check::code::orphan);
     model_builder m;
     const std::string long_name(500, 'x');
     add_square(m, 0, long_name, png, "wall.png");
@@ -164,6 +166,8 @@ TEST(TexturesBatch, a_name_that_no_file_can_have_costs_the_files_alone) {
 // the materials, and neither has a file outside the folders.
 TEST(TexturesBatch, a_name_from_a_model_never_leaves_the_folders) {
     batch b;
+    b.expect_finding(batch_check::code::material_missing);
+    b.expect_finding(batch_check::code::orphan);
     model_builder m;
     add_square(m, 0, "%252/../../../away", png, "../../wall.png");
     add_square(m, 10, "%252\\..\\away", png, "..\\..\\wall.png");
@@ -179,6 +183,7 @@ TEST(TexturesBatch, a_name_from_a_model_never_leaves_the_folders) {
 
 TEST(TexturesBatch, a_picture_that_cannot_be_written_leaves_the_material_textured) {
     batch b;
+    b.expect_finding(batch_check::code::picture_missing);
     model_builder m;
     add_square(m, 0, "Header", {'x'}, "wall.png");
     picture_bytes cut = png;

@@ -19,11 +19,21 @@ std::string with_slashes(std::string_view name) {
     return text;
 }
 
-// Files of materials that are edited by hand: no run takes them away.
-bool is_kept_by_every_run(std::string_view file) {
-    constexpr std::string_view ground = "ZynBatch_Materials/Zyn_Ground_Plane.";
-    constexpr std::string_view standard = "ZynBatch_Materials/Zyn%20Default%20Color.";
-    return file.starts_with(ground) || file.starts_with(standard);
+// Whether each run takes away a file of this name before it begins.
+bool is_taken_away(std::string_view folder, std::string_view name) {
+    if (folder != materials_folder)
+        return is_one_of(folder, emptied_folders);
+    const bool is_of_a_material = name.ends_with("qlobj") || name.ends_with("OrnMaterial");
+    const auto names_it = [name](std::string_view kept) { return name.find(kept) != std::string_view::npos; };
+    return is_of_a_material && std::none_of(kept_materials.begin(), kept_materials.end(), names_it);
+}
+
+// Whether something other than a run of this kind makes a file of this name: a parent, or who edits materials by hand.
+bool is_known(std::string_view folder, std::string_view name) {
+    if (folder.empty())
+        return is_one_of(name, known_files);
+    return folder == images_folder || (folder == materials_folder && !is_taken_away(folder, name) &&
+                                       (name.ends_with("qlobj") || name.ends_with("OrnMaterial")));
 }
 
 } // namespace
@@ -66,12 +76,12 @@ void batch_contents::report_rest(bool knows_references, findings& found) const {
     for (const auto& [file, size] : sizes) {
         const std::size_t slash = file.find('/');
         const std::string_view folder = std::string_view(file).substr(0, slash == std::string::npos ? 0 : slash);
-        if (folder.empty() && file == mark_of_a_running_run)
+        const std::string_view name = std::string_view(file).substr(slash == std::string::npos ? 0 : slash + 1);
+        if (folder.empty() && name == mark_of_a_running_run)
             found.add(code::batch_unfinished, file, 0, "a run has not come to its end, or still goes on");
-        if (referred.contains(file) || is_kept_by_every_run(file) ||
-            (folder.empty() ? is_one_of(file, known_files) : folder == images_folder))
+        if (referred.contains(file) || is_known(folder, name))
             continue;
-        if (!is_one_of(folder, emptied_folders))
+        if (!is_taken_away(folder, name))
             found.add(code::extra_file, file, 0, "no run and no parent is known to make this file");
         else if (knows_references)
             found.add(code::orphan, file, 0, "nothing refers to this file");

@@ -14,9 +14,13 @@ inline constexpr std::string_view images_folder = "ZynBatch_Images";
 inline constexpr std::string_view lights_folder = "ZynBatch_Lights";
 inline constexpr std::string_view plants_folder = "Plants";
 
-// Those that each run empties: what nothing refers to there is no part of the batch.
+// Those that each run empties: what nothing refers to there is no part of the batch. Of materials the files of the
+// program's own two kinds are taken away alone, and not those that have one of these texts in their names.
 inline constexpr std::array emptied_folders = {materials_folder, textures_folder, lights_folder,
                                                std::string_view("Batch_OrnTexture_Files")};
+
+inline constexpr std::array kept_materials = {std::string_view("Zyn_Ground_Plane"),
+                                              std::string_view("Zyn%20Default%20Color")};
 
 inline constexpr std::string_view mark_of_a_running_run = "tessaline-run.json.part";
 

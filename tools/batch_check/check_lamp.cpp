@@ -121,14 +121,14 @@ private:
         constexpr double widest_field = 180; // degrees; given to a lamp whose beam is wider than its field
         if (number("beam_angle;") > number("field_angle;") && number("field_angle;") != widest_field)
             place.report(code::lamp_range, line_of("field_angle;"), "the beam is wider than the field");
+        // The reverse does not hold: a face whose type is bulb or spot has a block, and the location of that type.
         const std::string_view type = value("type;");
-        const bool is_direct_type = type == "bulb" || type == "spot";
-        if (is_direct != is_direct_type)
-            place.report(code::lamp_place, line_of("type;"),
-                         is_direct ? "a direct light is a bulb or a spot" : "a bulb or a spot is a direct light");
+        const bool has_location = type == "bulb" || type == "spot";
+        if (is_direct && !has_location)
+            place.report(code::lamp_place, line_of("type;"), "a direct light is a bulb or a spot");
         const auto location = six_decimal_triple(value("location;"));
-        if (!is_direct && location && !is_zero(*location))
-            place.report(code::lamp_place, line_of("location;"), "a lamp with a block of its own has no location");
+        if (!has_location && location && !is_zero(*location))
+            place.report(code::lamp_place, line_of("location;"), "a lamp that is no bulb and no spot has no location");
     }
 
     static std::size_t line_of(std::string_view key) {

@@ -34,7 +34,7 @@ void put_square(batch& b, const std::string& inside) {
 
 terminal_outcome answered(const batch& b, const std::vector<terminal_exchange>& talk) {
     terminal_outcome outcome = run_on_terminal(b.start_with({}, b.folder()), talk);
-    expect_streams(b);
+    expect_findings(b);
     return outcome;
 }
 
@@ -126,7 +126,7 @@ TEST(Terminal, a_model_that_is_missing_is_told_of_and_nothing_is_written) {
 TEST(Terminal, arguments_without_a_model_are_answered_with_the_usage_and_no_question) {
     batch b;
     const terminal_outcome outcome = run_on_terminal(b.start_with({"-is_animation"}, b.folder()), {});
-    expect_streams(b);
+    expect_findings(b);
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.shown, testing::StartsWith("usage: tessaline INPUT OUTPUT"));
     EXPECT_THAT(outcome.shown, Not(HasSubstr(model_question)));
