@@ -67,13 +67,13 @@ public:
         for (std::size_t i = 0; i < forms.size(); ++i) {
             const bool is_there = i < text.line_count() && text.line(i).starts_with(forms[i].key);
             if (!is_there || (forms[i].form == value_form::fixed && text.line(i) != forms[i].key)) {
-                place.report(code::lamp_line, i, quoted(forms[i].key) + " must stand here");
+                place.report(code::lamp_line, i, in_quotes(forms[i].key) + " must stand here");
                 return {};
             }
             check_value(i, text.line(i).substr(forms[i].key.size()));
         }
         if (text.line_count() > forms.size())
-            place.report(code::lamp_line, forms.size(), "one line too many: " + quoted(text.line(forms.size())));
+            place.report(code::lamp_line, forms.size(), "one line too many: " + in_quotes(text.line(forms.size())));
         compare_lines(is_direct);
         const bool gives_light = number("intensity;") > 0 || number("intensity_lumens;") > 0;
         if (!gives_light)
@@ -112,9 +112,9 @@ private:
             break;
         }
         if (!is_number)
-            place.report(code::lamp_number, index, "no value in its form: " + quoted(text.line(index)));
+            place.report(code::lamp_number, index, "no value in its form: " + in_quotes(text.line(index)));
         else if (!is_in_range)
-            place.report(code::lamp_range, index, "the value is outside its range: " + quoted(text.line(index)));
+            place.report(code::lamp_range, index, "the value is outside its range: " + in_quotes(text.line(index)));
     }
 
     void compare_lines(bool is_direct) const {

@@ -82,13 +82,13 @@ public:
                 content.add("\n");
             }
             if (next_form == forms.size()) {
-                place.report(code::material_line, i, "one line too many: " + quoted(text.line(i)));
+                place.report(code::material_line, i, "one line too many: " + in_quotes(text.line(i)));
                 break;
             }
             take_line(i);
         }
         if (next_form < forms.size() && !is_out_of_order)
-            place.report(code::material_line, text.line_count(), quoted(forms[next_form].key) + " must stand here");
+            place.report(code::material_line, text.line_count(), in_quotes(forms[next_form].key) + " must stand here");
         compare_lines(declared_name);
         material_facts facts;
         facts.content = content.digest();
@@ -104,7 +104,7 @@ private:
         if (!is_of(line, forms[next_form])) {
             if (!is_out_of_order)
                 place.report(code::material_line, index,
-                             quoted(forms[next_form].key) + " must stand here: " + quoted(line));
+                             in_quotes(forms[next_form].key) + " must stand here: " + in_quotes(line));
             is_out_of_order = true;
             std::size_t own = next_form;
             while (own < forms.size() && !is_of(line, forms[own]))
@@ -133,8 +133,8 @@ private:
             return;
         const bool is_number = number || (!is_whole && is_not_finite(value));
         place.report(is_number ? code::material_range : code::material_number, index,
-                     is_number ? "the value is outside its range: " + quoted(text.line(index))
-                               : "no number in its form: " + quoted(text.line(index)));
+                     is_number ? "the value is outside its range: " + in_quotes(text.line(index))
+                               : "no number in its form: " + in_quotes(text.line(index)));
     }
 
     static bool is_in_range(double value, value_form form) {
@@ -144,7 +144,7 @@ private:
 
     void compare_lines(const std::string& declared_name) {
         if (const std::string name = value("Matl: "); !name.empty() && name != declared_name)
-            place.report(code::material_name, 0, "the stream calls it " + quoted(declared_name));
+            place.report(code::material_name, 0, "the stream calls it " + in_quotes(declared_name));
         if (value("Disp: ") != value("Orig: "))
             place.report(code::material_disagrees, line_of["Orig: "], "\"Disp\" and \"Orig\" are one name");
         compare_colors();

@@ -76,15 +76,15 @@ void check_option_file(const batch_files& files, findings& found) {
         const std::string_view line = text->line(i);
         const std::size_t semicolon = line.find("; ");
         if (semicolon == std::string_view::npos || semicolon == 0 || types.find(line[0]) == std::string_view::npos) {
-            found.add(code::option_line, file, i + 1, "no name with a value: " + quoted(line));
+            found.add(code::option_line, file, i + 1, "no name with a value: " + in_quotes(line));
             continue;
         }
         const std::string_view name = line.substr(0, semicolon);
         if (name <= name_before)
-            found.add(code::option_order, file, i + 1, quoted(name) + " stands behind " + quoted(name_before));
+            found.add(code::option_order, file, i + 1, in_quotes(name) + " stands behind " + in_quotes(name_before));
         name_before = name;
         if (!is_value(name[0], line.substr(semicolon + 2)))
-            found.add(code::option_value, file, i + 1, "the value is not spelt as its name asks: " + quoted(line));
+            found.add(code::option_value, file, i + 1, "the value is not spelt as its name asks: " + in_quotes(line));
     }
 }
 

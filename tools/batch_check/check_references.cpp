@@ -19,7 +19,7 @@ void reference_check::check_materials() {
     for (const declared_material& material : report.stream.materials) {
         if (!material.is_used && report.stream.is_whole)
             report.found.add(code::material_unused, stream_file_name, material.line,
-                             quoted(material.name) + " is on no side");
+                             in_quotes(material.name) + " is on no side");
         check_material_of(material);
     }
 }
@@ -29,7 +29,7 @@ void reference_check::check_material_of(const declared_material& material) {
     const auto facts = contents.has(file) ? check_material(files, file, material.name, report.found) : std::nullopt;
     if (!facts) {
         report.found.add(code::material_missing, stream_file_name, material.line,
-                         quoted(material.name) + " has no file");
+                         in_quotes(material.name) + " has no file");
         return;
     }
     contents.refer_to(file);
@@ -38,7 +38,7 @@ void reference_check::check_material_of(const declared_material& material) {
     const std::string& equal = first_of_content(material_of_content, facts->content, file);
     if (equal != file) {
         ++report.equal_materials;
-        report.found.add(code::material_equal, file, 0, "says what " + quoted(equal) + " says, but for the name");
+        report.found.add(code::material_equal, file, 0, "says what " + in_quotes(equal) + " says, but for the name");
     }
     if (!facts->image_path.empty())
         check_picture_of(file, facts->image_path, facts->image_line);
@@ -49,7 +49,7 @@ void reference_check::check_material_of(const declared_material& material) {
 void reference_check::check_picture_of(const std::string& material_file, const std::string& path, std::size_t line) {
     const auto place = contents.place_of(path, {textures_folder, images_folder});
     if (!place || !contents.has(place->file)) {
-        report.found.add(code::picture_missing, material_file, line, "there is no picture " + quoted(path));
+        report.found.add(code::picture_missing, material_file, line, "there is no picture " + in_quotes(path));
         return;
     }
     warn_of_other_folder(*place, material_file, line);
@@ -70,7 +70,7 @@ void reference_check::compare_picture(const std::string& file) {
     if (equal == file)
         return;
     report.pictures.repeated_bytes += facts->bytes;
-    report.found.add(code::picture_equal, file, 0, "has the bytes of " + quoted(equal));
+    report.found.add(code::picture_equal, file, 0, "has the bytes of " + in_quotes(equal));
 }
 
 void reference_check::check_lamps() {
@@ -94,7 +94,7 @@ void reference_check::check_plants() {
         const auto place = contents.place_of(plant.name, {plants_folder});
         if (!place || !contents.has(place->file)) {
             report.found.add(code::plant_missing, stream_file_name, plant.line,
-                             "there is no file " + quoted(plant.name));
+                             "there is no file " + in_quotes(plant.name));
             continue;
         }
         contents.refer_to(place->file);
@@ -107,7 +107,7 @@ void reference_check::check_ground_covers() {
         const auto place = contents.place_of(cover.name, {plants_folder});
         if (!place || !contents.has(place->file)) {
             report.found.add(place ? code::ground_cover_missing : code::ground_cover_elsewhere, stream_file_name,
-                             cover.line, "there is no file " + quoted(cover.name) + " in the batch");
+                             cover.line, "there is no file " + in_quotes(cover.name) + " in the batch");
             continue;
         }
         contents.refer_to(place->file);
@@ -119,7 +119,7 @@ void reference_check::warn_of_other_folder(const batch_contents::place& place, c
                                            std::size_t line) {
     if (!place.is_in_here)
         report.found.add(code::other_folder, file, line,
-                         "the full name of " + quoted(place.file) + " leads to another folder");
+                         "the full name of " + in_quotes(place.file) + " leads to another folder");
 }
 
 const std::string& reference_check::first_of_content(std::unordered_map<std::string, std::string>& first,

@@ -40,7 +40,7 @@ std::size_t start_of_full_name(std::string_view text) {
 
 } // namespace
 
-std::string quoted(std::string_view text) {
+std::string in_quotes(std::string_view text) {
     constexpr std::size_t most_bytes = 80;
     const std::size_t start = start_of_full_name(text);
     const std::size_t separator = text.find_last_of("/\\");

@@ -44,6 +44,6 @@ private:
 
 // A text as a finding quotes it: in quotation marks, without control characters, cut to some 80 bytes, and with the
 // last part alone of what is a full name, so that a report does not depend on where a folder lies.
-std::string quoted(std::string_view text);
+std::string in_quotes(std::string_view text);
 
 } // namespace batch_check

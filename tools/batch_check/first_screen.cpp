@@ -1,11 +1,7 @@
 #include "tools/batch_check/first_screen.h"
 
-#include "tools/batch_check/batch_folders.h"
-#include "tools/batch_reading/material_reader.h"
-
 #include <algorithm>
 #include <array>
-#include <cstdarg>
 #include <cstdio>
 
 namespace batch_check {
@@ -48,7 +44,7 @@ std::string box_of(const stream_facts& stream) {
 }
 
 std::string lamps_of(const batch_report& report) {
-    std::string text = counted(report.stream.lamps.size(), "lamp");
+    std::string text = std::to_string(report.stream.lamps.size());
     const char* between = ": ";
     for (const auto& [type, count] : report.lamps_by_type) {
         text.append(between).append(std::to_string(count)).append(" ").append(type.empty() ? "without type" : type);
@@ -91,6 +87,15 @@ std::vector<const declared_material*> largest_materials(const stream_facts& stre
     return all;
 }
 
+// Without the ending that all have.
+std::string name_of(const declared_material& material) {
+    constexpr std::string_view ending = ".OrnMaterial";
+    std::string name = material.name;
+    if (name.ends_with(ending))
+        name.resize(name.size() - ending.size());
+    return name;
+}
+
 std::string why_is_it_large(const batch_report& report) {
     constexpr std::size_t shown_materials = 5;
     const stream_facts& stream = report.stream;
@@ -106,7 +111,7 @@ std::string why_is_it_large(const batch_report& report) {
         what = "";
     }
     for (const declared_material* material : largest_materials(stream, shown_materials)) {
-        text += line(what, std::to_string(material->triangles) + " of " + material->name);
+        text += line(what, std::to_string(material->triangles) + " of " + name_of(*material));
         what = "";
     }
     return text;

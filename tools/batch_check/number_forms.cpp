@@ -49,6 +49,13 @@ const char* read_below_one(const char* at, const char* end, double& value) {
     return last;
 }
 
+// Whether the number is spelt so.
+bool is_spelt(double value, std::string_view text) {
+    std::array<char, 32> spelt{};
+    std::snprintf(spelt.data(), spelt.size(), "%.9g", value);
+    return text == spelt.data();
+}
+
 // start: of the number; at: the "e" behind one digit and perhaps a fraction.
 const char* read_exponent(const char* start, const char* at, const char* end, double& value) {
     ++at;
@@ -64,7 +71,10 @@ const char* read_exponent(const char* start, const char* at, const char* end, do
     if (!is_spelt_right || !is_needed)
         return nullptr;
     const auto [behind, error] = std::from_chars(start, at, value);
-    return error == std::errc() && behind == at ? at : nullptr;
+    if (error != std::errc() || behind != at)
+        return nullptr;
+    constexpr int most_of_full_precision = 300; // beyond, numbers lie so wide apart that nine digits may name none
+    return exponent <= most_of_full_precision || is_spelt(value, std::string_view(start, at)) ? at : nullptr;
 }
 
 // A number of the form of "%.9g" at the beginning of a text. Gives the place behind it; null if there is none.

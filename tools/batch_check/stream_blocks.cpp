@@ -7,7 +7,7 @@ namespace batch_check {
 void stream_check::take_stray_close(std::string_view close) {
     if (block_seen) {
         if (!lines.take_if(close))
-            lines.report(code::stream_stray_close, quoted(close) + " must stand ahead of this");
+            lines.report(code::stream_stray_close, in_quotes(close) + " must stand ahead of this");
     } else if (lines.at(close)) {
         lines.report(code::stream_stray_close, "no block was opened before");
         lines.skip();

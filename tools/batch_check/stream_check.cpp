@@ -37,7 +37,7 @@ void stream_check::take_stream() {
 void stream_check::take_head() {
     const auto take = [this](std::string_view line) {
         if (!lines.at(line))
-            lines.refuse(code::stream_head, quoted(line) + " must stand here");
+            lines.refuse(code::stream_head, in_quotes(line) + " must stand here");
         lines.skip();
     };
     take("#;Tessaline Geometry, new extractor");

@@ -88,11 +88,11 @@ int stream_check::take_edge_block(int most_edges) {
 void stream_check::take_beam(int first) {
     std::array<triple, 4> normals{};
     for (triple& normal : normals) {
+        const std::string line_of_normal(lines.line());
         for (int corner = 0; corner < 4; ++corner) {
-            const triple read = lines.take_unit_or_zero("NORM;");
-            if (corner != 0 && read != normal)
-                lines.report(code::stream_edges, "the corners of a side have one normal; see the line before this");
-            normal = read;
+            if (lines.at_tag("NORM;") && !lines.at(line_of_normal))
+                lines.report(code::stream_edges, "the corners of a side have one normal");
+            normal = lines.take_unit_or_zero("NORM;");
             take_position();
             lines.take_this_number("ADDV;", first + corner, code::stream_vertex_number);
         }

@@ -28,7 +28,7 @@ int stream_check::take_image(int first) {
         if (!lines.at_tag("UVQ;"))
             lines.refuse_without(uvq);
         if (!lines.at(uvq))
-            lines.report(code::stream_texture_coordinates, quoted(uvq) + " must stand here");
+            lines.report(code::stream_texture_coordinates, in_quotes(uvq) + " must stand here");
         lines.skip();
         take_position();
         lines.take_this_number("ADDV;", number++, code::stream_vertex_number);

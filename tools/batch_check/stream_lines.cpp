@@ -82,7 +82,7 @@ triple stream_lines::take_unit_or_zero(std::string_view tag, std::string_view se
 }
 
 void stream_lines::report(code what, const std::string& reason) {
-    found.add(what, file, number(), at_end() ? reason : reason + ": " + quoted(line()));
+    found.add(what, file, number(), at_end() ? reason : reason + ": " + in_quotes(line()));
 }
 
 void stream_lines::refuse(code what, const std::string& reason) {
@@ -101,7 +101,7 @@ void stream_lines::refuse_order(const std::string& reason) {
 }
 
 void stream_lines::refuse_without(std::string_view text) {
-    refuse_order(quoted(text) + " must stand here");
+    refuse_order(in_quotes(text) + " must stand here");
 }
 
 } // namespace batch_check

@@ -141,7 +141,7 @@ void stream_check::take_this_triangle(const std::string& line) {
     if (!lines.at_tag("FACE;"))
         lines.refuse_without(line);
     if (!lines.at(line))
-        lines.report(code::stream_corner, quoted(line) + " must stand here");
+        lines.report(code::stream_corner, in_quotes(line) + " must stand here");
     lines.skip();
     ++facts.triangles;
 }
