@@ -61,6 +61,11 @@ bool clear_but(const std::string& folder, std::string_view kept) {
     return is_clear;
 }
 
+// Put aside by a run, or what is left of that.
+bool is_one_of_ours(const std::string& folder) {
+    return is_real_folder(folder) && (has_report(folder) || has_mark(folder) || is_empty(folder));
+}
+
 std::string parent_of(const std::string& name) {
     const std::size_t separator = name.rfind(platform::path_separator);
     return separator == std::string::npos || separator == 0 ? std::string() : name.substr(0, separator);
@@ -98,8 +103,8 @@ std::string batch_place::recover(const run_clock& clock) {
 }
 
 batch_place::stepped batch_place::recover_once() {
-    if (!is_real_folder(aside) || !(has_report(aside) || has_mark(aside) || is_empty(aside)))
-        return {}; // there is nothing of ours
+    if (!is_one_of_ours(aside))
+        return {};
     const bool is_whole = has_report(aside);
     if (is_whole && !(is_real_folder(name) && has_report(name)))
         return restore();
@@ -163,6 +168,9 @@ void batch_place::give_back() {
 }
 
 batch_place::stepped batch_place::claim_once() {
+    if (!has_put_aside)
+        if (stepped result = recover_once(); result.next == step::again || !result.complaint.empty())
+            return result;
     if (platform::is_symbolic_link(name))
         return {step::done, "is a link"};
     if (!platform::exists(name))
@@ -178,10 +186,12 @@ batch_place::stepped batch_place::claim_old_folder() {
     if (has_report(name))
         return put_aside();
     if (!platform::list_folder(name))
-        return {step::done, "cannot be read"};
-    if (!is_empty(name))
-        return {step::done, "exists, is not empty and holds no " + std::string(report_name)};
-    return make_mark();
+        return {platform::exists(name) ? step::done : step::again, "cannot be read"};
+    if (is_empty(name))
+        return make_mark();
+    if (has_mark(name) || has_report(name)) // since then
+        return {step::again, {}};
+    return {step::done, "exists, is not empty and holds no " + std::string(report_name)};
 }
 
 batch_place::stepped batch_place::take_over_unfinished() {
@@ -202,8 +212,12 @@ batch_place::stepped batch_place::take_over_unfinished() {
 
 batch_place::stepped batch_place::put_aside() {
     const auto report = finished_report();
+    if (!report && (has_mark(name) || !has_report(name))) // since then
+        return {step::again, {}};
     if (!report || !is_report(*report))
         return {step::done, "holds a " + std::string(report_name) + " that is none of this program's"};
+    if (is_one_of_ours(aside)) // of a run that removes it
+        return {step::again, {}};
     if (name_is_taken(aside))
         return {step::done, "cannot be put aside: " + aside + " exists"};
     switch (old_report.take(*this / report_name, hold_kind::old_file)) {

@@ -61,6 +61,13 @@ std::string settled_folder(const std::string& name) {
     return full;
 }
 
+std::string complaint_about_report_file(const run_options& options) {
+    const std::string inside = settled_folder(options.folder) + platform::path_separator;
+    if (options.json.empty() || !platform::absolute_name(options.json).starts_with(inside))
+        return {};
+    return options.json + " lies in the batch folder, which is made anew.";
+}
+
 std::string complaint_about_request(const run_options& options, const std::string& folder) {
     if (std::string complaint = complaint_about_folder(folder); !complaint.empty())
         return complaint;

@@ -16,6 +16,9 @@ std::string settled_folder(const std::string& name);
 // Why no run can be made of the options, in a sentence; empty if one can. folder: settled.
 std::string complaint_about_request(const run_options& options, const std::string& folder);
 
+// The same for the file of --json alone, which is opened before anything else.
+std::string complaint_about_report_file(const run_options& options);
+
 // Puts the settings behind what the option file holds, where they count before it; makes the file if there are any. In
 // words why that could not be done; empty if it was.
 std::string add_settings(const std::string& option_file, const std::map<std::string, std::string>& settings);

@@ -3,6 +3,7 @@
 #include "platform/child_process.h"
 #include "platform/platform.h"
 #include "tools/command_line/answers.h"
+#include "tools/single_run/run_inputs.h"
 #include "tools/single_run/run_once.h"
 
 #include <new>
@@ -42,6 +43,10 @@ int run_with(const run_options& options) {
     const platform::end_requests noted;
     platform::file json;
     run_report report;
+    if (report.sentence = complaint_about_report_file(options); !report.sentence.empty()) {
+        report.status = run_status::usage;
+        return told(report);
+    }
     if (!options.json.empty() && !json.open(options.json, platform::open_mode::write)) {
         report.status = run_status::not_written;
         report.sentence = "The report cannot be written to " + options.json + ": " + json.failure() + '.';

@@ -184,6 +184,7 @@ TEST_F(PlainRun, a_model_or_file_inside_the_batch_folder_is_refused_before_anyth
     const auto before = files_in("batch");
     EXPECT_EQ(run_program(start_of({"--force", here / "batch/geometry.qlm", here / "batch"})).status, 2);
     EXPECT_EQ(run_with({"--force", "--with", here / "batch/batch_file.txt"}).status, 2);
+    EXPECT_EQ(run_with({"--force", "--json", here / "batch/tessaline-run.json"}).status, 2);
     EXPECT_EQ(files_in("batch"), before);
 }
 

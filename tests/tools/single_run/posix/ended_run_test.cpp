@@ -3,6 +3,8 @@
 #include "tests/tools/single_run/posix/started_program.h"
 #include "tests/tools/single_run/run_fixture.h"
 
+#include <unistd.h>
+
 namespace {
 
 using testing::ElementsAre;
@@ -143,6 +145,39 @@ TEST_F(EndedRun, a_second_run_is_refused_too_while_the_first_replaces_a_finished
     first->send(SIGTERM);
     EXPECT_EQ(first->wait(), 6);
     EXPECT_EQ(files_in("batch"), before);
+}
+
+// The moments lie anywhere between the first step and the last, and whatever they meet must hold.
+TEST_F(EndedRun, at_whatever_moment_a_run_is_killed_the_finished_batch_is_found_again) {
+    put_model(50);
+    ASSERT_EQ(RunFixture::run().status, 0);
+    for (int moment = 0; moment < 25; ++moment) {
+        {
+            const started_program run(start_with({"--force"}));
+            usleep(static_cast<useconds_t>(moment) * 2000);
+        } // is killed here
+        const bool is_there = here.has("batch/tessaline-run.json");
+        EXPECT_TRUE(is_there || here.has("batch.tessaline-run.before/tessaline-run.json")) << moment;
+        EXPECT_EQ(RunFixture::run().status, 0) << moment;
+        EXPECT_EQ(report()["counts"]["triangles"], 100) << moment;
+        EXPECT_FALSE(here.has("batch/tessaline-run.json.part")) << moment;
+        EXPECT_FALSE(here.has("batch.tessaline-run.before")) << moment;
+    }
+}
+
+TEST_F(EndedRun, of_runs_on_one_folder_at_once_one_at_least_is_done_and_the_others_are_refused) {
+    std::vector<std::unique_ptr<started_program>> runs;
+    for (int i = 0; i < 4; ++i)
+        runs.push_back(std::make_unique<started_program>(start_with({"--force"})));
+    int done = 0;
+    for (const auto& one : runs) {
+        const int status = one->wait();
+        EXPECT_TRUE(status == 0 || status == 4) << status;
+        done += status == 0 ? 1 : 0;
+    }
+    EXPECT_GT(done, 0);
+    EXPECT_EQ(report()["counts"]["triangles"], 2);
+    EXPECT_FALSE(here.has("batch.tessaline-run.before"));
 }
 
 } // namespace
