@@ -5,6 +5,7 @@
 #include "platform/windows/system_handle.h"
 #include "platform/windows/system_words.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <map>
@@ -163,8 +164,17 @@ started_child start_program(const child_start& start) {
     return child;
 }
 
-child_fate wait_for(const started_child& child, const child_start& start) {
-    while (WaitForSingleObject(child.process.get(), time_between_looks) != WAIT_OBJECT_0) {
+// The system may have forgotten it when the program has ended, so it is asked meanwhile.
+void note_memory(const started_child& child, child_end& end) {
+    PROCESS_MEMORY_COUNTERS memory = {};
+    memory.cb = sizeof memory;
+    if (GetProcessMemoryInfo(child.process.get(), &memory, sizeof memory))
+        end.peak_memory_bytes = std::max<std::uint64_t>(end.peak_memory_bytes, memory.PeakWorkingSetSize);
+}
+
+child_fate wait_for(const started_child& child, const child_start& start, child_end& end) {
+    for (note_memory(child, end); WaitForSingleObject(child.process.get(), time_between_looks) != WAIT_OBJECT_0;
+         note_memory(child, end)) {
         child.output.take(start.on_output);
         child.errors.take(start.on_errors);
         if (!end_request().empty())
@@ -197,16 +207,13 @@ child_end run_child(const child_start& start) {
         end.words = words_for(child.error);
         return end;
     }
-    end.fate = wait_for(child, start);
+    end.fate = wait_for(child, start, end);
     TerminateJobObject(child.job.get(), 1);
     TerminateProcess(child.process.get(), 1);
     WaitForSingleObject(child.process.get(), INFINITE);
     child.output.take(start.on_output);
     child.errors.take(start.on_errors);
-    PROCESS_MEMORY_COUNTERS memory = {};
-    memory.cb = sizeof memory;
-    if (GetProcessMemoryInfo(child.process.get(), &memory, sizeof memory))
-        end.peak_memory_bytes = memory.PeakWorkingSetSize;
+    note_memory(child, end);
     if (end.fate == child_fate::ended)
         tell_end(child.process.get(), end);
     return end;

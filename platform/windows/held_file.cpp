@@ -61,10 +61,9 @@ hold_result held_file::take(const std::string& name, hold_kind kind) {
     release();
     failure_text.clear();
     // Others may read it, and whoever holds it may rename and delete it.
-    const HANDLE opened =
-        CreateFileA(name.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
-                    kind == hold_kind::new_file ? CREATE_NEW : OPEN_EXISTING,
-                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    const HANDLE opened = CreateFileA(name.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                                      nullptr, kind == hold_kind::new_file ? CREATE_NEW : OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (opened == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
         failure_text = words_for(error);
