@@ -2,13 +2,14 @@
 //     draw_model [--written] MODEL PICTURE.png [WIDTH HEIGHT]
 // --written takes pictures and coordinates from a texture writer, which straightens what is distorted.
 
-#include "tests/gallery/model_camera.h"
-#include "tests/gallery/model_painter.h"
 #include "tools/command_line/answers.h"
+#include "tools/raster/model_camera.h"
+#include "tools/raster/model_painter.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string>
 
 namespace {
 
@@ -21,7 +22,7 @@ bool draw(const char* model_file, const char* picture_file, texture_source from,
         return false;
     rasterizer picture(camera_of(model, 1), width, height, samples_a_pixel_side,
                        model_painter::option_color(model, "BackgroundColor", {1, 1, 1}));
-    model_painter(model, from, picture).draw();
+    model_painter(model, from, std::string(picture_file) + ".work.png", picture).draw();
     SUModelRelease(&model);
     return picture.write_png(picture_file);
 }

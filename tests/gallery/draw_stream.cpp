@@ -3,11 +3,11 @@
 
 #include "platform/platform.h"
 #include "sketchup/SketchUpAPI.h"
-#include "tests/gallery/model_camera.h"
-#include "tests/gallery/rasterizer.h"
-#include "tests/gallery/stream_painter.h"
 #include "tools/batch_reading/stream_reader.h"
 #include "tools/command_line/answers.h"
+#include "tools/raster/model_camera.h"
+#include "tools/raster/rasterizer.h"
+#include "tools/raster/stream_painter.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -54,5 +54,7 @@ int main(int argc, char** argv) {
     stream_painter with(folder_of(argv[2]), picture);
     read_stream({reinterpret_cast<const char*>(bytes->data()), bytes->size()}, with);
     with.finish();
+    for (const std::string& name : with.missing())
+        std::fprintf(stderr, "draw_stream: cannot read %s\n", name.c_str());
     return picture.write_png(argv[3]) ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-#include "tests/gallery/model_camera.h"
+#include "tools/raster/model_camera.h"
 
 #include "sketchup/api/inspect.h"
 #include "sketchup/model/model.h"

@@ -4,8 +4,8 @@
 // plain colours lightly shaded by the vertex normals.
 
 #include "image/picture.h"
-#include "tests/gallery/rasterizer.h"
 #include "tools/batch_reading/stream_reader.h"
+#include "tools/raster/rasterizer.h"
 
 #include <map>
 #include <optional>
@@ -21,6 +21,8 @@ public:
     void triangle(const stream_triangle& found) override;
     // Draws what is not opaque, which has waited until all else stands.
     void finish();
+    // Files of materials and pictures that cannot be read, in the order in which they were looked for.
+    const std::vector<std::string>& missing() const { return missing_files; }
 
 private:
     struct paint {
@@ -44,4 +46,5 @@ private:
     std::map<int, paint> paints;                                   // by material number
     std::map<std::string, std::optional<image::picture>> pictures; // by full name
     std::vector<clear_triangle> clear;
+    std::vector<std::string> missing_files;
 };

@@ -1,11 +1,10 @@
-#include "tests/gallery/stream_painter.h"
+#include "tools/raster/stream_painter.h"
 
 #include "image/decode_picture.h"
 #include "platform/platform.h"
 #include "tools/batch_reading/material_reader.h"
 
 #include <charconv>
-#include <cstdio>
 
 namespace {
 
@@ -41,7 +40,7 @@ const image::picture* stream_painter::picture_of(const std::string& path) {
             entry->second =
                 image::decode_picture({reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()});
         if (!entry->second)
-            std::fprintf(stderr, "draw_stream: no picture %s\n", path.c_str());
+            missing_files.push_back(path);
     }
     return entry->second ? &*entry->second : nullptr;
 }
@@ -53,7 +52,7 @@ stream_painter::paint stream_painter::declared(const std::string& material_name)
     const auto material = bytes ? read_material_file({reinterpret_cast<const char*>(bytes->data()), bytes->size()})
                                 : std::optional<read_material>();
     if (!material) {
-        std::fprintf(stderr, "draw_stream: no material %s\n", path.c_str());
+        missing_files.push_back(path);
         return result;
     }
     result.plain = color_from(material->color);

@@ -4,13 +4,20 @@
 
 #include "image/picture.h"
 #include "sketchup/SketchUpAPI.h"
-#include "tests/support/temporary_folder.h"
 
 #include <map>
 #include <optional>
+#include <string>
+#include <utility>
 
 class model_pictures {
 public:
+    // work_file: a name that no file has; the calls write each picture there, and nothing is left of it in the end.
+    explicit model_pictures(std::string work_file) : file(std::move(work_file)) {}
+    model_pictures(const model_pictures&) = delete;
+    model_pictures& operator=(const model_pictures&) = delete;
+    ~model_pictures();
+
     // The picture of a texture, recoloured as its material wants; null if it cannot be written or read.
     const image::picture* of(SUTextureRef texture);
 
@@ -23,8 +30,7 @@ public:
 private:
     const image::picture* written_to(const void* key, SUResult result);
 
-    temporary_folder folder;
-    std::string file = folder / "picture.png";
+    std::string file;
     std::map<const void*, std::optional<image::picture>> found;
     std::map<long, char> numbers; // gives each number of a texture writer an address of its own
 };

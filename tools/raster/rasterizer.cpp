@@ -1,10 +1,11 @@
-#include "tests/gallery/rasterizer.h"
+#include "tools/raster/rasterizer.h"
+
+#include "image/encode_picture.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <png.h>
 
 namespace {
 
@@ -61,13 +62,16 @@ std::size_t inside(double value, std::size_t size) {
 } // namespace
 
 rasterizer::rasterizer(const view& from, std::size_t width, std::size_t height, std::size_t samples,
-                       const color& background)
+                       const std::optional<color>& background)
     : camera(from), samples_(samples), width_(width * samples), height_(height * samples),
-      depths(width_ * height_, std::numeric_limits<double>::infinity()), points(3 * width_ * height_) {
-    for (std::size_t i = 0; i < points.size(); i += 3) {
-        points[i] = byte_of(background.red);
-        points[i + 1] = byte_of(background.green);
-        points[i + 2] = byte_of(background.blue);
+      depths(width_ * height_, std::numeric_limits<double>::infinity()), is_clear(!background),
+      points(channels * width_ * height_) {
+    const color behind = background.value_or(color{0, 0, 0});
+    for (std::size_t i = 0; i < points.size(); i += channels) {
+        points[i] = byte_of(behind.red);
+        points[i + 1] = byte_of(behind.green);
+        points[i + 2] = byte_of(behind.blue);
+        points[i + 3] = byte_of(is_clear ? 0 : 1);
     }
     forward = unit(minus(camera.target, camera.eye));
     right = unit(cross(forward, camera.up));
@@ -176,9 +180,18 @@ void rasterizer::draw_line(const vec& from, const vec& to, const color& paint) {
         const double depth = camera.perspective ? 1 / between(1 / a.depth, 1 / b.depth, i / steps)
                                                 : between(a.depth, b.depth, i / steps);
         if (x >= 0 && y >= 0 && x < static_cast<double>(width_) && y < static_cast<double>(height_))
-            put(static_cast<std::size_t>(x), static_cast<std::size_t>(y), depth - line_in_front * std::abs(depth),
-                paint, 1);
+            put_pixel(static_cast<std::size_t>(x), static_cast<std::size_t>(y), depth - line_in_front * std::abs(depth),
+                      paint);
     }
+}
+
+void rasterizer::put_pixel(std::size_t x, std::size_t y, double depth, const color& paint) {
+    const std::size_t before = (samples_ - 1) / 2;
+    const std::size_t left = x - std::min(x, before);
+    const std::size_t top = y - std::min(y, before);
+    for (std::size_t at_y = top; at_y < std::min(top + samples_, height_); ++at_y)
+        for (std::size_t at_x = left; at_x < std::min(left + samples_, width_); ++at_x)
+            put(at_x, at_y, depth, paint, 1);
 }
 
 void rasterizer::put(std::size_t x, std::size_t y, double depth, const color& paint, double opacity) {
@@ -188,8 +201,8 @@ void rasterizer::put(std::size_t x, std::size_t y, double depth, const color& pa
         return;
     if (opacity > 1 - least_opacity)
         standing = depth;
-    std::uint8_t* point = &points[3 * (y * width_ + x)];
-    for (const double channel : {paint.red, paint.green, paint.blue}) {
+    std::uint8_t* point = &points[channels * (y * width_ + x)];
+    for (const double channel : {paint.red, paint.green, paint.blue, 1.0}) {
         *point = byte_of(between(*point / 255.0, channel, opacity));
         ++point;
     }
@@ -200,24 +213,39 @@ bool rasterizer::sees_front(const std::array<vec, 3>& corners) const {
     return dot(normal, camera.perspective ? minus(corners[0], camera.eye) : forward) <= 0;
 }
 
-bool rasterizer::write_png(const std::string& file_name) const {
-    const std::size_t width = width_ / samples_;
-    const std::size_t height = height_ / samples_;
-    std::vector<std::uint8_t> pixels(3 * width * height);
-    for (std::size_t y = 0; y < height; ++y)
-        for (std::size_t i = 0; i < 3 * width; ++i) {
-            std::size_t sum = 0;
-            for (std::size_t point = 0; point < samples_ * samples_; ++point) {
-                const std::size_t row = y * samples_ + point / samples_;
-                const std::size_t column = i / 3 * samples_ + point % samples_;
-                sum += points[3 * (row * width_ + column) + i % 3];
-            }
-            pixels[y * 3 * width + i] = static_cast<std::uint8_t>(sum / (samples_ * samples_));
+image::picture rasterizer::drawn() const {
+    const auto width = static_cast<std::uint32_t>(width_ / samples_);
+    const auto height = static_cast<std::uint32_t>(height_ / samples_);
+    auto result = image::picture::make({width, height, is_clear ? 32 : 24});
+    if (!result)
+        return {};
+    for (std::uint32_t y = 0; y < height; ++y)
+        for (std::uint32_t x = 0; x < width; ++x) {
+            const std::array<std::size_t, channels> sums = sums_of(x, y);
+            const std::size_t all = is_clear ? sums[3] : samples_ * samples_ * 255;
+            std::uint8_t* pixel = result->row(y) + x * result->bytes_per_pixel();
+            for (std::size_t i = 0; i < 3; ++i)
+                pixel[i] =
+                    static_cast<std::uint8_t>(all == 0 ? 0 : std::min<std::size_t>(255, sums[2 - i] * 255 / all));
+            if (is_clear)
+                pixel[3] = static_cast<std::uint8_t>(sums[3] / (samples_ * samples_));
         }
-    png_image image = {};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = static_cast<png_uint_32>(width);
-    image.height = static_cast<png_uint_32>(height);
-    image.format = PNG_FORMAT_RGB;
-    return png_image_write_to_file(&image, file_name.c_str(), 0, pixels.data(), 0, nullptr) != 0;
+    return *std::move(result);
+}
+
+// Of the points of a pixel, channel by channel.
+std::array<std::size_t, rasterizer::channels> rasterizer::sums_of(std::size_t x, std::size_t y) const {
+    std::array<std::size_t, channels> sums{};
+    for (std::size_t point = 0; point < samples_ * samples_; ++point) {
+        const std::size_t row = y * samples_ + point / samples_;
+        const std::size_t column = x * samples_ + point % samples_;
+        for (std::size_t i = 0; i < channels; ++i)
+            sums[i] += points[channels * (row * width_ + column) + i];
+    }
+    return sums;
+}
+
+bool rasterizer::write_png(const std::string& file_name) const {
+    const std::vector<std::uint8_t> bytes = image::encode_picture(drawn(), image::picture_format::png);
+    return !bytes.empty() && image::write_picture_file(file_name, bytes);
 }

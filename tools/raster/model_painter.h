@@ -5,9 +5,10 @@
 
 #include "sketchup/model/values.h"
 #include "sketchup/SketchUpAPI.h"
-#include "tests/gallery/model_pictures.h"
-#include "tests/gallery/rasterizer.h"
+#include "tools/raster/model_pictures.h"
+#include "tools/raster/rasterizer.h"
 
+#include <string>
 #include <vector>
 
 // Where the texture coordinates and pictures of faces come from.
@@ -18,7 +19,8 @@ enum class texture_source {
 
 class model_painter {
 public:
-    model_painter(SUModelRef model, texture_source from, rasterizer& into);
+    // work_file: as model_pictures has it.
+    model_painter(SUModelRef model, texture_source from, std::string work_file, rasterizer& into);
     model_painter(const model_painter&) = delete;
     model_painter& operator=(const model_painter&) = delete;
     ~model_painter();

@@ -1,4 +1,4 @@
-#include "tests/gallery/model_painter.h"
+#include "tools/raster/model_painter.h"
 
 #include "sketchup/model/vector_math.h"
 
@@ -70,8 +70,9 @@ bool model_painter::option_is_on(SUModelRef model, const char* key) {
     return is_on;
 }
 
-model_painter::model_painter(SUModelRef model, texture_source from, rasterizer& into)
-    : model_(model), source(from), picture(into), front_color(option_color(model, "FaceFrontColor", {1, 1, 1})),
+model_painter::model_painter(SUModelRef model, texture_source from, std::string work_file, rasterizer& into)
+    : model_(model), source(from), picture(into), pictures(std::move(work_file)),
+      front_color(option_color(model, "FaceFrontColor", {1, 1, 1})),
       back_color(option_color(model, "FaceBackColor", {0.65, 0.67, 0.78})),
       color_by_layer(option_is_on(model, "DisplayColorByLayer")) {
     SUTextureWriterCreate(&writer);

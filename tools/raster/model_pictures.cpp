@@ -1,4 +1,4 @@
-#include "tests/gallery/model_pictures.h"
+#include "tools/raster/model_pictures.h"
 
 #include "image/decode_picture.h"
 #include "platform/platform.h"
@@ -27,6 +27,10 @@ std::optional<image::picture> pixels_of(SUImageRef image) {
 }
 
 } // namespace
+
+model_pictures::~model_pictures() {
+    platform::delete_file(file);
+}
 
 const image::picture* model_pictures::written_to(const void* key, SUResult result) {
     std::optional<image::picture>& kept = found[key];
