@@ -72,10 +72,11 @@ double metres_in_unit(const camera_view& view, const gltf::float_range& box) {
     return !box.is_empty && !seen_in(1) && seen_in(metres_in_an_inch) ? metres_in_an_inch : 1;
 }
 
-gltf::json camera_json(const camera_view& view, double unit, double distance) {
-    const double aspect = gltf::short_number(aspect_of(view));
-    if (view.camera_type == "ortho" && view.ortho_height > 0) {
-        const double half = gltf::short_number(view.ortho_height * unit / 2);
+gltf::json camera_json(const batch_view& view) {
+    const double aspect = gltf::short_number(view.aspect);
+    if (view.is_parallel) {
+        const double half = gltf::short_number(view.height / 2);
+        const double distance = length(difference(view.target, view.eye));
         return {{"type", "orthographic"},
                 {"orthographic",
                  {{"xmag", gltf::short_number(half * aspect)},
@@ -85,7 +86,7 @@ gltf::json camera_json(const camera_view& view, double unit, double distance) {
     }
     return {{"type", "perspective"},
             {"perspective",
-             {{"yfov", gltf::short_number(field_of_view(view))}, {"aspectRatio", aspect}, {"znear", nearest}}}};
+             {{"yfov", gltf::short_number(view.field_of_view)}, {"aspectRatio", aspect}, {"znear", nearest}}}};
 }
 
 // The value of a setting in a line "name; value"; nothing in a line of another.
@@ -101,20 +102,32 @@ std::optional<double> setting(std::string_view line, std::string_view name) {
 
 } // namespace
 
+std::optional<batch_view> view_of_batch(const std::string& batch_folder, const gltf::float_range& box) {
+    const camera_view said = read_view_file(batch_folder);
+    const double unit = metres_in_unit(said, box);
+    batch_view view;
+    view.eye = scaled(said.eye, unit);
+    view.target = scaled(said.target, unit);
+    const double distance = length(difference(view.target, view.eye));
+    if (!said.target_seen || !(distance > 0) || !std::isfinite(distance))
+        return std::nullopt;
+    view.is_parallel = said.camera_type == "ortho" && said.ortho_height > 0;
+    view.field_of_view = field_of_view(said);
+    view.height = said.ortho_height * unit;
+    view.aspect = aspect_of(said);
+    return view;
+}
+
 std::optional<std::size_t> add_view(gltf::glb_writer& to, const std::string& batch_folder,
                                     const gltf::float_range& box) {
-    const camera_view view = read_view_file(batch_folder);
-    const double unit = metres_in_unit(view, box);
-    const double3 eye = scaled(view.eye, unit);
-    const double3 direction = difference(scaled(view.target, unit), eye);
-    const double distance = length(direction);
-    if (!view.target_seen || !(distance > 0) || !std::isfinite(distance))
+    const auto view = view_of_batch(batch_folder, box);
+    if (!view)
         return std::nullopt;
-    gltf::json camera = camera_json(view, unit, distance);
+    gltf::json camera = camera_json(*view);
     camera["name"] = "view";
     gltf::node_placement where;
-    where.translation = eye;
-    where.rotation = gltf::rotation_looking(direction, {0, 0, 1});
+    where.translation = view->eye;
+    where.rotation = gltf::rotation_looking(difference(view->target, view->eye), {0, 0, 1});
     gltf::json node = {{"name", "view"}, {"camera", to.add(gltf::list::cameras, camera)}};
     gltf::place(node, where);
     return to.add(gltf::list::nodes, node);
