@@ -1,0 +1,90 @@
+// What batch-view and skp-view leave and how they end.
+
+#include "image/decode_picture.h"
+#include "tests/support/run_program.h"
+#include "tests/support/temporary_folder.h"
+#include "tools/page/page_text.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+program_result run(const std::string& program, const std::vector<std::string>& arguments) {
+    return run_program({std::string(PROGRAMS) + "/" + program + PROGRAM_ENDING, arguments});
+}
+
+std::string stages_model(const temporary_folder& folder) {
+    EXPECT_EQ(run("example_stages", {folder / "stages.skp"}).status, 0);
+    return folder / "stages.skp";
+}
+
+const std::string stages_batch = std::string(TESSALINE_SOURCE_DIR) + "/examples/stages/expected";
+
+image::picture decoded(const std::string& bytes) {
+    return image::decode_picture({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()})
+        .value_or(image::picture());
+}
+
+TEST(BatchView, the_picture_has_the_size_that_was_asked_for_and_shows_something) {
+    const temporary_folder folder;
+    const program_result seen = run("batch-view", {stages_batch, "--png", folder / "a.png", "--size", "60x40"});
+    EXPECT_EQ(seen.status, 0) << seen.errors;
+    const image::picture picture = decoded(folder.read("a.png"));
+    EXPECT_EQ(picture.extent(), (image::picture_extent{60, 40, 24}));
+    const std::uint8_t* const middle = picture.row(20) + 30 * 3;
+    EXPECT_NE((std::vector<int>{middle[0], middle[1], middle[2]}), (std::vector<int>{235, 235, 235})); // 0.92 * 255
+    EXPECT_FALSE(folder.has("a.png.part"));
+    EXPECT_FALSE(folder.has("a.html"));
+}
+
+TEST(SkpView, a_picture_without_background_is_clear_at_its_corner) {
+    const temporary_folder folder;
+    const program_result seen =
+        run("skp-view", {stages_model(folder), "--png", folder / "a.png", "--size", "60x40", "--clear"});
+    EXPECT_EQ(seen.status, 0) << seen.errors;
+    const image::picture picture = decoded(folder.read("a.png"));
+    EXPECT_EQ(picture.extent(), (image::picture_extent{60, 40, 32}));
+    EXPECT_EQ(picture.row(0)[3], 0);
+    EXPECT_FALSE(folder.has("a.png.work.png"));
+}
+
+TEST(ViewPrograms, the_page_holds_what_it_shows_and_nothing_else_is_left) {
+    if (page_text().empty())
+        GTEST_SKIP() << "the page was not bundled, for there is no node";
+    const temporary_folder folder;
+    const std::vector<std::pair<std::string, std::string>> inputs = {{"batch-view", stages_batch},
+                                                                     {"skp-view", stages_model(folder)}};
+    for (const auto& [program, input] : inputs) {
+        const program_result seen = run(program, {input, "-o", folder / "a.html"});
+        EXPECT_EQ(seen.status, 0) << seen.errors;
+        EXPECT_THAT(folder.read("a.html"), testing::HasSubstr("\"program\":\"" + program + " "));
+        EXPECT_THAT(folder.read("a.html"), testing::EndsWith("</html>\n"));
+        EXPECT_FALSE(folder.has("a.html.part"));
+        EXPECT_FALSE(folder.has("a.html.glb"));
+    }
+}
+
+TEST(ViewPrograms, what_cannot_be_opened_is_status_1_and_leaves_the_old_page) {
+    const temporary_folder folder;
+    folder.write("a.html", "old");
+    folder.write("a.skp", "no model");
+    EXPECT_EQ(run("skp-view", {folder / "a.skp", "-o", folder / "a.html"}).status, 1);
+    EXPECT_EQ(run("batch-view", {folder.name(), "-o", folder / "a.html"}).status, 1);
+    const program_result seen = run("batch-view", {folder.name(), "--png", folder / "a.png"});
+    EXPECT_EQ(seen.status, 1);
+    EXPECT_EQ(seen.errors, "batch-view: " + folder.name() + ": there is no stream that can be read\n");
+    EXPECT_EQ(folder.read("a.html"), "old");
+    EXPECT_FALSE(folder.has("a.png"));
+}
+
+TEST(ViewPrograms, what_cannot_be_written_is_status_3) {
+    const temporary_folder folder;
+    folder.make_folder("a.png");
+    EXPECT_EQ(run("batch-view", {stages_batch, "--png", folder / "a.png"}).status, 3);
+    EXPECT_EQ(run("skp-view", {stages_model(folder), "--png", folder / "no/a.png"}).status, 3);
+    EXPECT_EQ(run("batch-view", {stages_batch, "-o", folder / "no/a.html"}).status, 3);
+    EXPECT_FALSE(folder.has("a.png.part"));
+}
+
+} // namespace

@@ -1,0 +1,22 @@
+#pragma once
+
+// The picture of a batch, and from where it is seen.
+
+#include "tools/page/view_options.h"
+#include "tools/raster/view.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// The view that the batch holds; metres. Nothing if it holds none, or one that looks nowhere.
+std::optional<view> start_of_batch(const std::string& batch_folder);
+
+struct drawn_batch {
+    bool is_batch = false;
+    std::string failure;              // in words; empty if the picture was written
+    std::vector<std::string> missing; // files of materials and pictures that cannot be read
+};
+
+// Draws the batch into the picture file of the options, from its view, or all of it from a corner.
+drawn_batch draw_batch(const view_options& options);
