@@ -219,8 +219,12 @@ async function checkSample(file) {
 
 fs.mkdirSync(output, { recursive: true });
 let models = 0;
-for (const example of fs.readdirSync(examples).filter((name) => fs.existsSync(path.join(examples, name, 'expected'))))
+for (const example of fs.readdirSync(examples).filter((name) => fs.existsSync(path.join(examples, name, 'expected')))) {
     await checkBatch(example, path.join(examples, example, 'expected'));
+    const model = path.join(output, `${example}.skp`);
+    run(`example_${example}`, [model]);
+    await checkModel(example, model, [], JSON.parse(run('skp-dump', ['--json', model]).stdout).written);
+}
 for (const file of samples ? fs.readdirSync(samples).filter((name) => name.endsWith('.skp')).sort() : [])
     if (await checkSample(path.join(samples, file))) ++models;
 for (const text of faults) console.log(text);

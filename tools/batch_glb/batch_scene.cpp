@@ -9,6 +9,7 @@ namespace {
 
 constexpr double metres_in_an_inch = 0.0254; // exact by definition
 constexpr int corners_of_a_beam = 16;        // four sides of four; of each two at its start and then two at its end
+constexpr double corners_of_an_end = 8;
 
 bool is_finite(const gltf::float3& v) {
     return std::isfinite(v[0]) && std::isfinite(v[1]) && std::isfinite(v[2]);
@@ -67,7 +68,7 @@ void batch_scene::add_beam_corner(const gltf::float3& position) {
         beam = {};
     std::array<double, 3>& sum = beam[beam_corners % 4 < 2 ? 0 : 1];
     for (std::size_t i = 0; i < 3; ++i)
-        sum[i] += double{position[i]} / (corners_of_a_beam / 2);
+        sum[i] += double{position[i]} / corners_of_an_end;
     if (++beam_corners < corners_of_a_beam)
         return;
     beam_corners = 0;
