@@ -93,7 +93,7 @@ std::vector<std::string> environment_of(const child_start& start) {
             variables.erase(name);
     std::vector<std::string> texts;
     for (const auto& [name, value] : variables)
-        texts.push_back(name + '=' + value);
+        texts.emplace_back(name).append("=").append(value);
     return texts;
 }
 

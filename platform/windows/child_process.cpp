@@ -20,9 +20,11 @@ using clock = std::chrono::steady_clock;
 
 constexpr DWORD time_between_looks = 5; // milliseconds: a pipe without a name cannot be waited for
 
-// One argument as the runtime of the compilers takes it apart: in quotation marks, with a backslash in front of each
-// mark, and the backslashes in front of a mark doubled.
+// One argument as the runtime of the compilers takes it apart: one that needs it in quotation marks, with a backslash
+// in front of each mark, and the backslashes in front of a mark doubled.
 std::string quoted(const std::string& argument) {
+    if (!argument.empty() && argument.find_first_of(" \t\"") == std::string::npos)
+        return argument;
     std::string text = "\"";
     std::size_t backslashes = 0;
     for (const char c : argument) {
