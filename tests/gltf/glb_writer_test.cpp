@@ -30,7 +30,7 @@ TEST(GlbWriter, leaves_the_old_file_and_nothing_beside_it_when_the_new_one_would
     {
         glb_writer writer(name, 4, 200);
         writer.put(std::string(300, 'x'));
-        EXPECT_NE(writer.finish({}).find("the format ends at 200"), std::string::npos);
+        EXPECT_NE(writer.finish({}).find("more than the 200 bytes of the format"), std::string::npos);
     }
     EXPECT_EQ(file_bytes(name), (std::vector<std::uint8_t>{'o', 'l', 'd'}));
     EXPECT_FALSE(platform::exists(name + ".part"));
@@ -44,6 +44,13 @@ TEST(GlbWriter, gives_up_early_when_there_is_far_too_much) {
     EXPECT_FALSE(writer.has_failed());
     writer.put(std::string(300, 'x'));
     EXPECT_TRUE(writer.has_failed());
+}
+
+TEST(GlbWriter, gives_up_earlier_on_its_text_which_cannot_shrink) {
+    const temporary_folder folder;
+    glb_writer writer(folder / "a.glb", 1000, 200);
+    writer.add(gltf::list::nodes, {{"name", std::string(180, 'x')}});
+    EXPECT_TRUE(writer.has_failed()); // 191 for the element and 11 for the list
 }
 
 TEST(GlbWriter, says_that_it_cannot_write_into_a_folder_that_is_not_there) {

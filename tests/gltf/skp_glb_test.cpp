@@ -325,6 +325,17 @@ TEST(SkpGlb, of_an_empty_model_is_a_scene_with_its_root) {
     EXPECT_TRUE(glb.extras()["box_metres"].is_null());
 }
 
+TEST(SkpGlb, bears_placements_a_thousand_deep) {
+    made_model made;
+    list_builder list = made.builder.root().group("0");
+    for (int depth = 1; depth < 1000; ++depth)
+        list = list.group(std::to_string(depth));
+    list.square(10);
+    const read_glb glb = made.convert();
+    EXPECT_TRUE(glb.node("999").contains("mesh"));
+    EXPECT_EQ(glb.extras()["counts"]["placements"], 1000);
+}
+
 TEST(SkpGlb, of_many_placements_takes_less_than_200_bytes_for_each) {
     std::array<std::uint64_t, 2> sizes{};
     for (const int count : {1, 2001}) {

@@ -73,9 +73,10 @@ std::uint64_t glb_writer::put_strand(byte_spool::strand from, width kept) {
     return offset;
 }
 
-std::string glb_writer::too_large(std::uint64_t bytes) const {
-    return "a GLB file of " + std::to_string(bytes) + " bytes would be needed, and the format ends at " +
-           std::to_string(most_bytes);
+// Of the buffer no more than half can go away, where 32-bit numbers become 16-bit ones; of the text nothing.
+bool glb_writer::has_failed() const {
+    const std::uint64_t text = size_of_lists();
+    return spooled.has_failed() || text > std::min(most_bytes, text_limit) || (spooled.size() - text) / 2 > most_bytes;
 }
 
 // All but the lists and the closing brace.
@@ -94,8 +95,8 @@ std::string glb_writer::head_of(const json& document) const {
     return text;
 }
 
-std::uint64_t glb_writer::json_size(const std::string& head, const std::string& tail) const {
-    std::uint64_t size = head.size() + tail.size();
+std::uint64_t glb_writer::size_of_lists() const {
+    std::uint64_t size = 0;
     for (std::size_t at = 0; at < lists.size(); ++at)
         if (lists[at].count > 0)
             size += opening_of(at).size() + spooled.size(lists[at].text) + closing_of(at).size();
@@ -105,11 +106,14 @@ std::uint64_t glb_writer::json_size(const std::string& head, const std::string& 
 std::string glb_writer::finish(const json& document) {
     const std::string head = head_of(document);
     const std::string tail = "}";
-    const std::uint64_t json_bytes = json_size(head, tail);
+    const std::uint64_t json_bytes = head.size() + size_of_lists() + tail.size();
     const std::uint64_t total =
         header_size + chunk_header_size + padded(json_bytes) + (buffer_size > 0 ? chunk_header_size + buffer_size : 0);
+    if (json_bytes > text_limit)
+        return "the text of the GLB file would need more than the " + std::to_string(text_limit) +
+               " bytes that browsers can hold";
     if (total > most_bytes)
-        return too_large(total);
+        return "a GLB file of more than the " + std::to_string(most_bytes) + " bytes of the format would be needed";
     const std::string part = target + ".part";
     if (!spooled.has_failed() && write_parts(head, tail, json_bytes) && platform::rename_replacing(part, target))
         return {};

@@ -22,6 +22,8 @@ class glb_writer {
 public:
     // What a GLB can hold: its length is a 32-bit number.
     static constexpr std::uint64_t container_limit = 0xffffffff;
+    // The longest text that browsers can hold, so that a file with more is of no use: some four million nodes.
+    static constexpr std::uint64_t text_limit = (std::uint64_t{1} << 29U) - 24;
 
     // file_name: as the system spells it. Until finish() nothing stands under that name; beside it lie "NAME.part" and,
     // if memory is full, "NAME.buffers", which are gone when the writer is. memory: bytes kept before that.
@@ -48,7 +50,7 @@ public:
     std::uint64_t put_strand(byte_spool::strand from, width kept = width::as_it_is);
 
     // The file cannot come about any more: it would be too large, or the disk is full. To be asked now and then.
-    bool has_failed() const { return spooled.has_failed() || spooled.size() / 2 > most_bytes; }
+    bool has_failed() const;
 
     // Writes the file. document: what stands in the JSON text beside the lists above and "asset": "scene", "scenes",
     // "samplers". Gives why it could not be written, in words, or an empty text; then no file is left.
@@ -64,10 +66,9 @@ private:
         width kept = width::as_it_is;
     };
 
-    std::uint64_t json_size(const std::string& head, const std::string& tail) const;
+    std::uint64_t size_of_lists() const;
     bool write_parts(const std::string& head, const std::string& tail, std::uint64_t json_bytes);
     bool write_buffer(const std::function<bool(std::string_view)>& to);
-    std::string too_large(std::uint64_t bytes) const;
     std::string head_of(const json& document) const;
 
     std::string target; // the name of the file
