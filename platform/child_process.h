@@ -39,6 +39,9 @@ struct child_start {
     std::vector<std::pair<std::string, std::optional<std::string>>> environment = {};
     std::uint64_t memory_limit = 0; // bytes; 0 for none. POSIX: of address space; Windows: of committed memory
     std::optional<std::chrono::steady_clock::time_point> deadline = {};
+    // How long the program may take to end by itself when it is called off; it is told so at once (POSIX: by SIGTERM;
+    // Windows: it is not told, and ended at once). 0: it is ended at once.
+    std::chrono::milliseconds grace = {};
     // Take what the program prints, in pieces as they come; nothing takes a piece that is not wanted.
     std::function<void(std::string_view)> on_output = {};
     std::function<void(std::string_view)> on_errors = {};

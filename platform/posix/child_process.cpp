@@ -249,7 +249,7 @@ void take_from(descriptor& pipe, const std::function<void(std::string_view)>& ta
 class watched_child {
 public:
     watched_child(started_child&& started, const child_start& how, const woken_by_signals& woken)
-        : child(std::move(started)), start(how), waker(woken) {
+        : child(std::move(started)), start(how), waker(woken), deadline(how.deadline) {
         fcntl(child.output.get(), F_SETFL, O_NONBLOCK);
         fcntl(child.errors.get(), F_SETFL, O_NONBLOCK);
     }
@@ -259,11 +259,13 @@ public:
         while (fate == child_fate::ended && !has_ended()) {
             if (!end_request().empty())
                 fate = child_fate::called_off;
-            else if (start.deadline && clock::now() >= *start.deadline)
+            else if (deadline && clock::now() >= *deadline)
                 fate = child_fate::out_of_time;
             else
                 wait_for_news();
         }
+        if (fate == child_fate::called_off && start.grace > std::chrono::milliseconds::zero())
+            let_end();
         // The number of the group is not given anew while its first process has not been waited for.
         kill(-child.process, SIGKILL);
         int status = 0;
@@ -282,12 +284,20 @@ private:
                told.si_pid != 0;
     }
 
+    // It may clear away what it has begun.
+    void let_end() {
+        kill(child.process, SIGTERM);
+        deadline = clock::now() + start.grace;
+        while (!has_ended() && clock::now() < *deadline)
+            wait_for_news();
+    }
+
     // Until the program prints, ends, or anything else is to be looked at.
     void wait_for_news() {
         std::array<pollfd, 2> pipes = {pollfd{child.output.get(), POLLIN, 0}, pollfd{child.errors.get(), POLLIN, 0}};
         timespec longest = {3600, 0};
-        if (start.deadline) {
-            const auto left = std::max(*start.deadline - clock::now(), clock::duration::zero());
+        if (deadline) {
+            const auto left = std::max(*deadline - clock::now(), clock::duration::zero());
             const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(left);
             if (seconds.count() < longest.tv_sec)
                 longest = {seconds.count(), std::chrono::nanoseconds(left - seconds).count()};
@@ -317,6 +327,7 @@ private:
     started_child child;
     const child_start& start;
     const woken_by_signals& waker;
+    std::optional<clock::time_point> deadline;
 };
 
 } // namespace

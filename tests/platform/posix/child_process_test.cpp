@@ -113,6 +113,28 @@ TEST(ChildProcess, a_request_to_end_ends_the_program_and_is_told_by_its_name) {
     EXPECT_EQ(platform::end_request(), "SIGTERM");
 }
 
+TEST(ChildProcess, a_program_with_grace_may_clear_away_before_it_ends) {
+    const platform::end_requests noted;
+    std::string output;
+    child_start start = shell("trap 'echo cleared; exit' TERM; echo begun; while :; do sleep 0.01; done");
+    start.grace = std::chrono::minutes(1);
+    start.on_output = [&output](std::string_view bytes) {
+        if (output.empty())
+            raise(SIGTERM);
+        output += bytes;
+    };
+    EXPECT_EQ(platform::run_child(start).fate, child_fate::called_off);
+    EXPECT_EQ(output, "begun\ncleared\n");
+}
+
+TEST(ChildProcess, a_program_that_lets_its_grace_pass_is_ended) {
+    const platform::end_requests noted;
+    child_start start = shell("trap '' TERM; echo begun; while :; do sleep 0.01; done");
+    start.grace = std::chrono::milliseconds(20);
+    start.on_output = [](std::string_view) { raise(SIGTERM); };
+    EXPECT_EQ(platform::run_child(start).fate, child_fate::called_off);
+}
+
 TEST(ChildProcess, a_request_to_end_is_forgotten_with_whoever_noted_it) {
     {
         const platform::end_requests noted;
