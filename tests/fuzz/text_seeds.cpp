@@ -69,6 +69,11 @@ constexpr seed seeds[] = {
     {"fuzz_names", "leading_away", "%252/../..\\away & \t.png"},
     {"fuzz_setting_text", "number", " -2147483649.5e3 and more"},
     {"fuzz_setting_text", "above_32_bits", "4294967296"},
+    {"fuzz_model_list", "names", "a/x.skp\r\n\n./a//x.skp\n/m/../b \"c\".skp\n"},
+    {"fuzz_model_list", "ended_by_zero", {"a\nb.skp\0../c\0", 13}},
+    {"fuzz_model_list", "report",
+     R"({"status":3,"sentence":"no","seconds":1.5,"peak_memory_bytes":7,"counts":{"triangles":2},"errors":1,)"
+     R"("warnings":0,"findings":[{"code":"a","severity":"error"}]})"},
     {"fuzz_setting_text", "no_number", "nan"},
     {"fuzz_setting_text", "hexadecimal_color", "#ff0010"},
     {"fuzz_setting_text", "listed_color", "rgb(255,0,16)"},
