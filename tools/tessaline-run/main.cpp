@@ -5,6 +5,7 @@
 #include "tools/command_line/answers.h"
 #include "tools/single_run/run_inputs.h"
 #include "tools/single_run/run_once.h"
+#include "tools/tessaline-run/list_command.h"
 
 #include <new>
 #include <string>
@@ -27,7 +28,7 @@ std::string usage() {
         "Status:\n";
     for (const status_row& row : status_table())
         text += "  " + std::to_string(static_cast<int>(row.status)) + "  " + std::string(row.meaning) + '\n';
-    return text;
+    return text.append(list_usage);
 }
 
 // The last line is a sentence.
@@ -70,6 +71,8 @@ int run_with(const run_options& options) {
 
 int main(int argc, char** argv) {
     const std::string usage_text = usage();
+    if (const auto status = run_list_command(argc, argv, usage_text))
+        return *status;
     if (const auto status =
             answer_at_once(argc, argv, "tessaline-run", usage_text,
                            {"--with", "--option", "--force", "--seconds", "--memory", "--json", "--progress"}))
