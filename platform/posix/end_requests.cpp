@@ -5,6 +5,9 @@
 #include <array>
 #include <csignal>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace platform {
 
 namespace {
@@ -27,9 +30,20 @@ extern "C" void note_request(int number) {
         noted_signal = number;
 }
 
+// The system gives a file the lowest number that is free.
+void open_closed_streams() {
+    int opened = 0;
+    do {
+        opened = open("/dev/null", O_RDWR | O_CLOEXEC);
+    } while (opened >= 0 && opened <= STDERR_FILENO);
+    if (opened >= 0)
+        close(opened);
+}
+
 } // namespace
 
 end_requests::end_requests() {
+    open_closed_streams();
     struct sigaction noting = {};
     noting.sa_handler = note_request;
     sigemptyset(&noting.sa_mask);

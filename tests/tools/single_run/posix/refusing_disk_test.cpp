@@ -102,6 +102,15 @@ TEST_F(RefusingDisk, a_report_that_the_disk_refuses_has_status_4_and_the_batch_s
     EXPECT_TRUE(here.has("batch/tessaline-run.json"));
 }
 
+TEST_F(RefusingDisk, a_run_whose_standard_streams_are_closed_writes_its_words_into_no_file) {
+    program_start start = start_with({"--progress", "openjd", "--json", here / "report.json"});
+    start.arguments.insert(start.arguments.begin(), {"-c", "exec \"$@\" <&- >&- 2>&-", "sh", start.program});
+    start.program = "/bin/sh";
+    EXPECT_EQ(run_program(start).status, 0);
+    EXPECT_EQ(report()["counts"]["triangles"], 2);
+    EXPECT_EQ(nlohmann::json::parse(here.read("report.json"))["status"], 0);
+}
+
 TEST_F(RefusingDisk, a_link_in_place_of_the_folder_is_refused_whatever_it_leads_to) {
     const std::string elsewhere = here.make_folder("elsewhere");
     std::filesystem::create_directory_symlink(elsewhere, here / "batch");
