@@ -6,10 +6,12 @@
 #include "sketchup/skp/writer/material_document_writer.h"
 #include "sketchup/skp/writer/modern_writer.h"
 #include "tests/fuzz/archive_file.h"
+#include "tests/fuzz/batch_text.h"
 #include "tests/fuzz/modern_seeds.h"
 #include "tests/fuzz/option_seeds.h"
 #include "tests/fuzz/picture_seeds.h"
 #include "tests/fuzz/text_seeds.h"
+#include "tests/tools/small_batch.h"
 #include "tools/command_line/answers.h"
 
 #include <cstdio>
@@ -174,6 +176,21 @@ bool write_outline_seeds(const std::filesystem::path& folder) {
            write(folder / "nested", {0x3F, 0, 0, 0, 0, 4, 6, 0, 13, 6, 0, 0, 5, 0, 7, 1, 2, 10, 20, 7, 9});
 }
 
+// All files of a batch in one text: the target takes them apart again.
+std::string one_text(const small_batch::files_by_name& files) {
+    std::string text;
+    for (const auto& [name, bytes] : files)
+        text += batch_text::beginning_of_file + name + '\n' + bytes;
+    return text;
+}
+
+bool write_batch_seeds(const std::filesystem::path& folder) {
+    const small_batch::files_by_name still = small_batch::still();
+    return write_text(folder / "still", one_text(still)) &&
+           write_text(folder / "animation", one_text(small_batch::animation())) &&
+           write_text(folder / "stream", one_text({{"batch_file.txt", still.at("batch_file.txt")}}));
+}
+
 bool write_option_seeds(const std::filesystem::path& folder) {
     return write_text(folder / "fuzz_option_file" / "all", option_seeds::option_file) &&
            write_text(folder / "fuzz_view_file" / "all", option_seeds::view_file);
@@ -191,7 +208,8 @@ int main(int argc, char** argv) {
     if (write_classic_seeds(folder / "fuzz_classic") && write_archive_seeds(folder) &&
         write_document_seeds(folder / "fuzz_document") && write_modern_seeds(folder / "fuzz_modern") &&
         write_picture_seeds(folder / "fuzz_picture") && write_straighten_seeds(folder / "fuzz_straighten_texture") &&
-        write_option_seeds(folder) && write_outline_seeds(folder / "fuzz_outlines") && write_text_seeds(argv[1]))
+        write_batch_seeds(folder / "fuzz_batch_check") && write_option_seeds(folder) &&
+        write_outline_seeds(folder / "fuzz_outlines") && write_text_seeds(argv[1]))
         return 0;
     std::fprintf(stderr, "make_seeds: cannot write below %s\n", argv[1]);
     return 1;
