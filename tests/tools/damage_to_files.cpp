@@ -95,6 +95,13 @@ std::vector<damage> damage_to_materials() {
                          std::string("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x10\x27\0\0\x10\x27\0\0\x01\0\x18\0", 30) +
                              std::string(24, '\0')),
               replaced(brick, brick_line, "Image_Path: /batches/small/Batch_SketchUp_Textures/TX0001_Brick.BMP")})},
+        // A PNG that announces 10,000 by 10,000 pixels and holds 100 bytes of them.
+        {"a_picture_too_large_for_memory_is_cut_off", code::picture_damaged,
+         overwritten(brick_picture,
+                     std::string("\x89\x50\x4e\x47\x0d\x0a\x1a\x0a\x00\x00\x00\x0d\x49\x48\x44\x52\x00\x00\x27\x10"
+                                 "\x00\x00\x27\x10\x08\x02\x00\x00\x00\x35\x2c\xf5\x70\x00\x00\x00\x08\x49\x44\x41"
+                                 "\x54\x78\x9c\x63\x60\xa0\x3d\x00\x00\xcf\x1f\xae\x95",
+                                 53))},
         {"two_pictures_have_the_same_bytes", code::picture_equal,
          [](files_by_name& files) {
              files[brick_picture] = files["ZynBatch_Images/Tree_88.png"];
@@ -142,7 +149,9 @@ std::vector<damage> damage_to_lamps() {
         {"a_beam_is_wider_than_its_field", range, replaced(lamp, "beam_angle;30.000000", "beam_angle;70.000000")},
         {"a_lamp_that_glows_has_a_location", code::lamp_place,
          replaced(lamp, "location;(0.000000,0.000000,0.000000)", "location;(1.000000,0.000000,0.000000)")},
-        {"a_direct_light_glows", code::lamp_place, replaced(bulb, "type;bulb", "type;rect_glow")},
+        {"a_direct_light_glows", code::lamp_place,
+         all_of({replaced(bulb, "type;bulb", "type;rect_glow"),
+                 replaced(bulb, "location;(2.286000,1.752600,1.676400)", "location;(0.000000,0.000000,0.000000)")})},
         {"a_lamp_gives_no_light", code::lamp_no_power,
          all_of({replaced(lamp, "intensity;75.000000", "intensity;-1.000000"),
                  replaced(lamp, "intensity_lumens;1275.000000", "intensity_lumens;-1.000000")})},
