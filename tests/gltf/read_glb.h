@@ -19,8 +19,10 @@ struct read_glb {
     explicit read_glb(const std::string& file_name) {
         const std::vector<std::uint8_t> bytes = file_bytes(file_name);
         const auto number = [&bytes](std::size_t at) {
-            return bytes.at(at) | bytes.at(at + 1) << 8U | bytes.at(at + 2) << 16U |
-                   static_cast<std::uint32_t>(bytes.at(at + 3)) << 24U;
+            std::uint32_t result = 0;
+            for (std::size_t i = 4; i-- > 0;)
+                result = result << 8U | bytes.at(at + i);
+            return result;
         };
         EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + 4), "glTF");
         EXPECT_EQ(number(4), 2U);
