@@ -39,8 +39,8 @@ TEST(BatchFindings, quotes_are_short_and_name_no_place_of_the_disk) {
     EXPECT_EQ(in_quotes("MATL;10"), "\"MATL;10\"");
     EXPECT_EQ(in_quotes("PLNM;/home/somebody/batch/Plants/Oak"), "\"PLNM;.../Oak\"");
     EXPECT_EQ(in_quotes("Image_Path: /home/somebody/a b.png"), "\"Image_Path: .../a b.png\"");
-    EXPECT_EQ(in_quotes("C:\\batch\\Plants\\Oak"), "\"...\\Oak\"");
-    EXPECT_EQ(in_quotes("\\\\server\\share\\Oak"), "\"...\\Oak\"");
+    EXPECT_EQ(in_quotes("C:\\batch\\Plants\\Oak"), "\".../Oak\"");
+    EXPECT_EQ(in_quotes("\\\\server\\share\\Oak"), "\".../Oak\"");
     EXPECT_EQ(in_quotes("Oak/Ash"), "\"Oak/Ash\"");
     EXPECT_EQ(in_quotes(std::string("a\0b\n", 4)), "\"a?b?\"");
     EXPECT_EQ(in_quotes(std::string(100, 'x')), '"' + std::string(80, 'x') + "...\"");

@@ -46,7 +46,7 @@ std::string in_quotes(std::string_view text) {
     const std::size_t separator = text.find_last_of("/\\");
     std::string shown(text.substr(0, std::min(start, most_bytes + 1)));
     if (start < text.size())
-        shown.append("...").append(text.substr(separator, most_bytes + 1));
+        shown.append(".../").append(text.substr(separator + 1, most_bytes + 1));
     if (shown.size() > most_bytes)
         shown = shown.substr(0, most_bytes) + "...";
     for (char& c : shown)
