@@ -77,6 +77,8 @@ function prepare(material) {
   material.polygonOffset = true;
   material.polygonOffsetFactor = 1;
   material.polygonOffsetUnits = 1;
+  if (material.map)
+    material.map.anisotropy = 8; // floors are seen at a flat angle
   if (material.transmission > 0) {
     material.opacity = Math.min(material.opacity, 1 - 0.75 * material.transmission);
     material.transparent = true;
