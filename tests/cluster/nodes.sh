@@ -96,34 +96,20 @@ start_cluster() {
     for ((number = 1; number <= count; number++)); do wait_until 20 node_is_idle "n$number"; done
 }
 
-# has_variable PROCESS NAME=VALUE: whether it is in the environment that the process has begun with.
-has_variable() { grep -qzFx "$2" "/proc/$1/environ" 2>/dev/null; }
-
-# runs_on_node PROCESS NODE: whether it belongs to a job of this cluster that runs there.
-runs_on_node() { has_variable "$1" "SLURMD_NODENAME=$2" && has_variable "$1" "SLURM_CONF=$SLURM_CONF"; }
-
-# processes_of_job JOB: the ids of the processes of a job, without the slurmstepd above them.
-processes_of_job() {
-    local process
-    for process in /proc/[0-9]*; do
-        process=${process#/proc/}
-        if has_variable "$process" "SLURM_JOB_ID=$1" && has_variable "$process" "SLURM_CONF=$SLURM_CONF"; then
-            printf '%s\n' "$process"
-        fi
-    done
+# processes_with NAME=VALUE: the ids of the processes of this cluster's jobs that have begun with it in their environment.
+processes_with() {
+    { grep -lszFx "$1" /proc/[0-9]*/environ || true; } | { xargs -r grep -lszFx "SLURM_CONF=$SLURM_CONF" || true; } |
+        cut -d/ -f3
 }
+
+# processes_of_job JOB: without the slurmstepd above them.
+processes_of_job() { processes_with "SLURM_JOB_ID=$1"; }
 
 # processes_of_node NODE: the ids of all that its jobs consist of. A slurmstepd leaves the family of its slurmd but
 # writes to its log.
 processes_of_node() {
-    local process
-    for process in /proc/[0-9]*; do
-        process=${process#/proc/}
-        if runs_on_node "$process" "$1" ||
-            [ -n "$(find "/proc/$process/fd" -lname "$cluster_folder/slurmd.$1.log" -print -quit 2>/dev/null)" ]; then
-            printf '%s\n' "$process"
-        fi
-    done
+    processes_with "SLURMD_NODENAME=$1"
+    { find /proc/[0-9]*/fd -maxdepth 1 -lname "$cluster_folder/slurmd.$1.log" 2>/dev/null || true; } | cut -d/ -f3 | sort -u
 }
 
 # kill_all SIGNAL PROCESS...: those that are gone already do not matter.
