@@ -38,6 +38,15 @@ TEST(BatchView, the_picture_has_the_size_that_was_asked_for_and_shows_something)
     EXPECT_FALSE(folder.has("a.html"));
 }
 
+// The files of this batch say that its pictures lie below "@BATCH@".
+TEST(BatchView, pictures_of_a_batch_that_was_moved_are_found_in_it) {
+    const temporary_folder folder;
+    const std::string batch = std::string(TESSALINE_SOURCE_DIR) + "/examples/room/expected";
+    const program_result seen = run("batch-view", {batch, "--png", folder / "a.png", "--size", "30x20"});
+    EXPECT_EQ(seen.status, 0);
+    EXPECT_EQ(seen.errors, "");
+}
+
 TEST(SkpView, a_picture_without_background_is_clear_at_its_corner) {
     const temporary_folder folder;
     const program_result seen =
