@@ -9,6 +9,7 @@
 #include <cstring>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ struct read_glb {
     nlohmann::json text;
     std::string buffer;
 
+    // Throws for a file that is none at all.
     explicit read_glb(const std::string& file_name) {
         const std::vector<std::uint8_t> bytes = file_bytes(file_name);
         const auto number = [&bytes](std::size_t at) {
@@ -24,6 +26,8 @@ struct read_glb {
                 result = result << 8U | bytes.at(at + i);
             return result;
         };
+        if (bytes.size() < 20)
+            throw std::runtime_error("no GLB: " + file_name);
         EXPECT_EQ(std::string(bytes.begin(), bytes.begin() + 4), "glTF");
         EXPECT_EQ(number(4), 2U);
         EXPECT_EQ(number(8), bytes.size());
