@@ -40,6 +40,12 @@ constexpr seed seeds[] = {
      "PLLC;(1,2,3)\nPLDM;inf\nPLRT;45\nPLNT;1\nRPCP;(0,0,0)\nRPCX;(1,1,0)\nRPCY;(0,1,0)\nRPCZ;(0,0,1)\nRPSX;2\nRPCL;a\n"
      "RPCN;w\nMESH\nTLAY;a\nCULL;1\nMATL;3\nNORM;(nan,0,0)\nVERT;(1e39,0,0)\nADDV;2000000000\n"
      "FACE;2000000000, 0, 1\nEND;\n"},
+    {"fuzz_run_report", "of_a_finished_batch",
+     R"({"format":1,"program":"tessaline-run","version":"0.1.0","status":0,"folder":"/b","model":{"name":"m.skp","bytes":3,)"
+     R"("xxh128":"00"},"files":[],"options":{},"counts":{"triangles":2},"findings":[{"code":"orphan"}],"errors":0,)"
+     R"("warnings":1})"},
+    {"fuzz_run_report", "of_other_kinds", R"({"program":7,"model":[],"counts":"x","findings":null,"errors":1e300})"},
+    {"fuzz_run_report", "deep", R"({"findings":[[[[[[[[[[[[[[[[[[[[[[[[{"a":[1]}]]]]]]]]]]]]]]]]]]]]]]]]})"},
     {"fuzz_ini", "empty", ""},
     {"fuzz_ini", "profile",
      "; mine\r\n[Globals]\r\nsvl_name=a b\r\nivl_number = -5 \r\n\r\n[Common]\r\nPhone=\"1\"\r\n"},

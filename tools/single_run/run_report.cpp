@@ -38,9 +38,17 @@ json of_messages(const std::vector<std::string>& messages) {
     return list;
 }
 
-// Nothing for what is no JSON.
+constexpr int deepest_value = 16; // a report has four levels; writing takes a level of the stack for each
+
+// Discarded for what is no JSON. What lies deeper than any report does is left out.
 json parsed(std::string_view text) {
-    return json::parse(text, nullptr, false);
+    return json::parse(
+        text, [](int depth, json::parse_event_t, const json&) { return depth < deepest_value; }, false);
+}
+
+// 0 for what is no whole number.
+std::int64_t number_in(const json& object, const char* key) {
+    return object.contains(key) && object[key].is_number_integer() ? object[key].get<std::int64_t>() : 0;
 }
 
 std::string written(const json& value, int indentation) {
@@ -94,9 +102,7 @@ batch_verdict verdict_in(std::string_view bytes) {
         verdict.counts = written(before["counts"], -1);
     if (before.contains("findings"))
         verdict.findings = written(before["findings"], -1);
-    verdict.errors =
-        before.contains("errors") && before["errors"].is_number() ? before["errors"].get<std::int64_t>() : 0;
-    verdict.warnings =
-        before.contains("warnings") && before["warnings"].is_number() ? before["warnings"].get<std::int64_t>() : 0;
+    verdict.errors = number_in(before, "errors");
+    verdict.warnings = number_in(before, "warnings");
     return verdict;
 }

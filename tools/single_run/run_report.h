@@ -41,5 +41,5 @@ std::string text_of_report(const run_report& report);
 // folder. bytes: of the report.
 bool is_same_run(std::string_view bytes, const run_report& wanted);
 
-// What the report of a finished batch says of its content.
+// What the report of a finished batch says of its content; nothing for bytes that are no report. Never fails.
 batch_verdict verdict_in(std::string_view bytes);
