@@ -61,6 +61,19 @@ TEST(LineSource, sees_the_next_line_without_leaving_this_one) {
     }
 }
 
+// Looking for more moves the buffer, though none comes.
+TEST(LineSource, sees_no_next_line_where_the_file_ends_behind_this_one) {
+    for (std::size_t block = 1; block < 20; ++block)
+        for (const char* text : {"#;\r\n", "#;", "a\r\n#;\r\n"}) {
+            files_in_memory::bytes_in_memory bytes(text);
+            line_source lines(bytes, block);
+            while (!lines.at("#;"))
+                lines.advance();
+            EXPECT_FALSE(lines.next_is("END;")) << block;
+            EXPECT_EQ(lines.line(), "#;") << block;
+        }
+}
+
 TEST(LineSource, cuts_a_line_that_is_too_long_and_goes_on_behind_it) {
     for (std::size_t block = 1; block < 30; ++block) {
         const texts lines = lines_of("short\r\n" + std::string(100, 'x') + "\r\nlast\r\n", block, 10);

@@ -10,13 +10,11 @@ line_source::line_source(byte_source& from, std::size_t block, std::size_t longe
 bool line_source::next_is(std::string_view text) {
     if (is_at_end)
         return false;
-    const char* start = buffer.data() + after;
-    while (std::memchr(start, '\n', filled - after) == nullptr) {
-        if (filled - after > text.size() + 1 || !read_more())
-            break;
-        start = buffer.data() + after; // the buffer may have moved, and `after` with it
-    }
-    std::string_view rest(start, filled - after);
+    // Reading may move the buffer, and `after` with it, even if nothing more comes.
+    const auto behind = [this] { return std::string_view(buffer.data() + after, filled - after); };
+    while (behind().find('\n') == std::string_view::npos && behind().size() <= text.size() + 1 && read_more())
+        continue;
+    std::string_view rest = behind();
     rest = rest.substr(0, rest.find('\n'));
     if (rest.ends_with('\r'))
         rest.remove_suffix(1);
