@@ -68,6 +68,13 @@ TEST(GlbWriter, replaces_what_is_no_text_and_keeps_the_rest) {
     EXPECT_EQ(read_glb(folder / "a.glb").text["nodes"][0]["name"], "W\xEF\xBF\xBDrfel \xC3\xA4");
 }
 
+TEST(GlbWriter, text_without_numbers_is_no_failure) {
+    const temporary_folder folder;
+    glb_writer writer(folder / "a.glb");
+    writer.add(gltf::list::nodes, {{"name", "n"}});
+    EXPECT_FALSE(writer.has_failed());
+}
+
 TEST(GlbWriter, names_the_extensions_that_are_used) {
     const temporary_folder folder;
     glb_writer writer(folder / "a.glb");

@@ -76,7 +76,9 @@ std::uint64_t glb_writer::put_strand(byte_spool::strand from, width kept) {
 // Of the buffer no more than half can go away, where 32-bit numbers become 16-bit ones; of the text nothing.
 bool glb_writer::has_failed() const {
     const std::uint64_t text = size_of_lists();
-    return spooled.has_failed() || text > std::min(most_bytes, text_limit) || (spooled.size() - text) / 2 > most_bytes;
+    // The text counts the brackets of the lists, which are not spooled.
+    const std::uint64_t numbers = spooled.size() - std::min(spooled.size(), text);
+    return spooled.has_failed() || text > std::min(most_bytes, text_limit) || numbers / 2 > most_bytes;
 }
 
 // All but the lists and the closing brace.
