@@ -32,7 +32,8 @@ void write_to_trace(std::string_view text) {
 }
 
 void trace_refused_write(const std::string& name, const std::string& words) {
-    write_to_trace("file:: REPORT: Cannot write " + name + ": " + words + '\n');
+    if (is_unattended())
+        write_to_trace("file:: REPORT: Cannot write " + name + ": " + words + '\n');
 }
 
 } // namespace platform

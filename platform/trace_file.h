@@ -14,8 +14,9 @@ bool trace_is_wanted();
 // "-". Nothing is written where it is not set, and what cannot be written is lost.
 void write_to_trace(std::string_view text);
 
-// That a disk takes nothing under that name, with the system's words for the reason. Whoever looks for the cause of a
-// batch that is not whole finds it here.
+// That a disk takes nothing under that name, with the system's words for the reason: the program that watches an
+// unattended one looks here for the cause of a batch that is not whole. Nothing is written where somebody sits before
+// it.
 void trace_refused_write(const std::string& name, const std::string& words);
 
 // write_to_trace for the console alone (console.cpp of each system).
