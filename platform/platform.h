@@ -195,8 +195,8 @@ std::string absolute_name(const std::string& name);
 bool make_folder(const std::string& name); // the parent must exist; false also if the name is taken
 bool delete_file(const std::string& name); // a file or a link itself, never a folder
 bool delete_empty_folder(const std::string& name);
-// Whatever was written on the file system of that folder is on its disk when it returns; false if the disk refused it.
-// Windows: true, and nothing is done: there each file would have to be opened for that.
+// Whatever was written in that folder and below it is on its disk when it returns; false if the disk refused it. A file
+// that somebody holds (held_file.h) is left to its holder on Windows.
 bool flush_file_system(const std::string& folder);
 bool rename_replacing(const std::string& from, const std::string& to); // atomic; an old file `to` is replaced
 
@@ -235,7 +235,8 @@ public:
 
     // Closes what was open and opens another file. Never waits: a pipe that nobody reads cannot be opened for writing.
     // False on failure, with the system's words in failure(), or "Not a plain file". Where a disk takes nothing from
-    // this user, for want of room or of rights, the trace says so, and so it does of a later write.
+    // this user, for want of room or of rights, the trace of a program that is_unattended() says so, and so it does of
+    // a later write.
     bool open(const std::string& name, open_mode mode);
     bool is_open() const { return handle != closed; }
 

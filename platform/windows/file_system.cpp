@@ -79,6 +79,13 @@ folder_entry entry_of(const WIN32_FIND_DATAA& found) {
     return entry;
 }
 
+// A file that somebody holds is flushed by its holder.
+bool flush_file(const std::string& name) {
+    const system_handle opened =
+        owned(CreateFileA(name.c_str(), GENERIC_WRITE, share_all, nullptr, OPEN_EXISTING, 0, nullptr));
+    return opened ? FlushFileBuffers(opened.get()) : GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 bool has_wildcard(const std::string& name) {
     return name.find_first_of("*?") != std::string::npos;
 }
@@ -161,8 +168,16 @@ bool delete_empty_folder(const std::string& name) {
     return RemoveDirectoryA(name.c_str());
 }
 
-bool flush_file_system(const std::string&) {
-    return true;
+bool flush_file_system(const std::string& folder) {
+    bool is_flushed = true;
+    for (const folder_entry& entry : list_folder(folder).value_or(std::vector<folder_entry>())) {
+        const std::string name = folder + path_separator + entry.name;
+        if (entry.is_folder)
+            is_flushed = flush_file_system(name) && is_flushed;
+        else if (!entry.is_symbolic_link)
+            is_flushed = flush_file(name) && is_flushed;
+    }
+    return is_flushed;
 }
 
 bool rename_replacing(const std::string& from, const std::string& to) {
