@@ -44,11 +44,13 @@ TEST(ErrorDialog, silences_by_ok_with_the_box_ticked) {
 }
 
 TEST(ErrorDialog, does_not_silence_if_the_window_is_closed) {
-    driven_program desk("window_desk", {"error", "message", "offered"});
-    const HWND dialog = desk.dialog(title);
-    tick_silence(dialog);
-    PostMessageA(dialog, WM_CLOSE, 0, 0);
-    EXPECT_EQ(desk.line(), "ok");
+    for (const char* kind : {"message", "report"}) {
+        driven_program desk("window_desk", {"error", kind, "offered"});
+        const HWND dialog = desk.dialog(title);
+        tick_silence(dialog);
+        PostMessageA(dialog, WM_CLOSE, 0, 0);
+        EXPECT_EQ(desk.line(), "ok");
+    }
 }
 
 TEST(ErrorDialog, more_does_not_silence) {

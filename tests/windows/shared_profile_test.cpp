@@ -1,6 +1,7 @@
 // The profile beside programs that use the system's own calls for ini files.
 
 #include "platform/platform.h"
+#include "qlw/ini_file.h"
 #include "qlw/ini_store.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/windows/driven_program.h"
@@ -80,6 +81,15 @@ TEST_F(SharedProfile, a_write_gives_up_and_a_read_finds_nothing_if_a_program_nev
     holder.go_on();
     EXPECT_EQ(holder.status(), 0u);
     EXPECT_EQ(system_value("ours"), "1");
+}
+
+TEST(SharedIni, a_bare_name_is_found_in_the_folder_of_the_system) {
+    const std::string name = "tessaline_test_" + std::to_string(GetCurrentProcessId()) + ".ini";
+    const std::string file = platform::shared_ini_folder() + "\\" + name;
+    if (!WritePrivateProfileStringA("Globals", "key", "there", file.c_str()))
+        GTEST_SKIP() << "only an administrator may write there";
+    EXPECT_EQ(get_string_from_default_ini("Globals", "key", "-", name), "there");
+    EXPECT_TRUE(DeleteFileA(file.c_str()));
 }
 
 } // namespace

@@ -90,10 +90,19 @@ TEST_F(Registry, the_view_of_32_bits_is_a_key_of_its_own) {
                         KEY_ALL_ACCESS | KEY_WOW64_32KEY, nullptr, &made, nullptr) != ERROR_SUCCESS)
         GTEST_SKIP() << "only an administrator may write there";
     RegSetValueExA(made, "text", 0, REG_SZ, reinterpret_cast<const BYTE*>("old"), 4);
+    RegSetValueExA(made, "number", 0, REG_DWORD, reinterpret_cast<const BYTE*>("\x60\0\0\0"), 4);
+    RegSetValueExA(made, "binary", 0, REG_BINARY, reinterpret_cast<const BYTE*>("\0\0\0\0\0\0\xf8\x3f"), 8);
     RegCloseKey(made);
     EXPECT_FALSE(registry->has_key(registry_hive::local_machine, "SOFTWARE\\" + name));
     EXPECT_TRUE(registry->has_key(registry_hive::local_machine, narrow));
-    EXPECT_EQ(bytes_of(registry->read(registry_hive::local_machine, narrow, "text")), std::string("old", 4));
+    const auto read_narrow = [&](const char* value) {
+        return registry->read(registry_hive::local_machine, narrow, value);
+    };
+    EXPECT_EQ(bytes_of(read_narrow("text")), std::string("old", 4));
+    EXPECT_EQ(read_narrow("number").type, 4u);
+    EXPECT_EQ(bytes_of(read_narrow("number")), std::string("\x60\0\0\0", 4));
+    EXPECT_EQ(read_narrow("binary").type, 3u);
+    EXPECT_EQ(bytes_of(read_narrow("binary")), std::string("\0\0\0\0\0\0\xf8\x3f", 8)); // 1.5
     RegDeleteTreeA(HKEY_LOCAL_MACHINE, narrow.c_str());
 }
 
