@@ -54,7 +54,7 @@ TEST_P(ProgramsBeside, nothing_on_the_command_line_is_the_usage_and_status_2) {
 INSTANTIATE_TEST_SUITE_P(All, ProgramsBeside,
                          testing::Values("skp-dump", "batch-check", "tessaline-run", "example_garden", "example_room",
                                          "example_stages", "draw_model", "draw_stream", "damage_samples", "make_seeds",
-                                         "batch-view", "skp-view"),
+                                         "batch-view", "skp-view", "batch-to-glb", "skp-to-glb"),
                          [](const auto& program) {
                              std::string name = program.param;
                              std::replace(name.begin(), name.end(), '-', '_');
