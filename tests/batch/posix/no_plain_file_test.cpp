@@ -72,6 +72,14 @@ void put_edited_square(batch& b) {
     b.put_model(m);
 }
 
+// What the material's file holds already is not read, and what is written goes where the name leads.
+TEST(NoPlainFileOutput, an_endless_device_is_written_and_not_read) {
+    batch b;
+    put_edited_square(b);
+    put(stand_in::endless_device, b / "ZynBatch_Materials/COL%3a0005_Edited.OrnMaterial");
+    EXPECT_EQ(status_of_run(b), 0);
+}
+
 TEST(NoPlainFileOutput, a_pipe_that_nobody_reads_is_not_waited_for) {
     for (const char* output : {"batch_file.txt", "ZynBatch_Materials/COL%3a0005_Edited.OrnMaterial"}) {
         batch b;
