@@ -1,6 +1,7 @@
 #include "tests/tools/single_run/posix/started_program.h"
 
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -23,6 +24,8 @@ started_program::started_program(const program_start& start, uid_t user) {
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     process = fork();
     if (process == 0) {
+        for (const int number : {SIGHUP, SIGINT, SIGTERM})
+            signal(number, SIG_DFL); // whoever runs the tests may ignore them
         for (const auto& [name, value] : start.environment)
             value ? setenv(name.c_str(), value->c_str(), 1) : unsetenv(name.c_str());
         dup2(nothing, STDIN_FILENO);
