@@ -13,7 +13,7 @@
 namespace {
 
 void check_list(const std::string& text) {
-    const list_reading read = read_model_list(text, "/farm/folder", std::nullopt);
+    const list_reading read = read_model_list(text, "/house/folder", std::nullopt);
     if (!read.refusal.empty())
         return;
     std::string again;

@@ -17,7 +17,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 list_reading read(std::string_view text, const std::optional<std::string>& root = std::nullopt) {
-    return read_model_list(text, "/farm", root);
+    return read_model_list(text, "/house", root);
 }
 
 TEST(ModelList, places_are_below_the_deepest_folder_that_holds_all_models) {
@@ -47,7 +47,7 @@ TEST(ModelList, models_that_share_nothing_have_their_places_below_the_root_of_th
 }
 
 TEST(ModelList, a_name_that_is_not_full_starts_at_the_folder_given) {
-    EXPECT_EQ(read("x.skp\nhouses/y.skp").list.model(1), "/farm/houses/y.skp");
+    EXPECT_EQ(read("x.skp\nhouses/y.skp").list.model(1), "/house/houses/y.skp");
     EXPECT_EQ(read("../x.skp").list.model(0), "/x.skp");
     EXPECT_EQ(read("../../../x.skp").list.model(0), "/x.skp");
 }
@@ -67,12 +67,12 @@ TEST(ModelList, names_ended_by_zero_bytes_may_hold_line_feeds) {
 }
 
 TEST(ModelList, a_model_listed_twice_is_one_model_however_it_is_spelt) {
-    EXPECT_THAT(read("a/x.skp\nb/y.skp\n./a//x.skp\nb/../a/x.skp\n/farm/a/./x.skp\n").list.places,
+    EXPECT_THAT(read("a/x.skp\nb/y.skp\n./a//x.skp\nb/../a/x.skp\n/house/a/./x.skp\n").list.places,
                 ElementsAre("a/x.skp", "b/y.skp"));
 }
 
 TEST(ModelList, a_folder_may_be_named_as_the_common_one) {
-    EXPECT_THAT(read("a/x.skp", "/").list.places, ElementsAre("farm/a/x.skp"));
+    EXPECT_THAT(read("a/x.skp", "/").list.places, ElementsAre("house/a/x.skp"));
     EXPECT_THAT(read("a/x.skp", ".").list.places, ElementsAre("a/x.skp"));
     EXPECT_THAT(read("/m/a/x.skp", "/m/b/../").list.places, ElementsAre("a/x.skp"));
 }
