@@ -622,8 +622,8 @@ enum SUResult SUCameraGetOrientation(SUCameraRef camera, struct SUPoint3D* posit
 // Whether it draws in perspective, and not in parallel.
 enum SUResult SUCameraGetPerspective(SUCameraRef camera, bool* perspective);
 
-// The field of view in degrees; NO_DATA for a parallel camera. The second: whether it is the angle of the view's height,
-// and not of its width.
+// The field of view in degrees; NO_DATA for a parallel camera. The second: whether it is the angle of the view's
+// height, and not of its width.
 enum SUResult SUCameraGetPerspectiveFrustumFOV(SUCameraRef camera, double* field_of_view);
 enum SUResult SUCameraGetFOVIsHeight(SUCameraRef camera, bool* is_height);
 
