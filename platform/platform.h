@@ -84,8 +84,10 @@ bool is_terminal(standard_stream stream);
 // lines "progress 42", one for each percentage that is new.
 bool is_unattended();
 
-// Writes the bytes at once and unchanged; a failure is ignored, since there is no other place to tell of it.
-void write_standard_output(std::string_view text);
+// Writes the bytes at once and unchanged. False if not all could be written: a full disk, a reader that is gone, a
+// closed stream. Windows: true where there is neither a stream nor a console, since nobody listens there.
+bool write_standard_output(std::string_view text);
+// The same; a failure is ignored, since there is no other place to tell of it.
 void write_standard_error(std::string_view text);
 
 // Text for developers: the file that the environment variable TESSALINE_TRACE names (each call appends to it and closes

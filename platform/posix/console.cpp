@@ -24,15 +24,16 @@ int descriptor_of(standard_stream stream) {
     return STDERR_FILENO;
 }
 
-void write_standard(standard_stream stream, std::string_view text) {
+bool write_standard(standard_stream stream, std::string_view text) {
     while (!text.empty()) {
         const ssize_t written = write(descriptor_of(stream), text.data(), text.size());
         if (written < 0 && errno == EINTR)
             continue;
         if (written <= 0)
-            return;
+            return false;
         text.remove_prefix(static_cast<std::size_t>(written));
     }
+    return true;
 }
 
 // For whole lines. A progress bar may stand on the terminal, with the cursor at its start.
@@ -49,8 +50,8 @@ bool is_terminal(standard_stream stream) {
     return isatty(descriptor_of(stream)) == 1;
 }
 
-void write_standard_output(std::string_view text) {
-    write_standard(standard_stream::output, text);
+bool write_standard_output(std::string_view text) {
+    return write_standard(standard_stream::output, text);
 }
 
 void write_standard_error(std::string_view text) {

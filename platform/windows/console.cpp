@@ -49,35 +49,35 @@ HANDLE output_handle(standard_stream stream) {
     return opened;
 }
 
-void write_to_console(HANDLE console, std::string_view text) {
+bool write_to_console(HANDLE console, std::string_view text) {
     const std::wstring wide = wide_text(text, CP_ACP, 0);
     for (std::size_t at = 0; at < wide.size();) {
         constexpr std::size_t largest_step = 8192; // older consoles have 64 KiB for all
         DWORD written = 0;
         const auto step = static_cast<DWORD>(std::min(wide.size() - at, largest_step));
         if (!WriteConsoleW(console, wide.data() + at, step, &written, nullptr) || written == 0)
-            return;
+            return false;
         at += written;
     }
+    return true;
 }
 
-void write_standard(standard_stream stream, std::string_view text) {
+bool write_standard(standard_stream stream, std::string_view text) {
     const HANDLE output = output_handle(stream);
     if (!output)
-        return;
-    if (is_console(output)) {
-        write_to_console(output, text);
-        return;
-    }
+        return true;
+    if (is_console(output))
+        return write_to_console(output, text);
     while (!text.empty()) {
         constexpr std::size_t largest_step = 0x40000000;
         DWORD written = 0;
         if (!WriteFile(output, text.data(), static_cast<DWORD>(std::min(text.size(), largest_step)), &written,
                        nullptr) ||
             written == 0)
-            return;
+            return false;
         text.remove_prefix(written);
     }
+    return true;
 }
 
 } // namespace
@@ -86,8 +86,8 @@ bool is_terminal(standard_stream stream) {
     return is_console(GetStdHandle(number_of(stream)));
 }
 
-void write_standard_output(std::string_view text) {
-    write_standard(standard_stream::output, text);
+bool write_standard_output(std::string_view text) {
+    return write_standard(standard_stream::output, text);
 }
 
 void write_standard_error(std::string_view text) {

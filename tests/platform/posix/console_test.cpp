@@ -37,6 +37,25 @@ TEST(DebugOutput, is_heard_if_it_is_asked_for) {
     }
 }
 
+TEST(Console, what_standard_output_does_not_take_is_told) {
+    const int kept = dup(STDOUT_FILENO);
+    const int full = open("/dev/full", O_WRONLY);
+    ASSERT_GE(full, 0);
+    dup2(full, STDOUT_FILENO);
+    const bool into_full = platform::write_standard_output("text");
+    close(STDOUT_FILENO);
+    const bool into_closed = platform::write_standard_output("text");
+    const int nowhere = open("/dev/null", O_WRONLY); // in the place of the closed stream
+    const bool into_nowhere = platform::write_standard_output("text");
+    dup2(kept, STDOUT_FILENO);
+    for (const int descriptor : {kept, full})
+        close(descriptor);
+    EXPECT_EQ(nowhere, STDOUT_FILENO);
+    EXPECT_FALSE(into_full);
+    EXPECT_FALSE(into_closed);
+    EXPECT_TRUE(into_nowhere);
+}
+
 TEST(Console, a_pipe_is_no_terminal) {
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
