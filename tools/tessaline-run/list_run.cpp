@@ -14,6 +14,8 @@ namespace {
 constexpr std::uint64_t largest_list = std::uint64_t{1} << 32U;   // bytes; some ten million models
 constexpr std::uint64_t largest_report = std::uint64_t{1} << 26U; // bytes; its findings are bounded
 
+constexpr const char* refused_output = "Standard output does not take what is to be printed";
+
 // The last line on standard error. Gives the status.
 int end_with(int status, const std::string& sentence) {
     platform::write_standard_error("tessaline-run: " + sentence + ".\n");
@@ -155,11 +157,13 @@ public:
     int show_table() const {
         const std::vector<table_row> all = rows();
         const std::string text = table_as_text(all);
-        platform::write_standard_output(text);
+        const bool is_printed = platform::write_standard_output(text);
         const std::string table = folder + platform::path_separator + "table";
         if (is_whole_list() && (!make_folders(folder) || !write_file(table + ".csv", table_as_csv(all)) ||
                                 !write_file(table + ".txt", text)))
             return end_with(run_status::not_written, "The table cannot be written to " + folder);
+        if (!is_printed)
+            return end_with(run_status::not_written, refused_output);
         const int status = highest_status(all);
         return end_with(status, status == 0 ? "All models are done" : "Not all models are done; the table tells why");
     }
@@ -225,6 +229,7 @@ int print_count(const list_options& options) {
     const list_reading reading = read_list(options);
     if (!reading.refusal.empty())
         return end_with(run_status::usage, reading.refusal);
-    platform::write_standard_output(std::to_string(reading.list.places.size()) + "\n");
+    if (!platform::write_standard_output(std::to_string(reading.list.places.size()) + "\n"))
+        return end_with(run_status::not_written, refused_output);
     return 0;
 }

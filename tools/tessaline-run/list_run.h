@@ -25,11 +25,12 @@ struct list_options {
 // log, and, if all models were asked for, the table as table.csv and table.txt. Prints the table on standard output and
 // ends with a sentence on standard error. Gives the status for the program: 0 if all models are done or were so before,
 // else the highest of their statuses; 2 for a list that cannot be worked on or where GNU parallel is missing, 4 if the
-// output folder cannot be written, 6 if the run is asked to end.
+// output folder or standard output cannot be written, 6 if the run is asked to end.
 int run_list(const list_options& options);
 
 // The table alone, from the reports that are there, for all models of the list. The same output and statuses.
 int print_table(const list_options& options);
 
-// How many models the list has, as one line on standard output. 0, or 2 for a list that cannot be worked on.
+// How many models the list has, as one line on standard output. 0, 2 for a list that cannot be worked on, or 4 if the
+// line cannot be written.
 int print_count(const list_options& options);

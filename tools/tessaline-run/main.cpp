@@ -32,10 +32,12 @@ std::string usage() {
 }
 
 // The last line is a sentence.
-int told(const run_report& report) {
-    if (report.status == run_status::done)
-        platform::write_standard_output(report.sentence + '\n');
-    else
+int told(run_report report) {
+    if (report.status == run_status::done && !platform::write_standard_output(report.sentence + '\n')) {
+        report.status = run_status::not_written;
+        report.sentence += " Standard output does not take this sentence.";
+    }
+    if (report.status != run_status::done)
         platform::write_standard_error("tessaline-run: " + report.sentence + '\n');
     return static_cast<int>(report.status);
 }

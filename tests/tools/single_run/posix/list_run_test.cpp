@@ -205,6 +205,21 @@ TEST_F(ListRun, a_request_to_end_ends_all_runs_and_leaves_no_batch) {
     EXPECT_FALSE(here.has("out/y.skp"));
 }
 
+TEST_F(ListRun, a_table_or_a_count_that_standard_output_refuses_is_status_4) {
+    put_listed_model("x.skp");
+    ASSERT_EQ(run_list().status, 0);
+    const std::vector<std::vector<std::string>> command_lines = {{"--table", here / "list", here / "out"},
+                                                                 {"--count", here / "list"}};
+    for (const std::vector<std::string>& words : command_lines) {
+        program_start start = start_of(words);
+        start.arguments.insert(start.arguments.begin(), {"-c", "exec \"$@\" >/dev/full", "sh", start.program});
+        start.program = "/bin/sh";
+        const program_result seen = run_program(start);
+        EXPECT_EQ(seen.status, 4) << words[0];
+        EXPECT_EQ(last_line(seen.errors), "tessaline-run: Standard output does not take what is to be printed.");
+    }
+}
+
 TEST_F(ListRun, a_model_whose_run_has_left_no_report_counts_as_failed) {
     put_listed_model("x.skp");
     put_listed_model("y.skp");

@@ -102,6 +102,16 @@ TEST_F(RefusingDisk, a_report_that_the_disk_refuses_has_status_4_and_the_batch_s
     EXPECT_TRUE(here.has("batch/tessaline-run.json"));
 }
 
+TEST_F(RefusingDisk, a_last_line_that_standard_output_refuses_has_status_4_and_the_batch_stays) {
+    program_start start = start_with({});
+    start.arguments.insert(start.arguments.begin(), {"-c", "exec \"$@\" >/dev/full", "sh", start.program});
+    start.program = "/bin/sh";
+    const program_result outcome = run_program(start);
+    EXPECT_EQ(outcome.status, 4);
+    EXPECT_THAT(last_line(outcome.errors), testing::EndsWith(" Standard output does not take this sentence."));
+    EXPECT_TRUE(here.has("batch/tessaline-run.json"));
+}
+
 TEST_F(RefusingDisk, a_run_whose_standard_streams_are_closed_writes_its_words_into_no_file) {
     program_start start = start_with({"--progress", "openjd", "--json", here / "report.json"});
     start.arguments.insert(start.arguments.begin(), {"-c", "exec \"$@\" <&- >&- 2>&-", "sh", start.program});
