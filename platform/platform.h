@@ -242,7 +242,8 @@ public:
     bool open(const std::string& name, open_mode mode);
     bool is_open() const { return handle != closed; }
 
-    // Reads up to `size` bytes, fewer only at the end of the file. Gives the number read; 0 at the end and on an error.
+    // Reads up to `size` bytes, fewer only at the end of the file or where the system fails; then failure() has its
+    // words, and at the end it is empty. Gives the number read.
     std::size_t read(void* buffer, std::size_t size);
     // Writes all bytes, in as many steps as the system needs. False if not all could be written.
     bool write_all(std::string_view bytes);
@@ -250,7 +251,7 @@ public:
     // False if the system reports a late write error, or if the file was not open.
     bool close();
 
-    // Why the last open or write failed, in the system's words; may be empty.
+    // Why opening, reading or writing failed since the file was opened, in the system's words.
     const std::string& failure() const { return failure_text; }
 
 private:
@@ -260,7 +261,7 @@ private:
     std::string failure_text;
 };
 
-// The whole file. Nothing if it cannot be opened, is no plain file, or has more than `limit` bytes.
+// The whole file. Nothing if it cannot be opened or read, is no plain file, or has more than `limit` bytes.
 std::optional<std::vector<std::byte>> read_file(const std::string& name, std::uint64_t limit);
 
 // ---- files that several processes write (shared_file.cpp)

@@ -87,6 +87,8 @@ std::size_t file::read(void* buffer, std::size_t size) {
             ::read(static_cast<int>(handle), static_cast<char*>(buffer) + total, std::min(size - total, largest_step));
         if (count < 0 && errno == EINTR)
             continue;
+        if (count < 0)
+            failure_text = words_for(errno);
         if (count <= 0)
             break;
         total += static_cast<std::size_t>(count);
@@ -132,7 +134,7 @@ std::optional<std::vector<std::byte>> read_file(const std::string& name, std::ui
         return std::nullopt;
     std::vector<std::byte> bytes(static_cast<std::size_t>(*size));
     bytes.resize(input.read(bytes.data(), bytes.size())); // shorter if someone cut the file meanwhile
-    return bytes;
+    return input.failure().empty() ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 } // namespace platform

@@ -73,7 +73,11 @@ std::size_t file::read(void* buffer, std::size_t size) {
     while (is_open() && total < size) {
         DWORD count = 0;
         const auto step = static_cast<DWORD>(std::min(size - total, largest_step));
-        if (!ReadFile(handle_of(handle), static_cast<char*>(buffer) + total, step, &count, nullptr) || count == 0)
+        if (!ReadFile(handle_of(handle), static_cast<char*>(buffer) + total, step, &count, nullptr)) {
+            failure_text = words_for(GetLastError());
+            break;
+        }
+        if (count == 0)
             break;
         total += count;
     }

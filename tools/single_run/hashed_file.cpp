@@ -31,6 +31,8 @@ hashed_file read_through(const std::string& from, const std::string* to, const r
         if (clock.must_stop() != stop_reason::none)
             return failed(std::move(result), file_fault::stopped, {});
         count = source.read(buffer.data(), buffer.size());
+        if (!source.failure().empty())
+            return failed(std::move(result), file_fault::not_read, source.failure());
         const std::string_view bytes(buffer.data(), count);
         hash.add(bytes);
         result.facts.bytes += count;

@@ -34,6 +34,15 @@ TEST(SpecialFile, what_is_no_plain_file_is_not_read) {
     }
 }
 
+// The memory of this process is a plain file, and nothing can be read at its begin.
+TEST(SpecialFile, a_read_that_fails_is_no_end_of_the_file) {
+    platform::file file;
+    ASSERT_TRUE(file.open("/proc/self/mem", open_mode::read));
+    EXPECT_EQ(file.failure(), "");
+    EXPECT_EQ(all_of(file), "");
+    EXPECT_EQ(file.failure(), "Input/output error");
+}
+
 TEST(SpecialFile, a_link_to_a_plain_file_is_read) {
     const temporary_folder folder;
     folder.write("a", "abc");

@@ -121,6 +121,14 @@ TEST_F(RefusingDisk, a_run_whose_standard_streams_are_closed_writes_its_words_in
     EXPECT_EQ(nlohmann::json::parse(here.read("report.json"))["status"], 0);
 }
 
+// The memory of a process is a plain file, and nothing can be read at its begin.
+TEST_F(RefusingDisk, a_model_that_the_disk_fails_to_give_has_status_3_with_the_words_of_the_system) {
+    const program_result outcome = run_program(start_of({"/proc/self/mem", here / "batch"}));
+    EXPECT_EQ(outcome.status, 3);
+    EXPECT_EQ(last_line(outcome.errors), "tessaline-run: /proc/self/mem cannot be read: Input/output error.");
+    EXPECT_FALSE(here.has("batch"));
+}
+
 TEST_F(RefusingDisk, a_link_in_place_of_the_folder_is_refused_whatever_it_leads_to) {
     const std::string elsewhere = here.make_folder("elsewhere");
     std::filesystem::create_directory_symlink(elsewhere, here / "batch");
