@@ -31,6 +31,16 @@ inline constexpr bool lives_on_the_console = true; // asks and tells on the term
 inline constexpr std::size_t longest_name = 4095;
 #endif
 
+// ---- names (names.cpp); no disk is asked
+
+// A name inside a folder, with one separator between; the name alone for the empty folder.
+std::string joined(std::string_view folder, std::string_view name);
+// What stands behind the last separator, or the colon of a drive; the whole name if there is none.
+std::string last_part(std::string_view name);
+// The name of the folder above, without a separator at its end; empty for what stands in the root, and for a name
+// without folder.
+std::string parent_of(std::string_view name);
+
 // ---- texts (text_encoding.cpp)
 
 // The interface to the host speaks UTF-8, the program and its files the platform's own encoding. These are the one
@@ -195,6 +205,12 @@ std::optional<std::string> real_name(const std::string& name);   // full name wi
 std::string absolute_name(const std::string& name);
 
 bool make_folder(const std::string& name); // the parent must exist; false also if the name is taken
+struct made_folders {
+    bool is_there = false;         // the folder asked for, made by this call or by anyone else
+    std::vector<std::string> made; // by this call, the outermost first, even if it failed further in
+};
+// Makes the folder with all that are missing above it. name: without a separator at its end (names.cpp).
+made_folders make_folders(const std::string& name);
 bool delete_file(const std::string& name); // a file or a link itself, never a folder
 bool delete_empty_folder(const std::string& name);
 // Whatever was written in that folder and below it is on its disk when it returns; false if the disk refused it. A file

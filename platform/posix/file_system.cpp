@@ -67,10 +67,10 @@ std::optional<std::string> real_name(const std::string& name) {
 std::string absolute_name(const std::string& name) {
     if (name.empty())
         return name;
-    std::string joined = name.front() == path_separator ? name : current_folder() + path_separator + name;
+    std::string full = name.front() == path_separator ? name : joined(current_folder(), name);
     const auto both_separators = [](char a, char b) { return a == path_separator && b == path_separator; };
-    joined.erase(std::unique(joined.begin(), joined.end(), both_separators), joined.end());
-    return joined;
+    full.erase(std::unique(full.begin(), full.end(), both_separators), full.end());
+    return full;
 }
 
 bool make_folder(const std::string& name) {
@@ -116,7 +116,7 @@ std::optional<std::vector<folder_entry>> list_folder(const std::string& name) {
         entry.name = item->d_name;
         if (entry.name == "." || entry.name == "..")
             continue;
-        if (const auto status = status_of_name_itself(name + path_separator + entry.name)) {
+        if (const auto status = status_of_name_itself(joined(name, entry.name))) {
             entry.is_folder = S_ISDIR(status->st_mode);
             entry.is_symbolic_link = S_ISLNK(status->st_mode);
             entry.size = S_ISREG(status->st_mode) ? static_cast<std::uint64_t>(status->st_size) : 0;

@@ -24,6 +24,46 @@ TEST(FileSystem, tells_files_and_folders_apart) {
     EXPECT_FALSE(platform::exists(""));
 }
 
+TEST(Names, are_put_together_with_one_separator) {
+    const std::string folder = with_own_separators("/a");
+    EXPECT_EQ(platform::joined(folder, "b"), with_own_separators("/a/b"));
+    EXPECT_EQ(platform::joined(folder + platform::path_separator, "b"), with_own_separators("/a/b"));
+    EXPECT_EQ(platform::joined(with_own_separators("/"), "b"), with_own_separators("/b"));
+    EXPECT_EQ(platform::joined("", "b"), "b");
+}
+
+TEST(Names, are_taken_apart_at_the_last_separator) {
+    const std::string name = with_own_separators("/a/b.skp");
+    EXPECT_EQ(platform::last_part(name), "b.skp");
+    EXPECT_EQ(platform::last_part("b.skp"), "b.skp");
+    EXPECT_EQ(platform::last_part(with_own_separators("/a/")), "");
+    EXPECT_EQ(platform::last_part("C:b\\c/d"), "d");
+    EXPECT_EQ(platform::last_part("C:d"), platform::has_drive_letters ? "d" : "C:d");
+    EXPECT_EQ(platform::parent_of(name), with_own_separators("/a"));
+    EXPECT_EQ(platform::parent_of(with_own_separators("/a")), "");
+    EXPECT_EQ(platform::parent_of("a"), "");
+}
+
+TEST(FileSystem, makes_a_folder_with_those_above_it_and_tells_which_were_missing) {
+    const temporary_folder folder;
+    folder.make_folder("a");
+    const platform::made_folders made = platform::make_folders(folder / "a/b/c");
+    EXPECT_TRUE(made.is_there);
+    EXPECT_THAT(made.made, ElementsAre(folder / "a/b", folder / "a/b/c"));
+    EXPECT_TRUE(platform::is_folder(folder / "a/b/c"));
+    const platform::made_folders again = platform::make_folders(folder / "a/b/c");
+    EXPECT_TRUE(again.is_there);
+    EXPECT_TRUE(again.made.empty());
+}
+
+TEST(FileSystem, no_folder_is_made_in_a_file_or_in_place_of_one) {
+    const temporary_folder folder;
+    folder.write("a", "a file");
+    EXPECT_FALSE(platform::make_folders(folder / "a").is_there);
+    EXPECT_FALSE(platform::make_folders(folder / "a/b").is_there);
+    EXPECT_EQ(folder.read("a"), "a file");
+}
+
 TEST(FileSystem, gives_the_size_of_plain_files_only) {
     const temporary_folder folder;
     EXPECT_EQ(platform::file_size(folder.write("a.txt", "abc")), 3u);

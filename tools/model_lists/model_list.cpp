@@ -119,9 +119,9 @@ list_reading read_model_list(std::string_view text, const std::string& folder, c
 }
 
 std::string batch_folder(const std::string& output, const std::string& place) {
-    return output + separator + place;
+    return platform::joined(output, place);
 }
 
 std::string report_file(const std::string& output, const std::string& place) {
-    return output + separator + std::string(list_folder_name) + separator + "reports" + separator + place + ".json";
+    return platform::joined(platform::joined(platform::joined(output, list_folder_name), "reports"), place + ".json");
 }

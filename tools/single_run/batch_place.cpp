@@ -17,10 +17,6 @@ constexpr int tries = 50;                                         // for a secon
 constexpr auto time_between_tries = std::chrono::milliseconds(20);
 constexpr const char* is_taken = "is in use by another run";
 
-std::string inside(const std::string& folder, std::string_view file) {
-    return folder + platform::path_separator + std::string(file);
-}
-
 // Also for a link that leads nowhere.
 bool name_is_taken(const std::string& name) {
     return platform::exists(name) || platform::is_symbolic_link(name);
@@ -35,11 +31,11 @@ bool is_real_folder(const std::string& name) {
 }
 
 bool has_mark(const std::string& folder) {
-    return is_plain_file(inside(folder, mark_name));
+    return is_plain_file(platform::joined(folder, mark_name));
 }
 
 bool has_report(const std::string& folder) {
-    return is_plain_file(inside(folder, report_name));
+    return is_plain_file(platform::joined(folder, report_name));
 }
 
 bool is_empty(const std::string& folder) {
@@ -52,7 +48,7 @@ bool clear_but(const std::string& folder, std::string_view kept) {
     bool is_clear = true;
     for (const platform::folder_entry& entry :
          platform::list_folder(folder).value_or(std::vector<platform::folder_entry>())) {
-        const std::string found = inside(folder, entry.name);
+        const std::string found = platform::joined(folder, entry.name);
         if (entry.is_folder)
             is_clear = clear_but(found, {}) && platform::delete_empty_folder(found) && is_clear;
         else if (entry.name != kept)
@@ -66,11 +62,6 @@ bool is_one_of_ours(const std::string& folder) {
     return is_real_folder(folder) && (has_report(folder) || has_mark(folder) || is_empty(folder));
 }
 
-std::string parent_of(const std::string& name) {
-    const std::size_t separator = name.rfind(platform::path_separator);
-    return separator == std::string::npos || separator == 0 ? std::string() : name.substr(0, separator);
-}
-
 } // namespace
 
 bool is_report(std::string_view bytes) {
@@ -81,7 +72,7 @@ bool is_report(std::string_view bytes) {
 batch_place::batch_place(std::string folder) : name(std::move(folder)), aside(name + std::string(put_aside_ending)) {}
 
 std::string batch_place::operator/(std::string_view inside_name) const {
-    return inside(name, inside_name);
+    return platform::joined(name, inside_name);
 }
 
 // Runs a step again while it says so: another run has changed the folder under it, or holds it and may be about to end.
@@ -110,8 +101,8 @@ batch_place::stepped batch_place::recover_once() {
         return restore();
     // The run ended behind its last step but one.
     platform::held_file held;
-    if (!is_empty(aside) &&
-        held.take(inside(aside, is_whole ? report_name : mark_name), hold_kind::old_file) != hold_result::held)
+    if (!is_empty(aside) && held.take(platform::joined(aside, is_whole ? report_name : mark_name),
+                                      hold_kind::old_file) != hold_result::held)
         return {}; // whose run is at it still
     remove_folder(aside, held);
     return {};
@@ -120,7 +111,7 @@ batch_place::stepped batch_place::recover_once() {
 // The run was killed before it could finish: what it replaced comes back.
 batch_place::stepped batch_place::restore() {
     platform::held_file held;
-    if (held.take(inside(aside, report_name), hold_kind::old_file) != hold_result::held)
+    if (held.take(platform::joined(aside, report_name), hold_kind::old_file) != hold_result::held)
         return {step::again, {}};
     if (name_is_taken(name)) {
         if (!is_real_folder(name) || !(has_mark(name) || is_empty(name)))
@@ -239,18 +230,14 @@ batch_place::stepped batch_place::put_aside() {
 }
 
 batch_place::stepped batch_place::make_folder() {
-    std::vector<std::string> missing;
-    for (std::string above = parent_of(name); !above.empty() && !platform::exists(above); above = parent_of(above))
-        missing.push_back(above);
-    for (; !missing.empty(); missing.pop_back())
-        if (platform::make_folder(missing.back()))
-            made_parents.push_back(missing.back());
+    const std::vector<std::string> made = platform::make_folders(platform::parent_of(name)).made;
+    made_parents.insert(made_parents.end(), made.begin(), made.end());
     if (platform::make_folder(name)) {
         made_folder = true;
         return make_mark();
     }
     // Another run may have made it, or removed one above it that it had made.
-    if (name_is_taken(name) || !platform::exists(parent_of(name)))
+    if (name_is_taken(name) || !platform::exists(platform::parent_of(name)))
         return {step::again, {}};
     return {step::done, "cannot be made: the folder above it takes nothing"};
 }
@@ -270,11 +257,12 @@ batch_place::stepped batch_place::make_mark() {
 
 // The mark or report goes last, so that what is left of a removal that is broken off is known as ours.
 bool batch_place::remove_folder(const std::string& folder, platform::held_file& held) {
-    if (has_report(folder) && !platform::rename_replacing(inside(folder, report_name), inside(folder, mark_name)))
+    if (has_report(folder) &&
+        !platform::rename_replacing(platform::joined(folder, report_name), platform::joined(folder, mark_name)))
         return false;
     if (!clear_but(folder, mark_name))
         return false;
-    const std::string last = inside(folder, mark_name);
+    const std::string last = platform::joined(folder, mark_name);
     if (held.is_held() ? !held.remove(last) : name_is_taken(last) && !platform::delete_file(last))
         return false;
     return platform::delete_empty_folder(folder);

@@ -11,10 +11,6 @@ namespace {
 using platform::child_end;
 using platform::child_fate;
 
-std::string inside(const std::string& folder, const char* name) {
-    return folder + platform::path_separator + name;
-}
-
 struct refusal {
     std::string words;
     bool is_for_memory = false;
@@ -68,11 +64,11 @@ void look_at_end(const child_end& end, const converter_words& said, std::uint64_
 void look_at_files(const std::string& folder, const converter_words& said, std::uint64_t memory, const run_clock& clock,
                    converted_model& converted) {
     if (!said.refused_model.empty()) {
-        const std::string model = inside(folder, "geometry.qlm");
+        const std::string model = platform::joined(folder, "geometry.qlm");
         const refusal refused = words_of_the_reader(model, memory, clock, said.refused_model);
         converted.status = refused.is_for_memory ? run_status::beyond_limits : run_status::model_not_opened;
         converted.words = refused.is_for_memory ? not_enough_memory : refused.words;
-    } else if (!platform::file_size(inside(folder, "batch_file.txt"))) {
+    } else if (!platform::file_size(platform::joined(folder, "batch_file.txt"))) {
         converted.status = run_status::not_written;
         converted.words = said.refused_write.empty() ? "The stream of the batch could not be made."
                                                      : sentence_of_refusal(said.refused_write);
@@ -89,7 +85,7 @@ converted_model convert_model(const std::string& converter, const std::string& f
     converter_words said(on_progress, platform::debug_output);
     platform::child_start start;
     start.program = converter;
-    start.arguments = {inside(folder, "geometry.qlm"), inside(folder, "batch_file.txt")};
+    start.arguments = {platform::joined(folder, "geometry.qlm"), platform::joined(folder, "batch_file.txt")};
     start.environment = {{"TESSALINE_TRACE", "-"}, {"TESSALINE_UNATTENDED", "1"}};
     start.memory_limit = memory;
     start.deadline = clock.deadline();

@@ -18,7 +18,7 @@ hashed_file failed(hashed_file&& so_far, file_fault fault, const std::string& wo
 // to: null to read alone.
 hashed_file read_through(const std::string& from, const std::string* to, const run_clock& clock) {
     hashed_file result;
-    result.facts.name = last_part(from);
+    result.facts.name = platform::last_part(from);
     platform::file source;
     if (!source.open(from, platform::open_mode::read))
         return failed(std::move(result), file_fault::not_read, source.failure());
@@ -53,10 +53,4 @@ hashed_file hash_file(const std::string& name, const run_clock& clock) {
 
 hashed_file copy_file(const std::string& from, const std::string& to, const run_clock& clock) {
     return read_through(from, &to, clock);
-}
-
-std::string last_part(const std::string& name) {
-    const std::size_t separator =
-        platform::has_drive_letters ? name.find_last_of("/\\:") : name.rfind(platform::path_separator);
-    return separator == std::string::npos ? name : name.substr(separator + 1);
 }

@@ -26,6 +26,3 @@ hashed_file hash_file(const std::string& name, const run_clock& clock);
 
 // The same, and writes the bytes to another file.
 hashed_file copy_file(const std::string& from, const std::string& to, const run_clock& clock);
-
-// What stands behind the last separator of either platform's.
-std::string last_part(const std::string& name);

@@ -1,7 +1,6 @@
 #include "tools/single_run/run_inputs.h"
 
 #include "platform/platform.h"
-#include "tools/single_run/hashed_file.h"
 #include "tools/single_run/setting_line.h"
 
 #include <algorithm>
@@ -31,7 +30,7 @@ bool lies_in(const std::string& file, const std::string& folder) {
 }
 
 std::string complaint_about_folder(const std::string& folder) {
-    const std::string last = last_part(folder);
+    const std::string last = platform::last_part(folder);
     if (last.empty() || last == "." || last == "..")
         return "The batch folder needs a name of its own.";
     if (!can_be_passed(folder))
@@ -46,7 +45,7 @@ std::string complaint_about_files(const std::vector<std::string>& files) {
             return file + " is a folder; --with takes files.";
         if (!platform::file_size(file))
             return file + " is no file that can be copied into the batch folder.";
-        if (!names.insert(last_part(file)).second)
+        if (!names.insert(platform::last_part(file)).second)
             return "The name of " + file + " is taken in the batch folder.";
     }
     return {};

@@ -69,7 +69,7 @@ private:
     void look_at_request() {
         report.folder = place.folder();
         report.settings = options.settings;
-        report.model.name = last_part(options.model);
+        report.model.name = platform::last_part(options.model);
         if (const std::string complaint = complaint_about_request(options, place.folder()); !complaint.empty())
             fail(run_status::usage, complaint);
         programs = {needed("tessaline"), needed("batch-check")};
@@ -149,7 +149,8 @@ private:
         report.files.clear();
         for (const std::string& file : options.files) {
             report.files.emplace_back();
-            take(report.files.back(), copy_file(file, place / last_part(file), clock), run_status::usage, file);
+            take(report.files.back(), copy_file(file, place / platform::last_part(file), clock), run_status::usage,
+                 file);
         }
         if (const std::string words = add_settings(place / option_file_name, options.settings); !words.empty())
             fail(run_status::not_written, "The settings cannot be written: " + words + '.');

@@ -1,7 +1,7 @@
 #include "tools/single_run/run_sentences.h"
 
 #include "platform/child_process.h"
-#include "tools/single_run/hashed_file.h"
+#include "platform/platform.h"
 
 #include <array>
 #include <cstdio>
@@ -21,13 +21,14 @@ std::string sentence_of_success(const run_options& options, const std::string& f
     const nlohmann::json counts = nlohmann::json::parse(verdict.counts, nullptr, false);
     std::array<char, 32> time;
     std::snprintf(time.data(), time.size(), "%.2f", seconds);
-    return last_part(options.model) + " is converted: " + counted(counts, "triangles", "triangle", "triangles") + ", " +
+    return platform::last_part(options.model) +
+           " is converted: " + counted(counts, "triangles", "triangle", "triangles") + ", " +
            counted(counts, "materials", "material", "materials") + " and " + counted(counts, "lamps", "lamp", "lamps") +
            " in " + folder + " after " + time.data() + " seconds.";
 }
 
 std::string sentence_of_skip(const run_options& options, const std::string& folder) {
-    return last_part(options.model) + " was converted before, and nothing has changed since: " + folder +
+    return platform::last_part(options.model) + " was converted before, and nothing has changed since: " + folder +
            " stays as it is.";
 }
 

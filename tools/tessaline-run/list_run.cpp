@@ -42,20 +42,6 @@ list_reading read_list(const list_options& options) {
     return reading;
 }
 
-// With the folders above it.
-bool make_folders(const std::string& name) {
-    if (platform::is_folder(name) || platform::make_folder(name))
-        return true;
-    const std::size_t end = name.rfind(platform::path_separator);
-    if (end == std::string::npos || end == 0 || !make_folders(name.substr(0, end)))
-        return false;
-    return platform::make_folder(name) || platform::is_folder(name); // another run may have made it meanwhile
-}
-
-bool make_folder_of(const std::string& file) {
-    return make_folders(file.substr(0, file.rfind(platform::path_separator)));
-}
-
 bool write_file(const std::string& name, std::string_view bytes) {
     platform::file file;
     const bool is_written = file.open(name, platform::open_mode::write) && file.write_all(bytes);
@@ -67,7 +53,7 @@ std::string program_on_path(std::string_view name) {
     const std::string path = platform::environment_variable("PATH").value_or("");
     for (std::string_view left = path; !left.empty();) {
         const std::size_t end = std::min(left.find(':'), left.size());
-        const std::string program = std::string(left.substr(0, end)).append("/").append(name);
+        const std::string program = platform::joined(left.substr(0, end), name);
         if (program.starts_with('/') && platform::exists(program) && !platform::is_folder(program))
             return program;
         left.remove_prefix(std::min(end + 1, left.size()));
@@ -92,7 +78,7 @@ class list_runner {
 public:
     list_runner(const list_options& chosen, const model_list& models)
         : options(chosen), list(models), output(platform::absolute_name(chosen.output)),
-          folder(output + platform::path_separator + std::string(list_folder_name)) {
+          folder(platform::joined(output, list_folder_name)) {
         begin = std::min(options.first, list.places.size());
         end = begin + std::min(options.count.value_or(list.places.size()), list.places.size() - begin);
     }
@@ -110,7 +96,7 @@ public:
     }
     std::string jobs_file() const {
         const std::string part = is_whole_list() ? "" : "." + std::to_string(begin + 1) + "-" + std::to_string(end);
-        return folder + platform::path_separator + "jobs" + part;
+        return platform::joined(folder, "jobs" + part);
     }
 
     // The folders for reports (each run makes those of its batch); the reports of earlier runs go, so that none speaks
@@ -118,7 +104,7 @@ public:
     bool prepare() const {
         for (std::size_t i = begin; i < end; ++i) {
             const std::string report = report_file(output, list.places[i]);
-            if (!make_folder_of(report) ||
+            if (!platform::make_folders(platform::parent_of(report)).is_there ||
                 (!options.resumes && platform::exists(report) && !platform::delete_file(report)))
                 return false;
         }
@@ -158,9 +144,9 @@ public:
         const std::vector<table_row> all = rows();
         const std::string text = table_as_text(all);
         const bool is_printed = platform::write_standard_output(text);
-        const std::string table = folder + platform::path_separator + "table";
-        if (is_whole_list() && (!make_folders(folder) || !write_file(table + ".csv", table_as_csv(all)) ||
-                                !write_file(table + ".txt", text)))
+        const std::string table = platform::joined(folder, "table");
+        if (is_whole_list() && (!platform::make_folders(folder).is_there ||
+                                !write_file(table + ".csv", table_as_csv(all)) || !write_file(table + ".txt", text)))
             return end_with(run_status::not_written, "The table cannot be written to " + folder);
         if (!is_printed)
             return end_with(run_status::not_written, refused_output);
