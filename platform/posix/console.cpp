@@ -2,9 +2,8 @@
 
 #include "platform/message_line.h"
 #include "platform/platform.h"
+#include "platform/posix/write_all.h"
 #include "platform/trace_file.h"
-
-#include <cerrno>
 
 #include <unistd.h>
 
@@ -24,18 +23,6 @@ int descriptor_of(standard_stream stream) {
     return STDERR_FILENO;
 }
 
-bool write_standard(standard_stream stream, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = write(descriptor_of(stream), text.data(), text.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
 // For whole lines. A progress bar may stand on the terminal, with the cursor at its start.
 void write_over_progress_bar(std::string_view text) {
     std::string bytes;
@@ -51,11 +38,11 @@ bool is_terminal(standard_stream stream) {
 }
 
 bool write_standard_output(std::string_view text) {
-    return write_standard(standard_stream::output, text);
+    return write_all(STDOUT_FILENO, text);
 }
 
 void write_standard_error(std::string_view text) {
-    write_standard(standard_stream::error, text);
+    write_all(STDERR_FILENO, text);
 }
 
 void write_trace_to_console(std::string_view text) {

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 
 #include "platform/posix/refused_write.h"
+#include "platform/posix/write_all.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -99,20 +100,13 @@ std::size_t file::read(void* buffer, std::size_t size) {
 bool file::write_all(std::string_view bytes) {
     if (!is_open())
         return false;
-    while (!bytes.empty()) {
-        const ssize_t count = ::write(static_cast<int>(handle), bytes.data(), std::min(bytes.size(), largest_step));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0) {
-            const int error = errno;
-            failure_text = words_for(error);
-            if (!file_name.empty())
-                trace_if_refused(file_name, error);
-            return false;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
+    if (platform::write_all(static_cast<int>(handle), bytes))
+        return true;
+    const int error = errno;
+    failure_text = words_for(error);
+    if (!file_name.empty())
+        trace_if_refused(file_name, error);
+    return false;
 }
 
 bool file::seek(std::uint64_t offset) {

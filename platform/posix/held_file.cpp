@@ -2,6 +2,8 @@
 
 #include "platform/held_file.h"
 
+#include "platform/posix/write_all.h"
+
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -36,18 +38,6 @@ bool is_locked_elsewhere(int descriptor) {
         result = flock(descriptor, LOCK_EX | LOCK_NB);
     } while (result != 0 && errno == EINTR);
     return result != 0 && errno == EWOULDBLOCK;
-}
-
-bool write_all(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t count = write(descriptor, bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
 }
 
 } // namespace
