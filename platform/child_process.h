@@ -15,11 +15,11 @@ namespace platform {
 
 // ---- requests to end (end_requests.cpp)
 
-// While it lives, a request that this process end (SIGTERM, SIGINT, SIGHUP; on Windows Ctrl-C, Ctrl-Break, a console
-// that is closed) is noted and obeyed by whoever asks end_request(). Those that were ignored before stay ignored. What
-// the system would otherwise tell by a signal, a reader that is gone and a file that may not grow, is a failed write. A
-// standard stream that is closed leads nowhere from then on, so that no file that is opened later takes its place.
-// At most one at a time; what was noted is forgotten with it.
+// While it lives, a request that this process end (SIGTERM, SIGINT, SIGHUP, SIGQUIT, SIGXCPU; on Windows Ctrl-C,
+// Ctrl-Break, a console that is closed) is noted and obeyed by whoever asks end_request(). Those that were ignored
+// before stay ignored. What the system would otherwise tell by a signal, a reader that is gone and a file that may not
+// grow, is a failed write. A standard stream that is closed leads nowhere from then on, so that no file that is opened
+// later takes its place. At most one at a time; what was noted is forgotten with it.
 class end_requests {
 public:
     end_requests();

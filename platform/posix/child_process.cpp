@@ -2,6 +2,8 @@
 
 #include "platform/child_process.h"
 
+#include "platform/posix/request_signals.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -102,8 +104,9 @@ std::vector<std::string> environment_of(const child_start& start) {
 sigset_t waking_signals() {
     sigset_t set;
     sigemptyset(&set);
-    for (const int one : {SIGCHLD, SIGTERM, SIGINT, SIGHUP})
-        sigaddset(&set, one);
+    sigaddset(&set, SIGCHLD);
+    for (const request_signal& one : request_signals)
+        sigaddset(&set, one.number);
     return set;
 }
 
@@ -119,8 +122,9 @@ public:
         const sigset_t waking_set = waking_signals();
         sigprocmask(SIG_BLOCK, &waking_set, &old_mask);
         waiting_mask = old_mask;
-        for (const int one : {SIGCHLD, SIGTERM, SIGINT, SIGHUP})
-            sigdelset(&waiting_mask, one);
+        sigdelset(&waiting_mask, SIGCHLD);
+        for (const request_signal& one : request_signals)
+            sigdelset(&waiting_mask, one.number);
     }
     woken_by_signals(const woken_by_signals&) = delete;
     woken_by_signals& operator=(const woken_by_signals&) = delete;

@@ -2,6 +2,8 @@
 
 #include "platform/child_process.h"
 
+#include "platform/posix/request_signals.h"
+
 #include <array>
 #include <csignal>
 
@@ -12,17 +14,11 @@ namespace platform {
 
 namespace {
 
-struct handled_signal {
-    int number;
-    const char* name;
-};
-constexpr std::array requests = {handled_signal{SIGTERM, "SIGTERM"}, handled_signal{SIGINT, "SIGINT"},
-                                 handled_signal{SIGHUP, "SIGHUP"}};
 constexpr std::array told_by_failed_writes = {SIGPIPE, SIGXFSZ};
 
 // What a handler may touch is at namespace scope or nowhere.
 volatile std::sig_atomic_t noted_signal = 0;
-std::array<struct sigaction, requests.size()> old_actions;
+std::array<struct sigaction, request_signals.size()> old_actions;
 std::array<struct sigaction, told_by_failed_writes.size()> old_write_actions;
 
 extern "C" void note_request(int number) {
@@ -47,10 +43,10 @@ end_requests::end_requests() {
     struct sigaction noting = {};
     noting.sa_handler = note_request;
     sigemptyset(&noting.sa_mask);
-    for (std::size_t i = 0; i < requests.size(); ++i) {
-        sigaction(requests[i].number, nullptr, &old_actions[i]);
+    for (std::size_t i = 0; i < request_signals.size(); ++i) {
+        sigaction(request_signals[i].number, nullptr, &old_actions[i]);
         if (old_actions[i].sa_handler != SIG_IGN)
-            sigaction(requests[i].number, &noting, nullptr);
+            sigaction(request_signals[i].number, &noting, nullptr);
     }
     struct sigaction ignoring = {};
     ignoring.sa_handler = SIG_IGN;
@@ -59,15 +55,15 @@ end_requests::end_requests() {
 }
 
 end_requests::~end_requests() {
-    for (std::size_t i = 0; i < requests.size(); ++i)
-        sigaction(requests[i].number, &old_actions[i], nullptr);
+    for (std::size_t i = 0; i < request_signals.size(); ++i)
+        sigaction(request_signals[i].number, &old_actions[i], nullptr);
     for (std::size_t i = 0; i < told_by_failed_writes.size(); ++i)
         sigaction(told_by_failed_writes[i], &old_write_actions[i], nullptr);
     noted_signal = 0;
 }
 
 std::string end_request() {
-    for (const handled_signal& one : requests)
+    for (const request_signal& one : request_signals)
         if (one.number == noted_signal)
             return one.name;
     return {};

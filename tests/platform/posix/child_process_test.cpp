@@ -135,6 +135,18 @@ TEST(ChildProcess, a_program_that_lets_its_grace_pass_is_ended) {
     EXPECT_EQ(platform::run_child(start).fate, child_fate::called_off);
 }
 
+TEST(ChildProcess, every_signal_that_asks_to_end_ends_the_program_and_is_told_by_its_name) {
+    const std::pair<int, const char*> all[] = {
+        {SIGTERM, "SIGTERM"}, {SIGINT, "SIGINT"}, {SIGHUP, "SIGHUP"}, {SIGQUIT, "SIGQUIT"}, {SIGXCPU, "SIGXCPU"}};
+    for (const auto& [number, name] : all) {
+        const platform::end_requests noted;
+        child_start start = shell("echo begun; exec sleep 1000");
+        start.on_output = [number = number](std::string_view) { raise(number); };
+        EXPECT_EQ(platform::run_child(start).fate, child_fate::called_off) << name;
+        EXPECT_EQ(platform::end_request(), name);
+    }
+}
+
 TEST(ChildProcess, a_request_to_end_is_forgotten_with_whoever_noted_it) {
     {
         const platform::end_requests noted;

@@ -48,7 +48,8 @@ TEST_P(SignalToRun, ends_the_converter_and_brings_the_finished_batch_back) {
 
 INSTANTIATE_TEST_SUITE_P(All, SignalToRun,
                          testing::Values(std::pair(SIGTERM, "SIGTERM"), std::pair(SIGINT, "SIGINT"),
-                                         std::pair(SIGHUP, "SIGHUP")),
+                                         std::pair(SIGHUP, "SIGHUP"), std::pair(SIGQUIT, "SIGQUIT"),
+                                         std::pair(SIGXCPU, "SIGXCPU")),
                          [](const auto& tested) { return std::string(tested.param.second); });
 
 TEST_F(EndedRun, a_signal_that_is_ignored_when_a_run_starts_does_not_end_it) {
