@@ -46,6 +46,9 @@ constexpr seed seeds[] = {
      R"("warnings":1})"},
     {"fuzz_run_report", "of_other_kinds", R"({"program":7,"model":[],"counts":"x","findings":null,"errors":1e300})"},
     {"fuzz_run_report", "deep", R"({"findings":[[[[[[[[[[[[[[[[[[[[[[[[{"a":[1]}]]]]]]]]]]]]]]]]]]]]]]]]})"},
+    {"fuzz_run_report", "of_the_checker",
+     R"({"batches":[{"status":"unsound","counts":{"triangles":2},"errors":1,"warnings":0,"findings":[{"severity":"error",)"
+     R"("file":"batch_file.txt","line":7,"text":"no end"}]}]})"},
     {"fuzz_ini", "empty", ""},
     {"fuzz_ini", "profile",
      "; mine\r\n[Globals]\r\nsvl_name=a b\r\nivl_number = -5 \r\n\r\n[Common]\r\nPhone=\"1\"\r\n"},

@@ -68,6 +68,15 @@ TEST(ReportTable, fields_of_another_kind_are_left_empty) {
     EXPECT_THAT(row.codes, IsEmpty());
 }
 
+TEST(ReportTable, values_that_lie_deeper_than_any_report_are_left_out) {
+    const std::string deep = std::string(3000000, '[') + std::string(3000000, ']');
+    const table_row row =
+        row_of_report("x.skp", R"({"status":5,"findings":)" + deep + R"(,"counts":)" + deep + R"(,"sentence":"no"})");
+    EXPECT_EQ(row.status, 5);
+    EXPECT_EQ(row.sentence, "no");
+    EXPECT_THAT(row.codes, IsEmpty());
+}
+
 TEST(ReportTable, the_status_of_a_table_is_the_highest_of_its_rows) {
     EXPECT_EQ(highest_status({}), 0);
     EXPECT_EQ(highest_status({row_of_report("a", report_of_a_lamp)}), 0);

@@ -1,32 +1,19 @@
 #include "tools/model_lists/report_table.h"
 
+#include "tools/json_reading/json_reading.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
 
-#include <nlohmann/json.hpp>
-
 namespace {
 
-using nlohmann::json;
+using json_reading::count_in;
+using json_reading::json;
+using json_reading::text_in;
+using json_reading::value_in;
 
 constexpr int highest_known_status = 7;
-
-// What the object holds under the key; null if it is no object or lacks the key.
-json value_in(const json& object, const char* key) {
-    const auto found = object.is_object() ? object.find(key) : object.end();
-    return object.is_object() && found != object.end() ? *found : json();
-}
-
-std::optional<std::uint64_t> count_in(const json& object, const char* key) {
-    const json value = value_in(object, key);
-    return value.is_number_unsigned() ? std::optional(value.get<std::uint64_t>()) : std::nullopt;
-}
-
-std::string text_in(const json& object, const char* key) {
-    const json value = value_in(object, key);
-    return value.is_string() ? value.get<std::string>() : std::string();
-}
 
 // Notes are no findings that anybody has to look at.
 std::vector<std::string> codes_in(const json& findings) {
@@ -109,14 +96,14 @@ std::string text_line(const table_row& row) {
 table_row row_of_report(const std::string& model, const std::optional<std::string>& report) {
     if (!report)
         return row_without_report(model, "its run has left no report");
-    const json parsed = json::parse(*report, nullptr, false);
+    const json parsed = json_reading::parsed(*report);
     const auto status = count_in(parsed, "status");
     if (!status || *status > highest_known_status)
         return row_without_report(model, "the report of its run cannot be read");
     table_row row;
     row.model = model;
     row.status = static_cast<int>(*status);
-    if (const json seconds = value_in(parsed, "seconds"); seconds.is_number())
+    if (const json& seconds = value_in(parsed, "seconds"); seconds.is_number())
         row.seconds = seconds.get<double>();
     row.memory_bytes = count_in(parsed, "peak_memory_bytes");
     row.triangles = count_in(value_in(parsed, "counts"), "triangles");

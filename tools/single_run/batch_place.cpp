@@ -1,10 +1,10 @@
 #include "tools/single_run/batch_place.h"
 
 #include "platform/platform.h"
+#include "tools/json_reading/json_reading.h"
 
 #include <algorithm>
 #include <chrono>
-#include <nlohmann/json.hpp>
 #include <thread>
 
 namespace {
@@ -12,8 +12,7 @@ namespace {
 using platform::hold_kind;
 using platform::hold_result;
 
-constexpr std::uint64_t largest_report = std::uint64_t{1} << 26U; // bytes; findings are bounded, and so are settings
-constexpr int tries = 50;                                         // for a second in all
+constexpr int tries = 50; // for a second in all
 constexpr auto time_between_tries = std::chrono::milliseconds(20);
 constexpr const char* is_taken = "is in use by another run";
 
@@ -65,8 +64,7 @@ bool is_one_of_ours(const std::string& folder) {
 } // namespace
 
 bool is_report(std::string_view bytes) {
-    const auto json = nlohmann::json::parse(bytes, nullptr, false);
-    return json.is_object() && json.value("program", nlohmann::json()) == "tessaline-run";
+    return json_reading::text_in(json_reading::parsed(bytes), "program") == "tessaline-run";
 }
 
 batch_place::batch_place(std::string folder) : name(std::move(folder)), aside(name + std::string(put_aside_ending)) {}
@@ -132,7 +130,7 @@ batch_place::stepped batch_place::restore() {
 std::optional<std::string> batch_place::finished_report() const {
     if (!is_real_folder(name) || !has_report(name) || has_mark(name))
         return std::nullopt;
-    const auto bytes = platform::read_file(*this / report_name, largest_report);
+    const auto bytes = platform::read_file(*this / report_name, json_reading::largest_report);
     if (!bytes)
         return std::nullopt;
     return std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size());

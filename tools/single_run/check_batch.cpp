@@ -1,49 +1,42 @@
 #include "tools/single_run/check_batch.h"
 
+#include "tools/json_reading/json_reading.h"
+
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
 namespace {
 
-using json = nlohmann::ordered_json;
-
-constexpr std::size_t largest_answer = std::size_t{1} << 26U; // bytes: the findings are bounded
-
-std::string text_in(const json& object, const char* key) {
-    return object.contains(key) && object[key].is_string() ? object[key].get<std::string>() : std::string();
-}
-
-std::int64_t number_in(const json& object, const char* key) {
-    return object.contains(key) && object[key].is_number_integer() ? object[key].get<std::int64_t>() : 0;
-}
+using json_reading::count_in;
+using json_reading::json;
+using json_reading::text_in;
+using json_reading::value_in;
 
 std::string in_words(const json& finding) {
     std::string words = text_in(finding, "file");
-    if (const std::int64_t line = number_in(finding, "line"); line > 0)
+    if (const std::uint64_t line = count_in(finding, "line").value_or(0); line > 0)
         words += ", line " + std::to_string(line);
     return (words.empty() ? words : words + ": ") + text_in(finding, "text");
 }
 
-// False if the text is no answer of the checker about one batch.
-bool take_answer(const std::string& text, checked_batch& checked) {
-    const json answer = json::parse(text, nullptr, false);
-    if (!answer.is_object() || !answer.contains("batches") || !answer["batches"].is_array() ||
-        answer["batches"].size() != 1 || !answer["batches"][0].is_object())
+} // namespace
+
+bool take_answer(std::string_view text, checked_batch& checked) {
+    const json answer = json_reading::parsed(text);
+    const json& batches = value_in(answer, "batches");
+    if (!batches.is_array() || batches.size() != 1 || !batches[0].is_object())
         return false;
-    const json& batch = answer["batches"][0];
-    const json findings =
-        batch.contains("findings") && batch["findings"].is_array() ? batch["findings"] : json::array();
-    const auto is_error = [](const json& finding) {
-        return finding.is_object() && text_in(finding, "severity") == "error";
-    };
-    if (const auto first = std::find_if(findings.begin(), findings.end(), is_error); first != findings.end())
-        checked.first_error = in_words(*first);
-    checked.verdict = {text_in(batch, "status") == "sound", batch.contains("counts") ? batch["counts"].dump() : "{}",
-                       findings.dump(), number_in(batch, "errors"), number_in(batch, "warnings")};
+    const json& batch = batches[0];
+    const json& counts = value_in(batch, "counts");
+    const json& findings = value_in(batch, "findings");
+    const auto is_error = [](const json& finding) { return text_in(finding, "severity") == "error"; };
+    if (findings.is_array())
+        if (const auto first = std::find_if(findings.begin(), findings.end(), is_error); first != findings.end())
+            checked.first_error = in_words(*first);
+    checked.verdict = {text_in(batch, "status") == "sound", counts.is_object() ? json_reading::written(counts) : "{}",
+                       findings.is_array() ? json_reading::written(findings) : "[]",
+                       count_in(batch, "errors").value_or(0), count_in(batch, "warnings").value_or(0)};
     return true;
 }
-
-} // namespace
 
 checked_batch check_batch(const std::string& checker, const std::string& folder, std::uint64_t memory,
                           const run_clock& clock) {
@@ -54,7 +47,7 @@ checked_batch check_batch(const std::string& checker, const std::string& folder,
     start.memory_limit = memory;
     start.deadline = clock.deadline();
     start.on_output = [&answer](std::string_view bytes) {
-        if (answer.size() < largest_answer)
+        if (answer.size() < json_reading::largest_report)
             answer += bytes;
     };
     checked_batch checked;

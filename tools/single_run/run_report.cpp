@@ -1,13 +1,17 @@
 #include "tools/single_run/run_report.h"
 
 #include "platform/platform.h"
+#include "tools/json_reading/json_reading.h"
 
 #include <cmath>
-#include <nlohmann/json.hpp>
 
 namespace {
 
-using json = nlohmann::ordered_json;
+using json_reading::count_in;
+using json_reading::json;
+using json_reading::parsed;
+using json_reading::value_in;
+using json_reading::written;
 
 std::string utf8(const std::string& text) {
     return platform::utf8_from_own(text);
@@ -38,23 +42,6 @@ json of_messages(const std::vector<std::string>& messages) {
     return list;
 }
 
-constexpr int deepest_value = 16; // a report has four levels; writing takes a level of the stack for each
-
-// Discarded for what is no JSON. What lies deeper than any report does is left out.
-json parsed(std::string_view text) {
-    return json::parse(
-        text, [](int depth, json::parse_event_t, const json&) { return depth < deepest_value; }, false);
-}
-
-// 0 for what is no whole number.
-std::int64_t number_in(const json& object, const char* key) {
-    return object.contains(key) && object[key].is_number_integer() ? object[key].get<std::int64_t>() : 0;
-}
-
-std::string written(const json& value, int indentation) {
-    return value.dump(indentation, ' ', false, json::error_handler_t::replace);
-}
-
 } // namespace
 
 std::string text_of_report(const run_report& report) {
@@ -80,16 +67,13 @@ std::string text_of_report(const run_report& report) {
 
 bool is_same_run(std::string_view bytes, const run_report& wanted) {
     const json before = parsed(bytes);
-    if (!before.is_object())
-        return false;
     const json now = parsed(text_of_report(wanted));
-    const auto same = [&](const char* key) { return before.contains(key) && before[key] == now[key]; };
+    const auto same = [&](const char* key) { return value_in(before, key) == value_in(now, key); };
     const auto same_of_model = [&](const char* key) {
-        return before["model"].is_object() && before["model"].contains(key) &&
-               before["model"][key] == now["model"][key];
+        return value_in(value_in(before, "model"), key) == value_in(value_in(now, "model"), key);
     };
     return same("format") && same("version") && same("folder") && same("files") && same("options") &&
-           before.contains("model") && same_of_model("bytes") && same_of_model("xxh128");
+           same_of_model("bytes") && same_of_model("xxh128");
 }
 
 batch_verdict verdict_in(std::string_view bytes) {
@@ -99,10 +83,10 @@ batch_verdict verdict_in(std::string_view bytes) {
         return verdict;
     verdict.is_sound = true;
     if (before.contains("counts"))
-        verdict.counts = written(before["counts"], -1);
+        verdict.counts = written(value_in(before, "counts"));
     if (before.contains("findings"))
-        verdict.findings = written(before["findings"], -1);
-    verdict.errors = number_in(before, "errors");
-    verdict.warnings = number_in(before, "warnings");
+        verdict.findings = written(value_in(before, "findings"));
+    verdict.errors = count_in(before, "errors").value_or(0);
+    verdict.warnings = count_in(before, "warnings").value_or(0);
     return verdict;
 }

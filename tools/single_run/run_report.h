@@ -16,8 +16,8 @@ struct batch_verdict {
     bool is_sound = false;
     std::string counts = "{}";   // JSON
     std::string findings = "[]"; // JSON
-    std::int64_t errors = 0;
-    std::int64_t warnings = 0;
+    std::uint64_t errors = 0;
+    std::uint64_t warnings = 0;
 };
 
 struct run_report {

@@ -2,15 +2,15 @@
 
 #include "platform/child_process.h"
 #include "platform/platform.h"
+#include "tools/json_reading/json_reading.h"
 
 #include <array>
 #include <cstdio>
-#include <nlohmann/json.hpp>
 
 namespace {
 
-std::string counted(const nlohmann::json& counts, const char* key, const char* one, const char* many) {
-    const std::int64_t number = counts.is_object() ? counts.value(key, std::int64_t{0}) : 0;
+std::string counted(const json_reading::json& counts, const char* key, const char* one, const char* many) {
+    const std::uint64_t number = json_reading::count_in(counts, key).value_or(0);
     return std::to_string(number) + ' ' + (number == 1 ? one : many);
 }
 
@@ -18,7 +18,7 @@ std::string counted(const nlohmann::json& counts, const char* key, const char* o
 
 std::string sentence_of_success(const run_options& options, const std::string& folder, const batch_verdict& verdict,
                                 double seconds) {
-    const nlohmann::json counts = nlohmann::json::parse(verdict.counts, nullptr, false);
+    const json_reading::json counts = json_reading::parsed(verdict.counts);
     std::array<char, 32> time;
     std::snprintf(time.data(), time.size(), "%.2f", seconds);
     return platform::last_part(options.model) +

@@ -2,6 +2,7 @@
 
 #include "platform/child_process.h"
 #include "platform/platform.h"
+#include "tools/json_reading/json_reading.h"
 #include "tools/model_lists/model_list.h"
 #include "tools/model_lists/report_table.h"
 #include "tools/single_run/run_status.h"
@@ -11,8 +12,7 @@
 
 namespace {
 
-constexpr std::uint64_t largest_list = std::uint64_t{1} << 32U;   // bytes; some ten million models
-constexpr std::uint64_t largest_report = std::uint64_t{1} << 26U; // bytes; its findings are bounded
+constexpr std::uint64_t largest_list = std::uint64_t{1} << 32U; // bytes; some ten million models
 
 constexpr const char* refused_output = "Standard output does not take what is to be printed";
 
@@ -135,7 +135,8 @@ public:
     std::vector<table_row> rows() const {
         std::vector<table_row> rows;
         for (std::size_t i = begin; i < end; ++i)
-            rows.push_back(row_of_report(list.places[i], text_of(report_file(output, list.places[i]), largest_report)));
+            rows.push_back(row_of_report(list.places[i],
+                                         text_of(report_file(output, list.places[i]), json_reading::largest_report)));
         return rows;
     }
 

@@ -1,3 +1,4 @@
+#include "tools/single_run/batch_place.h"
 #include "tools/single_run/run_report.h"
 
 #include <gtest/gtest.h>
@@ -11,8 +12,8 @@ TEST(RunReport, what_it_says_of_a_batch_is_read_from_it_again) {
     EXPECT_TRUE(read.is_sound);
     EXPECT_EQ(read.counts, R"({"triangles":2})");
     EXPECT_EQ(read.findings, R"([{"code":"orphan"}])");
-    EXPECT_EQ(read.errors, 0);
-    EXPECT_EQ(read.warnings, 1);
+    EXPECT_EQ(read.errors, 0u);
+    EXPECT_EQ(read.warnings, 1u);
 }
 
 TEST(RunReport, values_that_lie_deeper_than_any_report_are_left_out) {
@@ -20,9 +21,15 @@ TEST(RunReport, values_that_lie_deeper_than_any_report_are_left_out) {
     EXPECT_LT(verdict_in(deep).findings.size(), 100u);
 }
 
+TEST(RunReport, the_program_of_a_report_may_be_of_any_depth) {
+    const std::string deep = std::string(3000000, '[') + std::string(3000000, ']');
+    EXPECT_FALSE(is_report(R"({"program":)" + deep + '}'));
+    EXPECT_TRUE(is_report(R"({"program":"tessaline-run"})"));
+}
+
 TEST(RunReport, a_count_that_no_whole_number_is_counts_as_none) {
-    EXPECT_EQ(verdict_in(R"({"errors":1e300,"warnings":"many"})").errors, 0);
-    EXPECT_EQ(verdict_in(R"({"errors":1e300,"warnings":"many"})").warnings, 0);
+    EXPECT_EQ(verdict_in(R"({"errors":1e300,"warnings":"many"})").errors, 0u);
+    EXPECT_EQ(verdict_in(R"({"errors":1e300,"warnings":"many"})").warnings, 0u);
 }
 
 TEST(RunReport, what_is_no_report_says_nothing) {
