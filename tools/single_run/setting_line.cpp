@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <vector>
 
@@ -32,7 +33,7 @@ bool is_whole(std::string_view text, std::int32_t lowest, std::int32_t highest) 
 
 bool is_real(std::string_view text) {
     double number = 0;
-    return reads_as(text, number);
+    return reads_as(text, number) && std::isfinite(number);
 }
 
 bool is_point(std::string_view text) {
@@ -65,9 +66,7 @@ std::string_view missing_kind(setting_kind kind, std::string_view value) {
     case setting_kind::point:
         return is_point(value) ? "" : "a point (x, y, z)";
     case setting_kind::text:
-        return value == trimmed(value) && value.find_first_of("\r\n") == std::string_view::npos
-                   ? ""
-                   : "a text on one line without blanks at its ends";
+        return value == trimmed(value) ? "" : "a text on one line without blanks at its ends";
     }
     return "";
 }
@@ -78,6 +77,8 @@ std::string complaint_about_setting(std::string_view name, std::string_view valu
     const setting_row* const row = row_of(name);
     if (row == nullptr)
         return "there is no setting " + std::string(name);
+    if (value.find_first_of("\r\n") != std::string_view::npos)
+        return "the setting " + std::string(name) + " takes one line";
     const std::string_view missing = missing_kind(row->kind, value);
     if (missing.empty())
         return {};

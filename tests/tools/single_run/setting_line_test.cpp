@@ -19,6 +19,23 @@ TEST(SettingLine, a_value_that_the_converter_would_read_as_something_else_is_com
     EXPECT_EQ(complaint_about_setting("ivl_no_such_thing", "1"), "there is no setting ivl_no_such_thing");
 }
 
+TEST(SettingLine, no_value_of_any_kind_holds_the_end_of_a_line) {
+    EXPECT_EQ(complaint_about_setting("pzyn_sun_time", "(1,2,3)"), "");
+    EXPECT_EQ(complaint_about_setting("pzyn_sun_time", "(1,\r\n2,\n3)"), "the setting pzyn_sun_time takes one line");
+    EXPECT_EQ(complaint_about_setting("pzyn_sun_time", "(1,\r2,3)"), "the setting pzyn_sun_time takes one line");
+    EXPECT_EQ(complaint_about_setting("sqlw_extract_mode", "a\nb"), "the setting sqlw_extract_mode takes one line");
+    EXPECT_EQ(complaint_about_setting("ivl_resx", "640\n"), "the setting ivl_resx takes one line");
+}
+
+TEST(SettingLine, what_is_not_finite_is_no_number) {
+    for (const char* value : {"inf", "-inf", "nan", "infinity"}) {
+        EXPECT_EQ(complaint_about_setting("rvl_edge_line_width", value),
+                  std::string("the setting rvl_edge_line_width takes a number, not ") + value);
+        EXPECT_EQ(complaint_about_setting("pzyn_sun_time", std::string("(0, ") + value + ", 0)"),
+                  std::string("the setting pzyn_sun_time takes a point (x, y, z), not (0, ") + value + ", 0)");
+    }
+}
+
 TEST(SettingLine, a_line_is_what_the_option_file_holds) {
     EXPECT_EQ(setting_line("ivl_resx", "640"), "ivl_resx; 640\r\n");
     EXPECT_EQ(setting_line("bvl_show_bulbs", "true"), "bvl_show_bulbs; 1\r\n");
