@@ -1,5 +1,6 @@
 #include "tools/model_lists/report_table.h"
 
+#include "tools/command_line/one_line.h"
 #include "tools/json_reading/json_reading.h"
 
 #include <algorithm>
@@ -66,16 +67,6 @@ std::string joined(const std::vector<std::string>& words) {
     for (const std::string& word : words)
         text += (text.empty() ? "" : " ") + word;
     return text;
-}
-
-std::string on_one_line(std::string_view text) {
-    std::string shown;
-    for (const char letter : text)
-        if (const auto code = static_cast<unsigned char>(letter); code < 0x20 || code == 0x7F)
-            shown += formed("\\x%02x", static_cast<unsigned>(code));
-        else
-            shown += letter;
-    return shown;
 }
 
 std::string text_line(const table_row& row) {

@@ -1,6 +1,7 @@
 #include "tools/single_run/run_once.h"
 
 #include "platform/platform.h"
+#include "tools/command_line/one_line.h"
 #include "tools/single_run/batch_place.h"
 #include "tools/single_run/beside.h"
 #include "tools/single_run/check_batch.h"
@@ -167,7 +168,7 @@ private:
         report.messages = converted.messages;
         refused_write = converted.refused_write;
         for (const std::string& message : converted.messages)
-            platform::write_standard_error("tessaline: " + message + '\n');
+            platform::write_standard_error("tessaline: " + on_one_line(message) + '\n');
         fail_if_stopped();
         if (converted.status == run_status::model_not_opened)
             fail(converted.status, sentence_of_model(options, converted.words));

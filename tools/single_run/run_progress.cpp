@@ -1,10 +1,11 @@
 #include "tools/single_run/run_progress.h"
 
 #include "platform/platform.h"
+#include "tools/command_line/one_line.h"
 
 void run_progress::tell_status(std::string_view text) const {
     if (wanted)
-        platform::write_standard_output("openjd_status: " + std::string(text) + '\n');
+        platform::write_standard_output("openjd_status: " + on_one_line(text) + '\n');
 }
 
 void run_progress::tell_percent(int percent) {

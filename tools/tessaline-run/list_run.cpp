@@ -2,6 +2,7 @@
 
 #include "platform/child_process.h"
 #include "platform/platform.h"
+#include "tools/command_line/one_line.h"
 #include "tools/json_reading/json_reading.h"
 #include "tools/model_lists/model_list.h"
 #include "tools/model_lists/report_table.h"
@@ -18,7 +19,7 @@ constexpr const char* refused_output = "Standard output does not take what is to
 
 // The last line on standard error. Gives the status.
 int end_with(int status, const std::string& sentence) {
-    platform::write_standard_error("tessaline-run: " + sentence + ".\n");
+    platform::write_standard_error("tessaline-run: " + on_one_line(sentence) + ".\n");
     return status;
 }
 int end_with(run_status status, const std::string& sentence) {

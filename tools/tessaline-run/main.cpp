@@ -3,6 +3,7 @@
 #include "platform/child_process.h"
 #include "platform/platform.h"
 #include "tools/command_line/answers.h"
+#include "tools/command_line/one_line.h"
 #include "tools/single_run/run_inputs.h"
 #include "tools/single_run/run_once.h"
 #include "tools/tessaline-run/list_command.h"
@@ -33,12 +34,12 @@ std::string usage() {
 
 // The last line is a sentence.
 int told(run_report report) {
-    if (report.status == run_status::done && !platform::write_standard_output(report.sentence + '\n')) {
+    if (report.status == run_status::done && !platform::write_standard_output(on_one_line(report.sentence) + '\n')) {
         report.status = run_status::not_written;
         report.sentence += " Standard output does not take this sentence.";
     }
     if (report.status != run_status::done)
-        platform::write_standard_error("tessaline-run: " + report.sentence + '\n');
+        platform::write_standard_error("tessaline-run: " + on_one_line(report.sentence) + '\n');
     return static_cast<int>(report.status);
 }
 
@@ -84,7 +85,7 @@ int main(int argc, char** argv) {
         return refuse_command_line(usage_text);
     const read_options read = read_run_options(arguments);
     if (!read.complaint.empty()) {
-        platform::write_standard_error("tessaline-run: " + read.complaint + '\n');
+        platform::write_standard_error("tessaline-run: " + on_one_line(read.complaint) + '\n');
         return static_cast<int>(run_status::usage);
     }
     return run_with(read.options);

@@ -121,6 +121,18 @@ TEST_F(RefusingDisk, a_run_whose_standard_streams_are_closed_writes_its_words_in
     EXPECT_EQ(nlohmann::json::parse(here.read("report.json"))["status"], 0);
 }
 
+TEST_F(RefusingDisk, a_name_with_line_feeds_makes_no_line_of_its_own) {
+    std::filesystem::rename(here / "model.skp", here / "a\nopenjd_fail: b.skp");
+    const program_result done =
+        run_program(start_of({"--progress", "openjd", here / "a\nopenjd_fail: b.skp", here / "batch"}));
+    EXPECT_EQ(done.status, 0);
+    EXPECT_THAT(done.output, testing::Not(HasSubstr("\nopenjd_fail")));
+    EXPECT_THAT(last_line(done.output), StartsWith("a\\x0aopenjd_fail: b.skp is converted: "));
+    const program_result refused = run_program(start_of({here / "none\nopenjd_fail: c.skp", here / "other"}));
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_THAT(refused.errors, testing::Not(HasSubstr("\nopenjd_fail")));
+}
+
 // The memory of a process is a plain file, and nothing can be read at its begin.
 TEST_F(RefusingDisk, a_model_that_the_disk_fails_to_give_has_status_3_with_the_words_of_the_system) {
     const program_result outcome = run_program(start_of({"/proc/self/mem", here / "batch"}));

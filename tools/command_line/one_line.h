@@ -1,0 +1,9 @@
+#pragma once
+
+// Texts that hold names of files, which may hold anything.
+
+#include <string>
+#include <string_view>
+
+// The text with each control character as \xHH, so that it stands on one line and says nothing to a terminal.
+std::string on_one_line(std::string_view text);
