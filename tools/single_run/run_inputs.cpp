@@ -23,15 +23,31 @@ bool can_be_passed(const std::string& folder) {
     return !has_switch && !breaks_quotes && folder.find('\n') == std::string::npos;
 }
 
-bool lies_in(const std::string& file, const std::string& folder) {
-    const auto real_file = platform::real_name(file);
-    const auto real_folder = platform::real_name(folder);
-    return real_file && real_folder && real_file->starts_with(*real_folder + platform::path_separator);
+// Where the name leads, or would lead if there were such a file: without links, "." and "..".
+std::string real_place(const std::string& name) {
+    if (const auto real = platform::real_name(name))
+        return *real;
+    const std::string full = settled_folder(name);
+    const std::string above = platform::parent_of(full);
+    const auto real_above = platform::real_name(above + platform::path_separator);
+    return platform::joined(real_above || above.empty() ? real_above.value_or(above) : real_place(above),
+                            platform::last_part(full));
 }
 
-std::string complaint_about_folder(const std::string& folder) {
-    const std::string last = platform::last_part(folder);
-    if (last.empty() || last == "." || last == "..")
+bool lies_in(const std::string& file, const std::string& folder) {
+    return real_place(file).starts_with(platform::joined(real_place(folder), ""));
+}
+
+std::string without_separators_at_end(std::string name) {
+    while (name.size() > 1 && name.back() == platform::path_separator)
+        name.pop_back();
+    return name;
+}
+
+// given: as it stands on the command line.
+std::string complaint_about_folder(const std::string& given, const std::string& folder) {
+    const std::string last = platform::last_part(without_separators_at_end(given));
+    if (platform::last_part(folder).empty() || last == "." || last == "..")
         return "The batch folder needs a name of its own.";
     if (!can_be_passed(folder))
         return "The converter cannot be told the name of the batch folder " + folder + '.';
@@ -54,21 +70,37 @@ std::string complaint_about_files(const std::vector<std::string>& files) {
 } // namespace
 
 std::string settled_folder(const std::string& name) {
-    std::string full = platform::absolute_name(name);
-    while (full.size() > 1 && full.back() == platform::path_separator)
-        full.pop_back();
-    return full;
+    const std::string full = platform::absolute_name(name);
+    if (full.empty() || platform::has_drive_letters) // where ".." is gone already
+        return without_separators_at_end(full);
+    std::string settled;
+    for (std::size_t begin = 0; begin < full.size();) {
+        const std::size_t end = std::min(full.find(platform::path_separator, begin), full.size());
+        const std::string part = full.substr(begin, end - begin);
+        begin = end + 1;
+        if (part == "..") // of what a link leads to, if the folder before it is one
+            settled = without_separators_at_end(
+                platform::real_name(settled + platform::path_separator + "..").value_or(platform::parent_of(settled)));
+        else if (!part.empty() && part != ".")
+            settled.append(settled.ends_with(platform::path_separator) ? 0 : 1, platform::path_separator).append(part);
+    }
+    return settled.empty() ? std::string(1, platform::path_separator) : settled;
 }
 
 std::string complaint_about_report_file(const run_options& options) {
-    const std::string inside = settled_folder(options.folder) + platform::path_separator;
-    if (options.json.empty() || !platform::absolute_name(options.json).starts_with(inside))
+    if (options.json.empty())
         return {};
-    return options.json + " lies in the batch folder, which is made anew.";
+    const std::string place = real_place(options.json);
+    if (lies_in(options.json, options.folder) || place == real_place(options.folder))
+        return options.json + " lies in the batch folder, which is made anew.";
+    const auto is_it = [&place](const std::string& read) { return real_place(read) == place; };
+    if (is_it(options.model) || std::any_of(options.files.begin(), options.files.end(), is_it))
+        return options.json + " is a file that the run reads; its report would replace it.";
+    return {};
 }
 
 std::string complaint_about_request(const run_options& options, const std::string& folder) {
-    if (std::string complaint = complaint_about_folder(folder); !complaint.empty())
+    if (std::string complaint = complaint_about_folder(options.folder, folder); !complaint.empty())
         return complaint;
     if (std::string complaint = complaint_about_files(options.files); !complaint.empty())
         return complaint;

@@ -4,6 +4,7 @@
 #include "platform/platform.h"
 #include "tools/command_line/answers.h"
 #include "tools/command_line/one_line.h"
+#include "tools/single_run/report_file.h"
 #include "tools/single_run/run_inputs.h"
 #include "tools/single_run/run_once.h"
 #include "tools/tessaline-run/list_command.h"
@@ -45,24 +46,25 @@ int told(run_report report) {
 
 int run_with(const run_options& options) {
     const platform::end_requests noted;
-    platform::file json;
+    report_file json;
     run_report report;
     if (report.sentence = complaint_about_report_file(options); !report.sentence.empty()) {
         report.status = run_status::usage;
         return told(report);
     }
-    if (!options.json.empty() && !json.open(options.json, platform::open_mode::write)) {
-        report.status = run_status::not_written;
-        report.sentence = "The report cannot be written to " + options.json + ": " + json.failure() + '.';
-        return told(report);
-    }
+    if (!options.json.empty())
+        if (const std::string words = json.open(options.json); !words.empty()) {
+            report.status = run_status::not_written;
+            report.sentence = "The report cannot be written to " + options.json + ": " + words + '.';
+            return told(report);
+        }
     try {
         report = run_once(options);
     } catch (const std::bad_alloc&) {
         report.status = run_status::beyond_limits;
         report.sentence = "There is not enough memory.";
     }
-    if (json.is_open() && !(json.write_all(text_of_report(report)) && json.close())) {
+    if (!json.write(text_of_report(report))) {
         if (report.status == run_status::done)
             report.status = run_status::not_written;
         report.sentence += " The report could not be written to " + options.json + '.';

@@ -188,6 +188,34 @@ TEST_F(PlainRun, a_model_or_file_inside_the_batch_folder_is_refused_before_anyth
     EXPECT_EQ(files_in("batch"), before);
 }
 
+TEST_F(PlainRun, a_report_never_replaces_what_the_run_reads) {
+    const std::string view = here.write("zyn_view.txt", "a view");
+    const std::string model = here.read("model.skp");
+    EXPECT_EQ(run_with({"--json", here / "model.skp"}).status, 2);
+    EXPECT_EQ(run_with({"--json", here / "home/../model.skp"}).status, 2);
+    EXPECT_EQ(run_with({"--with", view, "--json", view}).status, 2);
+    EXPECT_EQ(here.read("model.skp"), model);
+    EXPECT_EQ(here.read("zyn_view.txt"), "a view");
+    EXPECT_FALSE(here.has("batch"));
+}
+
+TEST_F(PlainRun, an_old_report_is_replaced_whole_and_nothing_stays_beside_it) {
+    here.write("report.json", "old");
+    here.write("model.skp", "no model");
+    EXPECT_EQ(run_with({"--json", here / "report.json"}).status, 3);
+    EXPECT_EQ(nlohmann::json::parse(here.read("report.json"))["status"], 3);
+    EXPECT_THAT(names_here(), ElementsAre("model.skp", "report.json"));
+}
+
+TEST_F(PlainRun, a_batch_folder_is_named_without_dots) {
+    here.make_folder("inner");
+    const program_result outcome = run_program(start_of({here / "model.skp", here / "inner/.././batch"}));
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(report()["folder"], here / "batch");
+    EXPECT_THAT(run().output, HasSubstr("nothing has changed since"));
+    EXPECT_EQ(run_program(start_of({here / "model.skp", here / "inner/.."})).status, 2);
+}
+
 TEST_F(PlainRun, what_makes_no_sense_has_status_2_and_one_line) {
     const std::string twice = here.write("twice/zyn_view.txt", "");
     const std::string view = here.write("zyn_view.txt", "");

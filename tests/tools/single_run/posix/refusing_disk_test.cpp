@@ -154,6 +154,40 @@ TEST_F(RefusingDisk, a_link_in_place_of_the_folder_is_refused_whatever_it_leads_
     EXPECT_EQ(run().status, 4); // it leads nowhere now
 }
 
+TEST_F(RefusingDisk, a_report_in_the_batch_folder_is_refused_under_whatever_name) {
+    ASSERT_EQ(run().status, 0);
+    std::filesystem::create_directory_symlink(here / "batch", here / "link");
+    EXPECT_EQ(run_with({"--force", "--json", here / "link/report.json"}).status, 2);
+    EXPECT_EQ(run_with({"--force", "--json", here / "home/../batch/report.json"}).status, 2);
+    EXPECT_FALSE(here.has("batch/report.json"));
+}
+
+TEST_F(RefusingDisk, a_report_behind_a_link_never_replaces_the_model) {
+    const std::string model = here.read("model.skp");
+    std::filesystem::create_symlink(here / "model.skp", here / "report.json");
+    EXPECT_EQ(run_with({"--json", here / "report.json"}).status, 2);
+    EXPECT_EQ(here.read("model.skp"), model);
+}
+
+// The folder above a link's target is not the one above the link.
+TEST_F(RefusingDisk, two_dots_behind_a_link_lead_to_the_folder_above_its_target) {
+    here.make_folder("a/b");
+    std::filesystem::create_directory_symlink(here / "a/b", here / "link");
+    EXPECT_EQ(run_program(start_of({here / "model.skp", here / "link/../batch"})).status, 0);
+    EXPECT_TRUE(here.has("a/batch/tessaline-run.json"));
+}
+
+TEST_F(RefusingDisk, a_report_goes_to_a_pipe_and_a_link_to_a_report_stays) {
+    here.write("report.json", "old");
+    std::filesystem::create_symlink(here / "report.json", here / "link.json");
+    EXPECT_EQ(run_with({"--json", here / "link.json"}).status, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(here / "link.json"));
+    EXPECT_EQ(nlohmann::json::parse(here.read("report.json"))["status"], 0);
+    const program_result piped = run_with({"--json", "/dev/stdout"});
+    EXPECT_EQ(piped.status, 0) << piped.errors;
+    EXPECT_THAT(piped.output, HasSubstr("\"program\": \"tessaline-run\""));
+}
+
 TEST_F(RefusingDisk, a_link_in_place_of_the_mark_makes_no_unfinished_batch) {
     here.write("elsewhere.txt", "of somebody else");
     here.make_folder("batch");
