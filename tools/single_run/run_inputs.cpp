@@ -1,6 +1,7 @@
 #include "tools/single_run/run_inputs.h"
 
 #include "platform/platform.h"
+#include "text/letter_case.h"
 #include "tools/single_run/setting_line.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ bool can_be_passed(const std::string& folder) {
     const bool has_switch = std::any_of(switches.begin(), switches.end(),
                                         [&](const char* one) { return folder.find(one) != std::string::npos; });
     const bool breaks_quotes = folder.find(' ') != std::string::npos && folder.find('"') != std::string::npos;
-    return !has_switch && !breaks_quotes && folder.find('\n') == std::string::npos;
+    return !has_switch && !breaks_quotes && folder.find_first_of("\r\n") == std::string::npos;
 }
 
 // Where the name leads, or would lead if there were such a file: without links, "." and "..".
@@ -54,6 +55,12 @@ std::string complaint_about_folder(const std::string& given, const std::string& 
     return {};
 }
 
+// One for all names that the file system takes for the same.
+std::string name_in_folder(const std::string& file) {
+    const std::string name = platform::last_part(file);
+    return platform::has_drive_letters ? lower_case(name) : name;
+}
+
 std::string complaint_about_files(const std::vector<std::string>& files) {
     std::set<std::string> names(own_names.begin(), own_names.end());
     for (const std::string& file : files) {
@@ -61,7 +68,7 @@ std::string complaint_about_files(const std::vector<std::string>& files) {
             return file + " is a folder; --with takes files.";
         if (!platform::file_size(file))
             return file + " is no file that can be copied into the batch folder.";
-        if (!names.insert(platform::last_part(file)).second)
+        if (!names.insert(name_in_folder(file)).second)
             return "The name of " + file + " is taken in the batch folder.";
     }
     return {};

@@ -242,6 +242,23 @@ TEST_F(PlainRun, what_makes_no_sense_has_status_2_and_one_line) {
     }
 }
 
+TEST_F(PlainRun, names_that_differ_in_case_are_one_where_the_system_takes_them_so) {
+    const std::string own = here.write("p/GEOMETRY.QLM", "");
+    const std::string view = here.write("zyn_view.txt", "");
+    const std::string twice = here.write("p/ZYN_view.txt", "");
+    const int expected = platform::has_drive_letters ? 2 : 0;
+    EXPECT_EQ(run_with({"--with", view, "--with", twice}).status, expected);
+    if (platform::has_drive_letters)
+        EXPECT_EQ(run_with({"--with", own}).status, 2);
+}
+
+TEST_F(PlainRun, an_end_of_a_line_in_the_name_of_the_batch_folder_is_refused) {
+    for (const char* name : {"a\rb", "a\nb"}) {
+        EXPECT_EQ(run_program(start_of({here / "model.skp", here / name})).status, 2);
+        EXPECT_FALSE(here.has(name));
+    }
+}
+
 TEST_F(PlainRun, progress_is_told_in_lines_of_the_open_job_description) {
     put_model(150);
     const program_result outcome = run_with({"--progress", "openjd"});
