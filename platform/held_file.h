@@ -35,7 +35,8 @@ public:
     bool is_held() const { return handle != none; }
     void release();
 
-    // Puts other bytes into the file. False on failure. Windows: they are on the disk when it returns; POSIX: behind
+    // Puts other bytes into the file, over the old ones, so that a beginning that both have never goes. False on
+    // failure. Windows: they are on the disk when it returns; POSIX: behind
     // the next flush_file_system.
     bool rewrite(std::string_view bytes);
     // Deletes the file under the name by which it is held now, and releases it. False if it could not be deleted.

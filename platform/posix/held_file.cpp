@@ -90,8 +90,8 @@ void held_file::release() {
 
 bool held_file::rewrite(std::string_view bytes) {
     const int descriptor = static_cast<int>(handle);
-    const bool is_done =
-        ftruncate(descriptor, 0) == 0 && lseek(descriptor, 0, SEEK_SET) == 0 && write_all(descriptor, bytes);
+    const bool is_done = lseek(descriptor, 0, SEEK_SET) == 0 && write_all(descriptor, bytes) &&
+                         ftruncate(descriptor, static_cast<off_t>(bytes.size())) == 0;
     failure_text = is_done ? std::string() : std::generic_category().message(errno);
     return is_done;
 }

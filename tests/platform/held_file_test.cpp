@@ -42,6 +42,16 @@ TEST(HeldFile, what_it_holds_is_replaced_whole) {
     EXPECT_EQ(here.read("mark"), "");
 }
 
+TEST(HeldFile, it_grows_and_shrinks_to_what_it_is_given) {
+    const temporary_folder here;
+    here.write("mark", "beginning");
+    held_file held;
+    ASSERT_EQ(held.take(here / "mark", hold_kind::old_file), hold_result::held);
+    EXPECT_TRUE(held.rewrite("beginning and more"));
+    EXPECT_TRUE(held.rewrite("beginning"));
+    EXPECT_EQ(here.read("mark"), "beginning");
+}
+
 TEST(HeldFile, it_may_be_renamed_while_it_is_held_and_stays_held) {
     const temporary_folder here;
     held_file held;

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "tools/json_reading/json_reading.h"
+#include "tools/single_run/run_report.h"
 
 #include <algorithm>
 #include <chrono>
@@ -33,8 +34,27 @@ bool has_mark(const std::string& folder) {
     return is_plain_file(platform::joined(folder, mark_name));
 }
 
+std::optional<std::string> text_of(const std::string& file) {
+    const auto bytes = is_plain_file(file) ? platform::read_file(file, json_reading::largest_report) : std::nullopt;
+    if (!bytes)
+        return std::nullopt;
+    return std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+}
+
+// A mark that this program has made: empty for the moment after its making, beginning as reports do from then on, and
+// the report of what is being removed at last.
+bool has_own_mark(const std::string& folder) {
+    const auto text = text_of(platform::joined(folder, mark_name));
+    return text && (text->empty() || text->starts_with(report_beginning) || is_report(*text));
+}
+
 bool has_report(const std::string& folder) {
     return is_plain_file(platform::joined(folder, report_name));
+}
+
+bool has_own_report(const std::string& folder) {
+    const auto text = text_of(platform::joined(folder, report_name));
+    return text && is_report(*text);
 }
 
 bool is_empty(const std::string& folder) {
@@ -58,7 +78,7 @@ bool clear_but(const std::string& folder, std::string_view kept) {
 
 // Put aside by a run, or what is left of that.
 bool is_one_of_ours(const std::string& folder) {
-    return is_real_folder(folder) && (has_report(folder) || has_mark(folder) || is_empty(folder));
+    return is_real_folder(folder) && (has_own_report(folder) || has_own_mark(folder) || is_empty(folder));
 }
 
 } // namespace
@@ -112,7 +132,7 @@ batch_place::stepped batch_place::restore() {
     if (held.take(platform::joined(aside, report_name), hold_kind::old_file) != hold_result::held)
         return {step::again, {}};
     if (name_is_taken(name)) {
-        if (!is_real_folder(name) || !(has_mark(name) || is_empty(name)))
+        if (!is_real_folder(name) || !(has_own_mark(name) || is_empty(name)))
             return {}; // not ours: the claim says so
         platform::held_file unfinished;
         if (has_mark(name) && unfinished.take(*this / mark_name, hold_kind::old_file) != hold_result::held)
@@ -130,10 +150,7 @@ batch_place::stepped batch_place::restore() {
 std::optional<std::string> batch_place::finished_report() const {
     if (!is_real_folder(name) || !has_report(name) || has_mark(name))
         return std::nullopt;
-    const auto bytes = platform::read_file(*this / report_name, json_reading::largest_report);
-    if (!bytes)
-        return std::nullopt;
-    return std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size());
+    return text_of(*this / report_name);
 }
 
 // ---- taking the folder
@@ -170,10 +187,12 @@ batch_place::stepped batch_place::claim_once() {
 }
 
 batch_place::stepped batch_place::claim_old_folder() {
-    if (has_mark(name))
-        return take_over_unfinished();
     if (has_report(name))
-        return put_aside();
+        return put_aside(); // with a mark beside it, which no run has left there
+    if (has_own_mark(name))
+        return take_over_unfinished();
+    if (has_mark(name))
+        return {step::done, "holds a " + std::string(mark_name) + " that is none of this program's"};
     if (!platform::list_folder(name))
         return {platform::exists(name) ? step::done : step::again, "cannot be read"};
     if (is_empty(name))
@@ -200,10 +219,9 @@ batch_place::stepped batch_place::take_over_unfinished() {
 }
 
 batch_place::stepped batch_place::put_aside() {
-    const auto report = finished_report();
-    if (!report && (has_mark(name) || !has_report(name))) // since then
+    if (!has_report(name)) // since then
         return {step::again, {}};
-    if (!report || !is_report(*report))
+    if (!has_own_report(name))
         return {step::done, "holds a " + std::string(report_name) + " that is none of this program's"};
     if (is_one_of_ours(aside)) // of a run that removes it
         return {step::again, {}};
@@ -243,12 +261,17 @@ batch_place::stepped batch_place::make_folder() {
 batch_place::stepped batch_place::make_mark() {
     switch (mark.take(*this / mark_name, hold_kind::new_file)) {
     case hold_result::held:
-        return {};
+        break;
     case hold_result::impossible:
         return {step::done, "cannot be written: " + mark.failure()};
     default:
         return {step::again, {}}; // another run was quicker
     }
+    if (mark.rewrite(report_beginning))
+        return {};
+    const std::string words = mark.failure();
+    mark.remove(*this / mark_name);
+    return {step::done, "cannot be written: " + words};
 }
 
 // ---- the end of a run

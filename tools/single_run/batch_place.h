@@ -2,10 +2,11 @@
 
 // The folder of a batch: who may work in it, and what it holds when a run has ended, however it has ended.
 //
-// A folder in which a run is at work holds a file, the mark, which the run holds; when the batch is finished the mark
-// becomes the report, by being renamed. What a run replaces stands beside its folder meanwhile, under the folder's name
-// and put_aside_ending. Nothing else is ever removed, no link is followed, and whatever point a run is killed at, the
-// next one finds its way back: to the finished batch if there was one, to no folder otherwise.
+// A folder in which a run is at work holds a file, the mark, which the run holds and which begins as a report does;
+// when the batch is finished the mark becomes the report, by being renamed. What a run replaces stands beside its
+// folder meanwhile, under the folder's name and put_aside_ending. Nothing else is ever removed, no link is followed,
+// and whatever point a run is killed at, the next one finds its way back: to the finished batch if there was one, to no
+// folder otherwise.
 
 #include "platform/held_file.h"
 #include "tools/single_run/run_clock.h"

@@ -34,6 +34,9 @@ struct run_report {
     batch_verdict verdict;
 };
 
+// How every report begins. The mark of a run that is at work holds no more than that.
+inline constexpr std::string_view report_beginning = "{\n \"format\": 1,\n \"program\": \"tessaline-run\"";
+
 // One object on lines of its own; texts of the system's encoding as UTF-8.
 std::string text_of_report(const run_report& report);
 

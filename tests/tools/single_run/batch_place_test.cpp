@@ -117,6 +117,39 @@ TEST_F(BatchPlace, a_claim_that_is_finished_has_the_report_and_nothing_put_aside
     EXPECT_FALSE(has_put_aside());
 }
 
+TEST_F(BatchPlace, a_mark_that_is_none_of_ours_is_refused_and_nothing_is_removed) {
+    here.write("batch/letter.txt", "dear reader");
+    here.write("batch/tessaline-run.json.part", "half of a download");
+    EXPECT_EQ(batch_place(here / "batch").claim(run_clock(std::nullopt)),
+              "holds a tessaline-run.json.part that is none of this program's");
+    EXPECT_EQ(here.read("batch/letter.txt"), "dear reader");
+    EXPECT_EQ(here.read("batch/tessaline-run.json.part"), "half of a download");
+}
+
+TEST_F(BatchPlace, the_mark_of_a_run_at_work_tells_whose_it_is) {
+    batch_place place(here / "batch");
+    ASSERT_EQ(place.claim(run_clock(std::nullopt)), "");
+    EXPECT_EQ(here.read("batch/tessaline-run.json.part"), "{\n \"format\": 1,\n \"program\": \"tessaline-run\"");
+    EXPECT_EQ(place.abandon(), "");
+}
+
+TEST_F(BatchPlace, a_mark_beside_a_report_costs_nothing_of_the_finished_batch) {
+    make_finished("batch", "old");
+    here.write("batch/tessaline-run.json.part", "");
+    batch_place place(here / "batch");
+    ASSERT_EQ(place.claim(run_clock(std::nullopt)), "");
+    EXPECT_TRUE(has_put_aside());
+    EXPECT_EQ(place.abandon(), "");
+    EXPECT_EQ(which(), "old");
+    EXPECT_FALSE(has_put_aside());
+}
+
+TEST_F(BatchPlace, what_stands_in_the_place_of_what_was_put_aside_and_has_a_foreign_mark_is_never_touched) {
+    here.write("batch.tessaline-run.before/tessaline-run.json.part", "half of a download");
+    recover();
+    EXPECT_EQ(here.read("batch.tessaline-run.before/tessaline-run.json.part"), "half of a download");
+}
+
 TEST_F(BatchPlace, a_folder_that_holds_a_mark_has_no_finished_report) {
     make_finished("batch", "old");
     EXPECT_EQ(batch_place(here / "batch").finished_report(), finished_by_us);

@@ -16,6 +16,10 @@ TEST(RunReport, what_it_says_of_a_batch_is_read_from_it_again) {
     EXPECT_EQ(read.warnings, 1u);
 }
 
+TEST(RunReport, every_report_begins_as_a_mark_does) {
+    EXPECT_TRUE(text_of_report({}).starts_with(report_beginning));
+}
+
 TEST(RunReport, values_that_lie_deeper_than_any_report_are_left_out) {
     const std::string deep = R"({"findings":)" + std::string(1000000, '[') + std::string(1000000, ']') + '}';
     EXPECT_LT(verdict_in(deep).findings.size(), 100u);
