@@ -2,6 +2,7 @@
 
 // A file that one process at a time holds, as a sign that it works on what the file stands for.
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -39,6 +40,8 @@ public:
     // failure. Windows: they are on the disk when it returns; POSIX: behind
     // the next flush_file_system.
     bool rewrite(std::string_view bytes);
+    // The first bytes of the file, at most so many; none if they cannot be read.
+    std::string beginning(std::size_t most_bytes);
     // Deletes the file under the name by which it is held now, and releases it. False if it could not be deleted.
     bool remove(const std::string& name);
 

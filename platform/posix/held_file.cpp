@@ -96,6 +96,16 @@ bool held_file::rewrite(std::string_view bytes) {
     return is_done;
 }
 
+std::string held_file::beginning(std::size_t most_bytes) {
+    std::string bytes(most_bytes, '\0');
+    ssize_t count = 0;
+    do {
+        count = pread(static_cast<int>(handle), bytes.data(), bytes.size(), 0);
+    } while (count < 0 && errno == EINTR);
+    bytes.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
+    return bytes;
+}
+
 bool held_file::remove(const std::string& name) {
     const bool is_done = unlink(name.c_str()) == 0;
     release();

@@ -90,6 +90,17 @@ bool held_file::rewrite(std::string_view bytes) {
     return is_done;
 }
 
+std::string held_file::beginning(std::size_t most_bytes) {
+    const HANDLE opened = handle_of(handle);
+    std::string bytes(most_bytes, '\0');
+    DWORD count = 0;
+    if (SetFilePointer(opened, 0, nullptr, FILE_BEGIN) == INVALID_SET_FILE_POINTER ||
+        !ReadFile(opened, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr))
+        count = 0;
+    bytes.resize(count);
+    return bytes;
+}
+
 bool held_file::remove(const std::string& name) {
     const bool is_done = DeleteFileA(name.c_str()); // goes with the last handle
     release();

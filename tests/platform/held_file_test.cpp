@@ -52,6 +52,17 @@ TEST(HeldFile, it_grows_and_shrinks_to_what_it_is_given) {
     EXPECT_EQ(here.read("mark"), "beginning");
 }
 
+TEST(HeldFile, its_beginning_can_be_looked_at_while_it_is_held) {
+    const temporary_folder here;
+    here.write("mark", "beginning and more");
+    held_file held;
+    ASSERT_EQ(held.take(here / "mark", hold_kind::old_file), hold_result::held);
+    EXPECT_EQ(held.beginning(9), "beginning");
+    EXPECT_EQ(held.beginning(100), "beginning and more");
+    EXPECT_TRUE(held.rewrite(""));
+    EXPECT_EQ(held.beginning(9), "");
+}
+
 TEST(HeldFile, it_may_be_renamed_while_it_is_held_and_stays_held) {
     const temporary_folder here;
     held_file held;

@@ -5,6 +5,7 @@
 #include "tools/single_run/run_report.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <thread>
 
@@ -16,6 +17,7 @@ using platform::hold_result;
 constexpr int tries = 50; // for a second in all
 constexpr auto time_between_tries = std::chrono::milliseconds(20);
 constexpr const char* is_taken = "is in use by another run";
+constexpr const char* foreign_mark = "holds a tessaline-run.json.part that is none of this program's";
 
 // Also for a link that leads nowhere.
 bool name_is_taken(const std::string& name) {
@@ -41,11 +43,24 @@ std::optional<std::string> text_of(const std::string& file) {
     return std::string(reinterpret_cast<const char*>(bytes->data()), bytes->size());
 }
 
-// A mark that this program has made: empty for the moment after its making, beginning as reports do from then on, and
-// the report of what is being removed at last.
+// Whether a mark that begins so is of this program: it is empty for the moment after its making, and begins as reports
+// do from then on.
+bool is_of_own_mark(std::string_view beginning) {
+    return report_beginning.starts_with(beginning.substr(0, report_beginning.size()));
+}
+
+bool is_own_mark(platform::held_file& held) {
+    return is_of_own_mark(held.beginning(report_beginning.size()));
+}
+
+// Whether there is one, or one that only its holder can look at.
 bool has_own_mark(const std::string& folder) {
-    const auto text = text_of(platform::joined(folder, mark_name));
-    return text && (text->empty() || text->starts_with(report_beginning) || is_report(*text));
+    const std::string name = platform::joined(folder, mark_name);
+    platform::file opened;
+    if (!is_plain_file(name) || !opened.open(name, platform::open_mode::read))
+        return is_plain_file(name);
+    std::array<char, report_beginning.size()> beginning;
+    return is_of_own_mark({beginning.data(), opened.read(beginning.data(), beginning.size())});
 }
 
 bool has_report(const std::string& folder) {
@@ -122,6 +137,8 @@ batch_place::stepped batch_place::recover_once() {
     if (!is_empty(aside) && held.take(platform::joined(aside, is_whole ? report_name : mark_name),
                                       hold_kind::old_file) != hold_result::held)
         return {}; // whose run is at it still
+    if (held.is_held() && !is_whole && !is_own_mark(held))
+        return {};
     remove_folder(aside, held);
     return {};
 }
@@ -137,6 +154,8 @@ batch_place::stepped batch_place::restore() {
         platform::held_file unfinished;
         if (has_mark(name) && unfinished.take(*this / mark_name, hold_kind::old_file) != hold_result::held)
             return {step::again, {}};
+        if (unfinished.is_held() && !is_own_mark(unfinished))
+            return {};
         if (!remove_folder(name, unfinished))
             return {step::done, "cannot be cleared of what a run left that was killed"};
     }
@@ -192,7 +211,7 @@ batch_place::stepped batch_place::claim_old_folder() {
     if (has_own_mark(name))
         return take_over_unfinished();
     if (has_mark(name))
-        return {step::done, "holds a " + std::string(mark_name) + " that is none of this program's"};
+        return {step::done, foreign_mark};
     if (!platform::list_folder(name))
         return {platform::exists(name) ? step::done : step::again, "cannot be read"};
     if (is_empty(name))
@@ -210,6 +229,10 @@ batch_place::stepped batch_place::take_over_unfinished() {
         return {step::done, "holds a mark that cannot be written: " + mark.failure()};
     default:
         return {step::again, {}};
+    }
+    if (!is_own_mark(mark)) {
+        mark.release();
+        return {step::done, foreign_mark};
     }
     made_folder = true; // by the run before
     if (clear_but(name, mark_name))
