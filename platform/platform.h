@@ -213,6 +213,10 @@ struct made_folders {
 made_folders make_folders(const std::string& name);
 bool delete_file(const std::string& name); // a file or a link itself, never a folder
 bool delete_empty_folder(const std::string& name);
+// Removes all that is in the folder and in the folders in it, but for the file `kept` of the folder itself. Links go,
+// and what they lead to stays. False if anything could not be removed. POSIX: no link is followed either that takes the
+// place of a folder meanwhile.
+bool clear_folder(const std::string& name, std::string_view kept = {});
 // Whatever was written in that folder and below it is on its disk when it returns; false if the disk refused it. A file
 // that somebody holds (held_file.h) is left to its holder on Windows.
 bool flush_file_system(const std::string& folder);
@@ -235,9 +239,10 @@ std::optional<std::vector<folder_entry>> list_folder(const std::string& name);
 // ---- files (file.cpp)
 
 enum class open_mode {
-    read,   // must exist and be a plain file: a pipe or a device could keep the reader for ever
-    write,  // made or emptied; a device is written to
-    append, // made if missing, positioned at the end; a device is written to
+    read,      // must exist and be a plain file: a pipe or a device could keep the reader for ever
+    write,     // made or emptied; a device is written to
+    write_new, // made; the name must be free, even of a link
+    append,    // made if missing, positioned at the end; a device is written to
 };
 
 // An open file of plain bytes: no buffer, no line ends changed. Where the system knows sharing modes, others may read

@@ -27,10 +27,17 @@ int flags_of(open_mode mode) {
         return O_RDONLY;
     case open_mode::write:
         return O_WRONLY | O_CREAT | O_TRUNC;
+    case open_mode::write_new:
+        return O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
     case open_mode::append:
         return O_WRONLY | O_CREAT | O_APPEND;
     }
     return O_RDONLY;
+}
+
+// The trace itself is appended to.
+bool makes_output(open_mode mode) {
+    return mode == open_mode::write || mode == open_mode::write_new;
 }
 
 std::string words_for(int error) {
@@ -65,7 +72,7 @@ bool file::open(const std::string& name, open_mode mode) {
     if (descriptor < 0) {
         const int error = errno;
         failure_text = words_for(error);
-        if (mode == open_mode::write)
+        if (makes_output(mode))
             trace_if_refused(name, error);
         return false;
     }
@@ -77,7 +84,7 @@ bool file::open(const std::string& name, open_mode mode) {
         return false;
     }
     handle = descriptor;
-    file_name = mode == open_mode::write ? name : std::string(); // the trace itself is appended to
+    file_name = makes_output(mode) ? name : std::string();
     return true;
 }
 

@@ -35,6 +35,8 @@ struct close_folder {
     void operator()(DIR* folder) const { closedir(folder); }
 };
 
+constexpr int to_clear = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
 } // namespace
 
 bool exists(const std::string& name) {
@@ -91,6 +93,33 @@ bool delete_file(const std::string& name) {
 
 bool delete_empty_folder(const std::string& name) {
     return rmdir(name.c_str()) == 0;
+}
+
+namespace {
+
+// Takes the descriptor of an open folder, or -1.
+bool clear_opened(int descriptor, std::string_view kept) {
+    const std::unique_ptr<DIR, close_folder> folder(descriptor < 0 ? nullptr : fdopendir(descriptor));
+    if (!folder)
+        return false;
+    std::vector<std::string> names; // all of them first: removing what is listed may make the list miss others
+    while (const dirent* const item = readdir(folder.get()))
+        if (const std::string_view name = item->d_name; name != "." && name != ".." && name != kept)
+            names.emplace_back(name);
+    bool is_clear = true;
+    for (const std::string& name : names) {
+        if (unlinkat(descriptor, name.c_str(), 0) == 0)
+            continue;
+        is_clear = clear_opened(openat(descriptor, name.c_str(), to_clear), {}) &&
+                   unlinkat(descriptor, name.c_str(), AT_REMOVEDIR) == 0 && is_clear;
+    }
+    return is_clear;
+}
+
+} // namespace
+
+bool clear_folder(const std::string& name, std::string_view kept) {
+    return clear_opened(open(name.c_str(), to_clear), kept);
 }
 
 bool flush_file_system(const std::string& folder) {

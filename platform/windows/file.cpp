@@ -29,10 +29,17 @@ opening opening_for(open_mode mode) {
         return {GENERIC_READ, OPEN_EXISTING};
     case open_mode::write:
         return {GENERIC_WRITE, CREATE_ALWAYS};
+    case open_mode::write_new:
+        return {GENERIC_WRITE, CREATE_NEW};
     case open_mode::append:
         return {FILE_APPEND_DATA | SYNCHRONIZE, OPEN_ALWAYS};
     }
     return {GENERIC_READ, OPEN_EXISTING};
+}
+
+// The trace itself is appended to.
+bool makes_output(open_mode mode) {
+    return mode == open_mode::write || mode == open_mode::write_new;
 }
 
 // The system tells of a folder as if the user lacked a right, and of a long name as if it led nowhere.
@@ -54,7 +61,7 @@ bool file::open(const std::string& name, open_mode mode) {
     if (opened == INVALID_HANDLE_VALUE) {
         const DWORD error = GetLastError();
         failure_text = fault_of(name, error);
-        if (mode == open_mode::write)
+        if (makes_output(mode))
             trace_if_refused(name, error);
         return false;
     }
@@ -64,7 +71,7 @@ bool file::open(const std::string& name, open_mode mode) {
         return false;
     }
     handle = reinterpret_cast<std::intptr_t>(opened);
-    file_name = mode == open_mode::write ? name : std::string(); // the trace itself is appended to
+    file_name = makes_output(mode) ? name : std::string();
     return true;
 }
 

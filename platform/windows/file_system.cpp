@@ -168,10 +168,23 @@ bool delete_empty_folder(const std::string& name) {
     return RemoveDirectoryA(name.c_str());
 }
 
+bool clear_folder(const std::string& name, std::string_view kept) {
+    const auto entries = list_folder(name);
+    bool is_clear = entries.has_value();
+    for (const folder_entry& entry : entries.value_or(std::vector<folder_entry>())) {
+        const std::string found = joined(name, entry.name);
+        if (entry.is_folder)
+            is_clear = clear_folder(found) && delete_empty_folder(found) && is_clear;
+        else if (entry.name != kept)
+            is_clear = delete_file(found) && is_clear;
+    }
+    return is_clear;
+}
+
 bool flush_file_system(const std::string& folder) {
     bool is_flushed = true;
     for (const folder_entry& entry : list_folder(folder).value_or(std::vector<folder_entry>())) {
-        const std::string name = folder + path_separator + entry.name;
+        const std::string name = joined(folder, entry.name);
         if (entry.is_folder)
             is_flushed = flush_file_system(name) && is_flushed;
         else if (!entry.is_symbolic_link)

@@ -64,6 +64,21 @@ TEST(FileSystem, no_folder_is_made_in_a_file_or_in_place_of_one) {
     EXPECT_EQ(folder.read("a"), "a file");
 }
 
+TEST(FileSystem, clears_a_folder_but_for_one_file_of_its_own) {
+    const temporary_folder folder;
+    folder.write("kept", "a");
+    folder.write("gone", "b");
+    folder.write("inner/kept", "c");
+    folder.make_folder("inner/deep/empty");
+    EXPECT_TRUE(platform::clear_folder(folder.name(), "kept"));
+    EXPECT_EQ(folder.read("kept"), "a");
+    EXPECT_FALSE(folder.has("gone"));
+    EXPECT_FALSE(folder.has("inner"));
+    EXPECT_TRUE(platform::clear_folder(folder.name()));
+    EXPECT_FALSE(folder.has("kept"));
+    EXPECT_FALSE(platform::clear_folder(folder / "missing"));
+}
+
 TEST(FileSystem, gives_the_size_of_plain_files_only) {
     const temporary_folder folder;
     EXPECT_EQ(platform::file_size(folder.write("a.txt", "abc")), 3u);

@@ -38,6 +38,19 @@ TEST(File, writing_empties_an_old_file_and_appending_keeps_it) {
     EXPECT_EQ(folder.read("a"), "new more");
 }
 
+TEST(File, a_new_file_is_never_made_over_an_old_one) {
+    const temporary_folder folder;
+    folder.write("old", "of somebody");
+    platform::file file;
+    EXPECT_FALSE(file.open(folder / "old", open_mode::write_new));
+    EXPECT_NE(file.failure(), "");
+    ASSERT_TRUE(file.open(folder / "new", open_mode::write_new));
+    EXPECT_TRUE(file.write_all("bytes"));
+    EXPECT_TRUE(file.close());
+    EXPECT_EQ(folder.read("old"), "of somebody");
+    EXPECT_EQ(folder.read("new"), "bytes");
+}
+
 TEST(File, appending_makes_a_missing_file) {
     const temporary_folder folder;
     platform::file file;

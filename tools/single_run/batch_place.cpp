@@ -77,20 +77,6 @@ bool is_empty(const std::string& folder) {
     return entries && entries->empty();
 }
 
-// Removes all that is in the folder but one file; links go, and what they lead to stays.
-bool clear_but(const std::string& folder, std::string_view kept) {
-    bool is_clear = true;
-    for (const platform::folder_entry& entry :
-         platform::list_folder(folder).value_or(std::vector<platform::folder_entry>())) {
-        const std::string found = platform::joined(folder, entry.name);
-        if (entry.is_folder)
-            is_clear = clear_but(found, {}) && platform::delete_empty_folder(found) && is_clear;
-        else if (entry.name != kept)
-            is_clear = platform::delete_file(found) && is_clear;
-    }
-    return is_clear;
-}
-
 // Put aside by a run, or what is left of that.
 bool is_one_of_ours(const std::string& folder) {
     return is_real_folder(folder) && (has_own_report(folder) || has_own_mark(folder) || is_empty(folder));
@@ -235,7 +221,7 @@ batch_place::stepped batch_place::take_over_unfinished() {
         return {step::done, foreign_mark};
     }
     made_folder = true; // by the run before
-    if (clear_but(name, mark_name))
+    if (platform::clear_folder(name, mark_name))
         return {};
     mark.release();
     return {step::done, "cannot be cleared of what a run left that was killed"};
@@ -304,7 +290,7 @@ bool batch_place::remove_folder(const std::string& folder, platform::held_file& 
     if (has_report(folder) &&
         !platform::rename_replacing(platform::joined(folder, report_name), platform::joined(folder, mark_name)))
         return false;
-    if (!clear_but(folder, mark_name))
+    if (!platform::clear_folder(folder, mark_name))
         return false;
     const std::string last = platform::joined(folder, mark_name);
     if (held.is_held() ? !held.remove(last) : name_is_taken(last) && !platform::delete_file(last))
@@ -334,7 +320,7 @@ void batch_place::discard_put_aside() {
 
 std::string batch_place::abandon() {
     std::string complaint;
-    const bool is_clear = clear_but(name, mark_name);
+    const bool is_clear = platform::clear_folder(name, mark_name);
     if (!is_clear || !mark.remove(*this / mark_name))
         complaint = "cannot be cleared; the next run will try again";
     else if (made_folder)

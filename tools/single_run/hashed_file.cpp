@@ -23,7 +23,7 @@ hashed_file read_through(const std::string& from, const std::string* to, const r
     if (!source.open(from, platform::open_mode::read))
         return failed(std::move(result), file_fault::not_read, source.failure());
     platform::file target;
-    if (to != nullptr && !target.open(*to, platform::open_mode::write))
+    if (to != nullptr && !target.open(*to, platform::open_mode::write_new))
         return failed(std::move(result), file_fault::not_written, target.failure());
     content_hash hash;
     std::vector<char> buffer(step);

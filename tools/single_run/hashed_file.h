@@ -24,5 +24,5 @@ struct hashed_file {
 // Reads the whole file. Ends early, with the fault `stopped`, when the clock says so.
 hashed_file hash_file(const std::string& name, const run_clock& clock);
 
-// The same, and writes the bytes to another file.
+// The same, and writes the bytes to another file, which must not be there, not even as a link.
 hashed_file copy_file(const std::string& from, const std::string& to, const run_clock& clock);

@@ -134,8 +134,9 @@ std::string add_settings(const std::string& option_file, const std::map<std::str
     }
     for (const auto& [name, value] : settings)
         text += setting_line(name, value);
+    platform::delete_file(option_file); // what is written to is new: it is no link to a file of somebody else
     platform::file file;
-    if (!file.open(option_file, platform::open_mode::write) || !file.write_all(text))
+    if (!file.open(option_file, platform::open_mode::write_new) || !file.write_all(text))
         return file.failure();
     return file.close() ? std::string() : "the disk refused it";
 }

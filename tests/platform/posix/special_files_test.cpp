@@ -34,6 +34,22 @@ TEST(SpecialFile, what_is_no_plain_file_is_not_read) {
     }
 }
 
+TEST(SpecialFile, no_link_is_followed_by_what_clears_or_makes) {
+    const temporary_folder folder;
+    folder.write("elsewhere/letter.txt", "dear reader");
+    folder.make_folder("cleared");
+    std::filesystem::create_directory_symlink(folder / "elsewhere", folder / "cleared/link");
+    std::filesystem::create_directory_symlink(folder / "elsewhere", folder / "in_place_of_a_folder");
+    std::filesystem::create_symlink(folder / "nowhere", folder / "in_place_of_a_file");
+    EXPECT_FALSE(platform::clear_folder(folder / "in_place_of_a_folder"));
+    EXPECT_TRUE(platform::clear_folder(folder / "cleared"));
+    EXPECT_FALSE(folder.has("cleared/link"));
+    EXPECT_EQ(folder.read("elsewhere/letter.txt"), "dear reader");
+    platform::file file;
+    EXPECT_FALSE(file.open(folder / "in_place_of_a_file", open_mode::write_new));
+    EXPECT_FALSE(folder.has("nowhere"));
+}
+
 // The memory of this process is a plain file, and nothing can be read at its begin.
 TEST(SpecialFile, a_read_that_fails_is_no_end_of_the_file) {
     platform::file file;
