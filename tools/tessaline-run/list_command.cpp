@@ -2,6 +2,8 @@
 
 #include "platform/platform.h"
 #include "tools/command_line/answers.h"
+#include "tools/command_line/one_line.h"
+#include "tools/single_run/run_options.h"
 #include "tools/single_run/run_status.h"
 #include "tools/tessaline-run/list_run.h"
 
@@ -43,12 +45,53 @@ struct run_option {
     std::string_view name;
     bool has_value;
 };
-constexpr std::array<run_option, 5> run_options = {
+constexpr std::array<run_option, 5> options_of_each = {
     {{"--with", true}, {"--option", true}, {"--seconds", true}, {"--memory", true}, {"--force", false}}};
+
+constexpr std::array<std::string_view, 3> commands = {"--list", "--table", "--count"};
+constexpr std::array<std::string_view, 10> words_with_value = {
+    "--root", "--models", "--jobs", "--tries", "--with", "--option", "--seconds", "--memory", "--json", "--progress"};
+
+template<class Words>
+bool is_one_of(std::string_view word, const Words& all) {
+    return std::find(all.begin(), all.end(), word) != all.end();
+}
+
+// Takes the command out of the words, with the word behind it, which goes to their begin. Empty if there is none.
+std::string taken_command(std::vector<std::string>& words) {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (is_one_of(words[i], commands)) {
+            const auto at = words.begin() + static_cast<std::ptrdiff_t>(i);
+            std::string command = *at;
+            words.erase(at);
+            if (i < words.size())
+                std::rotate(words.begin(), words.begin() + static_cast<std::ptrdiff_t>(i),
+                            words.begin() + static_cast<std::ptrdiff_t>(i) + 1);
+            return command;
+        }
+        if (is_one_of(words[i], words_with_value))
+            ++i;
+    }
+    return {};
+}
+
+// Why no run takes these options, in a sentence without its full stop; empty if each does.
+std::string complaint_about_options(const std::vector<std::string>& run_words) {
+    std::vector<std::string> words = run_words;
+    words.insert(words.end(), {"model", "folder"});
+    return read_run_options(words).complaint;
+}
+
+int refuse(const std::string& sentence) {
+    platform::write_standard_error("tessaline-run: " + on_one_line(sentence) + '\n');
+    return static_cast<int>(run_status::usage);
+}
 
 class list_words {
 public:
-    list_words(int argc, const char* const* argv) : words(argv + 2, argv + argc), command(argv[1]) {}
+    // behind_command: without the command itself, the name of the list first.
+    list_words(std::string name, std::vector<std::string> behind_command)
+        : words(std::move(behind_command)), command(std::move(name)) {}
 
     // Nothing if the words are not understood; the word that no option is called, if that is why, in unknown().
     std::optional<list_options> taken() {
@@ -108,9 +151,9 @@ private:
     }
 
     bool take_run_option(const std::string& word) {
-        const auto known = std::find_if(run_options.begin(), run_options.end(),
+        const auto known = std::find_if(options_of_each.begin(), options_of_each.end(),
                                         [&](const auto& option) { return option.name == word; });
-        if (known == run_options.end()) {
+        if (known == options_of_each.end()) {
             unknown_word = word;
             return false;
         }
@@ -130,17 +173,18 @@ private:
 } // namespace
 
 std::optional<int> run_list_command(int argc, const char* const* argv, std::string_view usage) {
-    const std::string_view command = argc > 1 ? argv[1] : "";
-    if (command != "--list" && command != "--table" && command != "--count")
+    std::vector<std::string> all(argv + std::min(argc, 1), argv + argc);
+    const std::string command = has_lists ? taken_command(all) : std::string();
+    if (command.empty())
         return std::nullopt;
-    list_words words(argc, argv);
+    list_words words(command, std::move(all));
     const auto options = words.taken();
-    if (!words.unknown().empty()) {
-        platform::write_standard_error("tessaline-run: unknown option " + words.unknown() + '\n');
-        return static_cast<int>(run_status::usage);
-    }
+    if (!words.unknown().empty())
+        return refuse("unknown option " + words.unknown());
     if (!options)
         return refuse_command_line(usage);
+    if (const std::string complaint = complaint_about_options(options->run_words); !complaint.empty())
+        return refuse(complaint);
     return command == "--list"    ? run_list(*options)
            : command == "--table" ? print_table(*options)
                                   : print_count(*options);

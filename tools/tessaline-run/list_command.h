@@ -2,8 +2,13 @@
 
 // The command lines that are about a list of models, and what stands in the usage about them.
 
+#include "platform/platform.h"
+
 #include <optional>
 #include <string_view>
+
+// GNU parallel is not to be had on Windows.
+inline constexpr bool has_lists = !platform::has_drive_letters;
 
 inline constexpr std::string_view list_usage =
     "Many models:\n"
@@ -20,6 +25,6 @@ inline constexpr std::string_view list_usage =
     "  --tries N            so often each, if it fails (1)\n"
     "  --resume             go on with the job log of an interrupted run: what it calls done is not looked at\n";
 
-// The status of a command line whose first word is --list, --table or --count; nothing for any other. One that makes no
-// sense is answered with the usage, and 2.
+// The status of a command line that has --list, --table or --count anywhere; nothing for any other, and without
+// has_lists for all. One that makes no sense is answered with the usage or a sentence, and 2.
 std::optional<int> run_list_command(int argc, const char* const* argv, std::string_view usage);

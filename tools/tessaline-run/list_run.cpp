@@ -100,6 +100,19 @@ public:
         return platform::joined(folder, "jobs" + part);
     }
 
+    // Whether the list is one of the files that belong to the run of it, which makes them anew.
+    bool is_in_its_own_way() const {
+        const auto place = platform::real_name(options.list);
+        const auto reports = platform::real_name(platform::joined(folder, "reports"));
+        if (place && reports && place->starts_with(platform::joined(*reports, "")))
+            return true;
+        const std::string table = platform::joined(folder, "table");
+        for (const std::string& made : {jobs_file(), job_log(), table + ".csv", table + ".txt"})
+            if (place && platform::real_name(made) == place)
+                return true;
+        return false;
+    }
+
     // The folders for reports (each run makes those of its batch); the reports of earlier runs go, so that none speaks
     // for this one.
     bool prepare() const {
@@ -192,6 +205,8 @@ int run_list(const list_options& options) {
     if (!runner.has_models())
         return end_with(run_status::usage,
                         "The list has only " + std::to_string(reading.list.places.size()) + " models");
+    if (runner.is_in_its_own_way())
+        return end_with(run_status::usage, options.list + " would be replaced by a file that belongs to the list");
     if (options.resumes && text_of(runner.jobs_file(), largest_list) != runner.jobs())
         return end_with(run_status::usage, "There is nothing to resume: " + runner.jobs_file() +
                                                " is missing or was written for another list or other options");
@@ -210,7 +225,10 @@ int print_table(const list_options& options) {
     const list_reading reading = read_list(options);
     if (!reading.refusal.empty())
         return end_with(run_status::usage, reading.refusal);
-    return list_runner(options, reading.list).show_table();
+    const list_runner runner(options, reading.list);
+    if (runner.is_in_its_own_way())
+        return end_with(run_status::usage, options.list + " would be replaced by a file that belongs to the list");
+    return runner.show_table();
 }
 
 int print_count(const list_options& options) {

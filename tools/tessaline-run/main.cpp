@@ -30,7 +30,7 @@ std::string usage() {
         "Status:\n";
     for (const status_row& row : status_table())
         text += "  " + std::to_string(static_cast<int>(row.status)) + "  " + std::string(row.meaning) + '\n';
-    return text.append(list_usage);
+    return has_lists ? text.append(list_usage) : text;
 }
 
 // The last line is a sentence.

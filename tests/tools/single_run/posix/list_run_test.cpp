@@ -192,6 +192,41 @@ TEST_F(ListRun, an_output_folder_that_cannot_be_made_is_status_4) {
     EXPECT_THAT(seen.errors, HasSubstr("cannot be written"));
 }
 
+TEST_F(ListRun, options_that_no_run_takes_are_refused_before_any_begins) {
+    put_listed_model("x.skp");
+    const program_result seen = run_list({"--option", "nosuch=1"});
+    EXPECT_EQ(seen.status, 2);
+    EXPECT_EQ(seen.errors, "tessaline-run: there is no setting nosuch\n");
+    EXPECT_EQ(run_list({"--memory", "much"}).status, 2);
+    EXPECT_FALSE(here.has("out"));
+}
+
+TEST_F(ListRun, the_command_may_stand_behind_its_options) {
+    put_listed_model("x.skp");
+    const program_result seen =
+        run_program(start_of({"--force", "--jobs", "1", "--list", here / "list", "--tries", "2", here / "out"}));
+    EXPECT_EQ(seen.status, 0) << seen.errors;
+    EXPECT_TRUE(here.has("out/x.skp/tessaline-run.json"));
+    EXPECT_EQ(run_program(start_of({"--root", here / "models", "--count", here / "list"})).output, "1\n");
+}
+
+TEST_F(ListRun, a_word_that_is_the_value_of_an_option_is_no_command) {
+    const program_result seen = run_with({"--with", "--list"});
+    EXPECT_EQ(seen.status, 2);
+    EXPECT_THAT(seen.errors, StartsWith("tessaline-run: "));
+}
+
+TEST_F(ListRun, a_list_is_never_replaced_by_what_its_run_makes) {
+    put_listed_model("x.skp");
+    ASSERT_EQ(run_list().status, 0);
+    const std::string text = here.read("list");
+    for (const char* name : {"jobs", "jobs.log", "table.csv", "table.txt", "reports/list"}) {
+        const std::string list = here.write("out/tessaline-list/" + std::string(name), text);
+        EXPECT_EQ(run_program(start_of({"--list", list, here / "out"})).status, 2) << name;
+        EXPECT_EQ(text_of_file(list), text) << name;
+    }
+}
+
 TEST_F(ListRun, a_request_to_end_ends_all_runs_and_leaves_no_batch) {
     put_listed_model("x.skp");
     put_listed_model("y.skp");
