@@ -193,6 +193,8 @@ private:
     }
 
     [[noreturn]] void fail_for_checker(const platform::child_end& end) const {
+        if (end.fate == platform::child_fate::not_started)
+            fail(run_status::usage, "The checker cannot be started: " + end.words + '.');
         const bool is_crash = end.fate == platform::child_fate::crashed;
         if (is_crash &&
             (options.memory == 0 || end.words != "SIGABRT")) // which is what a program of C++ does without memory

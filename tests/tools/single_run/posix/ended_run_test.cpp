@@ -127,6 +127,15 @@ TEST_F(EndedRun, a_converter_that_crashes_is_named_with_its_signal) {
     EXPECT_FALSE(here.has("batch"));
 }
 
+TEST_F(EndedRun, a_checker_that_cannot_be_started_is_told_in_the_words_of_the_system) {
+    std::filesystem::remove(here / "bin/batch-check"); // else the file of the build would be written to
+    here.write("bin/batch-check", "no program");
+    const program_result outcome = RunFixture::run();
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(last_line(outcome.errors), "tessaline-run: The checker cannot be started: Permission denied.");
+    EXPECT_FALSE(here.has("batch"));
+}
+
 TEST_F(EndedRun, a_second_run_on_the_same_folder_is_refused_while_the_first_goes_on) {
     const auto first = waiting_run();
     const program_result second = run_with({"--force"});
