@@ -57,9 +57,12 @@ std::vector<pid_t> started_program::children() const {
     return all;
 }
 
-int started_program::wait() {
+int started_program::wait(std::chrono::milliseconds longest) {
     int status = 0;
-    comes_true([&] { return waitpid(process, &status, WNOHANG) != 0; });
+    if (!comes_true([&] { return waitpid(process, &status, WNOHANG) != 0; }, longest)) {
+        send(SIGKILL);
+        waitpid(process, &status, 0);
+    }
     process = -1;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
@@ -70,8 +73,8 @@ std::string started_program::errors() const {
     return text.str();
 }
 
-bool comes_true(const std::function<bool()>& condition) {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::minutes(1);
+bool comes_true(const std::function<bool()>& condition, std::chrono::milliseconds longest) {
+    const auto deadline = std::chrono::steady_clock::now() + longest;
     while (!condition()) {
         if (std::chrono::steady_clock::now() > deadline)
             return false;

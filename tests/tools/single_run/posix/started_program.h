@@ -4,6 +4,7 @@
 
 #include "tests/support/run_program.h"
 
+#include <chrono>
 #include <csignal>
 #include <functional>
 #include <string>
@@ -24,8 +25,8 @@ public:
     // The programs that it has started and that run still.
     std::vector<pid_t> children() const;
 
-    // Its status when it has ended; -1 if a signal has ended it.
-    int wait();
+    // Its status when it has ended; -1 if a signal has ended it, and if it had to be killed because it took longer.
+    int wait(std::chrono::milliseconds longest = std::chrono::minutes(1));
     std::string errors() const;
 
 private:
@@ -33,7 +34,7 @@ private:
     std::string errors_file;
 };
 
-// Waits until the condition holds; false if it does not within a minute.
-bool comes_true(const std::function<bool()>& condition);
+// Waits until the condition holds; false if it does not in time.
+bool comes_true(const std::function<bool()>& condition, std::chrono::milliseconds longest = std::chrono::minutes(1));
 
 bool is_running(pid_t process);
