@@ -234,19 +234,30 @@ started_child start_program(const child_start& start, const sigset_t& mask) {
     return child;
 }
 
-// Hands on what waits in the pipe; closes it at its end.
-void take_from(descriptor& pipe, const std::function<void(std::string_view)>& taker) {
+// Hands on some of what waits in the pipe; closes it at its end. Gives the number of bytes. Once a call, so that a
+// program that never stops printing keeps nobody from looking at the clock.
+std::size_t take_from(descriptor& pipe, const std::function<void(std::string_view)>& taker) {
     std::array<char, 65536> buffer;
-    while (pipe.is_open()) {
-        const ssize_t count = read(pipe.get(), buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0 && errno == EAGAIN)
-            return;
-        if (count <= 0)
-            pipe.close();
-        else if (taker)
-            taker({buffer.data(), static_cast<std::size_t>(count)});
+    ssize_t count = 0;
+    do {
+        count = pipe.is_open() ? read(pipe.get(), buffer.data(), buffer.size()) : 0;
+    } while (count < 0 && errno == EINTR);
+    if (count == 0 || (count < 0 && errno != EAGAIN))
+        pipe.close();
+    if (count <= 0)
+        return 0;
+    if (taker)
+        taker({buffer.data(), static_cast<std::size_t>(count)});
+    return static_cast<std::size_t>(count);
+}
+
+// What waits in the pipe of a program that has ended: no more than a pipe holds, whoever prints there still.
+void take_rest(descriptor& pipe, const std::function<void(std::string_view)>& taker) {
+    const int room = pipe.is_open() ? fcntl(pipe.get(), F_GETPIPE_SZ) : 0;
+    std::size_t left = room > 0 ? static_cast<std::size_t>(room) : 0;
+    while (left > 0) {
+        const std::size_t taken = take_from(pipe, taker);
+        left = taken == 0 ? 0 : left - std::min(left, taken);
     }
 }
 
@@ -276,8 +287,8 @@ public:
         rusage usage{};
         while (wait4(child.process, &status, 0, &usage) < 0 && errno == EINTR)
             ;
-        take_from(child.output, start.on_output);
-        take_from(child.errors, start.on_errors);
+        take_rest(child.output, start.on_output);
+        take_rest(child.errors, start.on_errors);
         return end_of(fate, status, usage);
     }
 

@@ -81,16 +81,30 @@ struct output_pipe {
         return SetHandleInformation(from, HANDLE_FLAG_INHERIT, 0) != FALSE;
     }
 
-    // Hands on what waits in the pipe.
-    void take(const std::function<void(std::string_view)>& taker) const {
+    // Bytes that wait in the pipe.
+    DWORD waiting() const {
+        DWORD bytes = 0;
+        return PeekNamedPipe(reading.get(), nullptr, 0, nullptr, &bytes, nullptr) ? bytes : 0;
+    }
+
+    // Hands on some of what waits in the pipe. Gives the number of bytes. Once a call, so that a program that never
+    // stops printing keeps nobody from looking at the clock.
+    DWORD take(const std::function<void(std::string_view)>& taker) const {
         std::array<char, 65536> buffer;
-        DWORD waiting = 0;
-        while (PeekNamedPipe(reading.get(), nullptr, 0, nullptr, &waiting, nullptr) && waiting > 0) {
-            DWORD count = 0;
-            if (!ReadFile(reading.get(), buffer.data(), static_cast<DWORD>(buffer.size()), &count, nullptr))
-                return;
-            if (taker)
-                taker({buffer.data(), count});
+        DWORD count = 0;
+        if (waiting() == 0 ||
+            !ReadFile(reading.get(), buffer.data(), static_cast<DWORD>(buffer.size()), &count, nullptr) || count == 0)
+            return 0;
+        if (taker)
+            taker({buffer.data(), count});
+        return count;
+    }
+
+    // What waits when the program has ended, whoever prints there still.
+    void take_rest(const std::function<void(std::string_view)>& taker) const {
+        for (DWORD left = waiting(); left > 0;) {
+            const DWORD taken = take(taker);
+            left = taken == 0 ? 0 : left - std::min(left, taken);
         }
     }
 };
@@ -175,10 +189,11 @@ void note_memory(const started_child& child, child_end& end) {
 }
 
 child_fate wait_for(const started_child& child, const child_start& start, child_end& end) {
-    for (note_memory(child, end); WaitForSingleObject(child.process.get(), time_between_looks) != WAIT_OBJECT_0;
+    DWORD pause = 0; // none while it prints
+    for (note_memory(child, end); WaitForSingleObject(child.process.get(), pause) != WAIT_OBJECT_0;
          note_memory(child, end)) {
-        child.output.take(start.on_output);
-        child.errors.take(start.on_errors);
+        const DWORD taken = child.output.take(start.on_output) + child.errors.take(start.on_errors);
+        pause = taken > 0 ? 0 : time_between_looks;
         if (!end_request().empty())
             return child_fate::called_off;
         if (start.deadline && clock::now() >= *start.deadline)
@@ -213,8 +228,8 @@ child_end run_child(const child_start& start) {
     TerminateJobObject(child.job.get(), 1);
     TerminateProcess(child.process.get(), 1);
     WaitForSingleObject(child.process.get(), INFINITE);
-    child.output.take(start.on_output);
-    child.errors.take(start.on_errors);
+    child.output.take_rest(start.on_output);
+    child.errors.take_rest(start.on_errors);
     note_memory(child, end);
     if (end.fate == child_fate::ended)
         tell_end(child.process.get(), end);

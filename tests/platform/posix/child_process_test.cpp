@@ -3,9 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
-#include <fstream>
 
+#include <sys/prctl.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -30,15 +32,6 @@ seen_child run(child_start start) {
 
 child_start shell(const std::string& script) {
     return {"/bin/sh", {"-c", script}};
-}
-
-// A process that has ended and that nobody has asked about yet counts as ended.
-bool runs(const std::string& process) {
-    std::string text;
-    std::ifstream file("/proc/" + process + "/stat");
-    std::getline(file, text);
-    const std::size_t name_end = text.rfind(") ");
-    return name_end != std::string::npos && text[name_end + 2] != 'Z';
 }
 
 TEST(ChildProcess, hands_on_what_is_printed_and_the_status) {
@@ -82,20 +75,39 @@ TEST(ChildProcess, a_program_that_a_signal_ends_is_told_by_its_name) {
 }
 
 TEST(ChildProcess, a_program_that_is_not_done_at_the_deadline_is_ended) {
-    child_start start = shell("echo $$; exec sleep 1000");
-    start.deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(200);
-    const seen_child seen = run(start);
-    EXPECT_EQ(seen.end.fate, child_fate::out_of_time);
-    EXPECT_FALSE(runs(seen.output.substr(0, seen.output.find('\n'))));
+    for (const int milliseconds : {0, 1}) { // over before it begins, and while it is waited for
+        child_start start = shell("exec sleep 1000");
+        start.deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+        EXPECT_EQ(run(start).end.fate, child_fate::out_of_time);
+        EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1); // there is no such child any more
+        EXPECT_EQ(errno, ECHILD);
+    }
 }
 
+// What loses its parent becomes a child of this process, which waits for it as long as it takes.
 TEST(ChildProcess, what_a_program_has_started_and_left_ends_with_it) {
+    ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);
     const seen_child seen = run(shell("sleep 1000 >/dev/null 2>&1 & echo $!"));
     EXPECT_EQ(seen.end.fate, child_fate::ended);
-    const std::string left = seen.output.substr(0, seen.output.find('\n'));
-    for (int i = 0; i < 10000 && runs(left); ++i)
+    const pid_t left = std::stoi(seen.output);
+    int status = 0;
+    EXPECT_EQ(waitpid(left, &status, 0), left);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+    EXPECT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 0), 0);
+}
+
+// The program prints faster than what it prints is taken.
+TEST(ChildProcess, one_that_never_stops_printing_is_called_off_all_the_same) {
+    const platform::end_requests noted;
+    child_start start = shell("exec head -c 300000000 /dev/zero");
+    int pieces = 0;
+    start.on_output = [&pieces](std::string_view) {
+        raise(SIGTERM);
+        ++pieces;
         usleep(1000);
-    EXPECT_FALSE(runs(left));
+    };
+    EXPECT_EQ(platform::run_child(start).fate, child_fate::called_off);
+    EXPECT_LT(pieces, 1000); // one, and what a pipe holds; of all it would be 4000
 }
 
 TEST(ChildProcess, a_limit_of_memory_is_that_of_the_program) {
