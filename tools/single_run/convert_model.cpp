@@ -78,22 +78,51 @@ void look_at_files(const std::string& folder, const converter_words& said, std::
     }
 }
 
+// The converter keeps some settings for later runs. Here it finds none of the user's and keeps none there, so that what
+// a batch holds depends on what its report names.
+class private_settings {
+public:
+    explicit private_settings(const std::string& batch) : folder(platform::joined(batch, private_settings_name)) {}
+
+    bool make() const { return platform::make_folder(folder); }
+    bool remove() const { return platform::clear_folder(folder) && platform::delete_empty_folder(folder); }
+    std::vector<std::pair<std::string, std::optional<std::string>>> variables() const {
+        return {{"XDG_CONFIG_HOME", folder}, {"APPDATA", folder}};
+    }
+
+private:
+    std::string folder;
+};
+
+converted_model without_settings_folder(const char* words) {
+    converted_model converted;
+    converted.status = run_status::not_written;
+    converted.words = words;
+    return converted;
+}
+
 } // namespace
 
 converted_model convert_model(const std::string& converter, const std::string& folder, std::uint64_t memory,
                               const run_clock& clock, const std::function<void(int)>& on_progress) {
+    const private_settings settings(folder);
+    if (!settings.make())
+        return without_settings_folder("The folder for the settings of the converter cannot be made.");
     converter_words said(on_progress, platform::debug_output);
     platform::child_start start;
     start.program = converter;
     start.arguments = {platform::joined(folder, "geometry.qlm"), platform::joined(folder, "batch_file.txt")};
-    start.environment = {{"TESSALINE_TRACE", "-"}, {"TESSALINE_UNATTENDED", "1"}};
+    start.environment = settings.variables();
+    start.environment.insert(start.environment.end(), {{"TESSALINE_TRACE", "-"}, {"TESSALINE_UNATTENDED", "1"}});
     start.memory_limit = memory;
     start.deadline = clock.deadline();
     start.on_errors = [&](std::string_view bytes) { said.add(bytes); };
     const child_end end = platform::run_child(start);
     said.finish();
     converted_model converted;
-    if (clock.must_stop() == stop_reason::none) {
+    if (!settings.remove())
+        converted = without_settings_folder("The folder for the settings of the converter cannot be removed.");
+    else if (clock.must_stop() == stop_reason::none) {
         look_at_end(end, said, memory, converted);
         if (converted.status == run_status::done)
             look_at_files(folder, said, memory, clock, converted);

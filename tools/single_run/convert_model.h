@@ -8,7 +8,11 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
+
+// A folder in the batch folder while the converter runs.
+inline constexpr std::string_view private_settings_name = "tessaline-run.settings";
 
 struct converted_model {
     run_status status = run_status::done; // whether there is a stream to be checked, or why there is none
@@ -19,8 +23,9 @@ struct converted_model {
     std::uint64_t peak_memory_bytes = 0;
 };
 
-// Converts the model of the batch folder. memory: the most that the converter may take, in bytes; 0 for no limit.
-// on_progress: gets each percentage. What the converter traces goes where TESSALINE_TRACE says. When the clock says
-// that the run must stop, the result says nothing.
+// Converts the model of the batch folder; the settings that the user's profile has do not count, and those that the
+// converter would keep there are forgotten (Windows: those of the registry count). memory: the most that the converter
+// may take, in bytes; 0 for no limit. on_progress: gets each percentage. What the converter traces goes where
+// TESSALINE_TRACE says. When the clock says that the run must stop, the result says nothing.
 converted_model convert_model(const std::string& converter, const std::string& folder, std::uint64_t memory,
                               const run_clock& clock, const std::function<void(int)>& on_progress);

@@ -11,7 +11,8 @@
 namespace {
 
 // Names in a batch folder that belong to the run itself.
-constexpr std::array own_names = {"geometry.qlm", "batch_file.txt", "tessaline-run.json", "tessaline-run.json.part"};
+constexpr std::array own_names = {"geometry.qlm", "batch_file.txt", "tessaline-run.json", "tessaline-run.json.part",
+                                  "tessaline-run.settings"};
 
 // The converter reads its command line as one text, in which these stand for switches even inside a name.
 constexpr std::array switches = {" -load_all_layers", " -incl_edge_lines", " -incl_views",

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr std::string_view model_name = "geometry.qlm";
+constexpr std::string_view stream_name = "batch_file.txt";
 
 struct needed_programs {
     std::string converter;
@@ -96,7 +97,7 @@ private:
             report.files.emplace_back();
             take(report.files.back(), hash_file(file, clock), run_status::usage, file);
         }
-        if (!is_same_run(*before, report))
+        if (!is_same_run(*before, report) || !platform::file_size(place / stream_name))
             return false;
         report.is_skipped = true;
         report.verdict = verdict_in(*before);

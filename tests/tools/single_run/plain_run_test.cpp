@@ -52,6 +52,20 @@ TEST_F(PlainRun, the_same_run_again_is_skipped_and_changes_nothing) {
     EXPECT_EQ(json["counts"]["triangles"], 2);
 }
 
+TEST_F(PlainRun, a_batch_whose_stream_was_deleted_is_converted_again) {
+    ASSERT_EQ(run().status, 0);
+    std::filesystem::remove(here / "batch/batch_file.txt");
+    EXPECT_EQ(run_with({"--json", here / "again.json"}).status, 0);
+    EXPECT_EQ(nlohmann::json::parse(here.read("again.json"))["skipped"], false);
+    EXPECT_THAT(here.read("batch/batch_file.txt"), EndsWith("END;\r\n"));
+}
+
+TEST_F(PlainRun, a_setting_that_the_converter_keeps_for_later_runs_ends_with_its_run) {
+    EXPECT_EQ(run_with({"--option", "ivl_dialog_x=7"}).status, 0);
+    EXPECT_FALSE(here.has("home/.config"));
+    EXPECT_FALSE(here.has("batch/tessaline-run.settings"));
+}
+
 TEST_F(PlainRun, force_converts_a_finished_batch_again) {
     ASSERT_EQ(run().status, 0);
     here.write("batch/note.txt", "of the old batch");
