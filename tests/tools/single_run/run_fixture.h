@@ -36,9 +36,9 @@ protected:
             std::filesystem::copy_file(from, to);
     }
 
-    // A converter that does something else: stand_in/main.cpp says what there is.
-    void put_stand_in(const std::string& what) const {
-        put_program("stand_in", "tessaline");
+    // A converter, or a checker, that does something else: stand_in/main.cpp says what there is.
+    void put_stand_in(const std::string& what, const std::string& program = "tessaline") const {
+        put_program("stand_in", program);
         here.write("bin/stand_in.txt", what);
     }
 

@@ -2,6 +2,9 @@
 
 #include "tests/tools/single_run/posix/started_program.h"
 #include "tests/tools/single_run/run_fixture.h"
+#include "tools/single_run/batch_place.h"
+
+#include "platform/child_process.h"
 
 #include <unistd.h>
 
@@ -51,6 +54,58 @@ INSTANTIATE_TEST_SUITE_P(All, SignalToRun,
                                          std::pair(SIGHUP, "SIGHUP"), std::pair(SIGQUIT, "SIGQUIT"),
                                          std::pair(SIGXCPU, "SIGXCPU")),
                          [](const auto& tested) { return std::string(tested.param.second); });
+
+TEST_F(EndedRun, a_signal_while_the_model_is_copied_ends_the_run_and_leaves_no_folder) {
+    std::filesystem::resize_file(here / "model.skp", std::uintmax_t{1} << 33U); // takes seconds to be copied
+    started_program run(start_with({}));
+    ASSERT_TRUE(comes_true([this] {
+        std::error_code not_there;
+        const std::uintmax_t size = std::filesystem::file_size(here / "batch/geometry.qlm", not_there);
+        return !not_there && size > 0;
+    }));
+    run.send(SIGTERM);
+    EXPECT_EQ(run.wait(), 6);
+    EXPECT_FALSE(here.has("batch"));
+}
+
+TEST_F(EndedRun, a_signal_while_the_batch_is_checked_ends_the_run_and_leaves_no_folder) {
+    put_stand_in("wait", "batch-check");
+    started_program run(start_with({}));
+    ASSERT_TRUE(comes_true([this] { return here.has("batch/waiting"); }));
+    const std::vector<pid_t> checker = run.children();
+    ASSERT_EQ(checker.size(), 1u);
+    run.send(SIGTERM);
+    EXPECT_EQ(run.wait(), 6);
+    EXPECT_FALSE(is_running(checker[0]));
+    EXPECT_FALSE(here.has("batch"));
+}
+
+TEST_F(EndedRun, further_signals_do_not_keep_a_run_from_clearing_its_folder) {
+    ASSERT_EQ(RunFixture::run().status, 0);
+    const auto before = files_in("batch");
+    const auto run = waiting_run({"--force"});
+    for (const int number : {SIGTERM, SIGINT, SIGHUP, SIGTERM})
+        run->send(number);
+    EXPECT_EQ(run->wait(), 6);
+    EXPECT_EQ(files_in("batch"), before);
+    EXPECT_FALSE(here.has("batch.tessaline-run.before"));
+}
+
+TEST_F(EndedRun, a_request_to_end_stops_neither_the_last_step_nor_the_clearing) {
+    const platform::end_requests noted;
+    const run_clock clock(std::nullopt);
+    batch_place finished(here / "finished");
+    batch_place abandoned(here / "abandoned");
+    ASSERT_EQ(finished.claim(clock), "");
+    ASSERT_EQ(abandoned.claim(clock), "");
+    here.write("abandoned/Plants/half", "of something");
+    raise(SIGTERM);
+    EXPECT_EQ(clock.must_stop(), stop_reason::request);
+    EXPECT_EQ(finished.finish("the report"), "");
+    EXPECT_EQ(here.read("finished/tessaline-run.json"), "the report");
+    EXPECT_EQ(abandoned.abandon(), "");
+    EXPECT_FALSE(here.has("abandoned"));
+}
 
 TEST_F(EndedRun, a_signal_that_is_ignored_when_a_run_starts_does_not_end_it) {
     put_stand_in("wait");

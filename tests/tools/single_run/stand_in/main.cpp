@@ -1,9 +1,10 @@
-// A converter that does not do its work, in the way that the file stand_in.txt beside it says:
+// A converter, or a checker, that does not do its work, in the way that the file stand_in.txt beside it says:
 //   wait    makes the file "waiting" beside the stream and waits to be ended
 //   half    leaves the beginning of a stream
 //   crash   ends as programs do that have gone wrong
 //   status  leaves nothing and ends with status 3
-// Its arguments are those of the converter.
+// Its arguments are those of the converter, of which the last is the stream, or those of the checker, of which the last
+// is the batch folder.
 
 #include <chrono>
 #include <cstdlib>
@@ -26,9 +27,11 @@ std::string text_of(const std::string& name) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3)
+    constexpr int words_of_converter = 3;
+    constexpr int words_of_checker = 5;
+    if (argc != words_of_converter && argc != words_of_checker)
         return 1;
-    const std::string stream = argv[2];
+    const std::string stream = argc == words_of_converter ? argv[2] : std::string(argv[4]) + "/batch_file.txt";
     const std::string what = text_of(beside(argv[0], "stand_in.txt"));
     if (what == "wait") {
         std::ofstream(beside(stream, "left_behind")) << "by a run that was killed";
