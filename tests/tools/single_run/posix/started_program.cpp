@@ -9,10 +9,11 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <sys/ptrace.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-started_program::started_program(const program_start& start, uid_t user) {
+started_program::started_program(const program_start& start, uid_t user, how_watched how) {
     errors_file = start.arguments.back() + ".errors"; // beside the batch
     std::vector<std::string> words = {start.program};
     words.insert(words.end(), start.arguments.begin(), start.arguments.end());
@@ -31,7 +32,8 @@ started_program::started_program(const program_start& start, uid_t user) {
         dup2(nothing, STDIN_FILENO);
         dup2(nothing, STDOUT_FILENO);
         dup2(errors, STDERR_FILENO);
-        if (user == 0 || setuid(user) == 0)
+        if ((user == 0 || setuid(user) == 0) &&
+            (how == how_watched::freely || ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) == 0))
             execv(start.program.c_str(), arguments.data());
         _exit(127);
     }
@@ -65,6 +67,31 @@ int started_program::wait(std::chrono::milliseconds longest) {
     }
     process = -1;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::size_t started_program::run_for_calls(std::size_t most) {
+    constexpr int call_stop = SIGTRAP | 0x80; // what PTRACE_O_TRACESYSGOOD makes of the stops at calls
+    int status = 0;
+    if (waitpid(process, &status, 0) != process || !WIFSTOPPED(status) ||
+        ptrace(PTRACE_SETOPTIONS, process, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL) != 0)
+        throw std::runtime_error("the program cannot be traced");
+    std::size_t calls = 0;
+    bool is_in_call = false;
+    for (long passed_on = 0; !(calls == most && !is_in_call);) {
+        if (ptrace(PTRACE_SYSCALL, process, nullptr, passed_on) != 0 || waitpid(process, &status, 0) != process ||
+            !WIFSTOPPED(status))
+            break;
+        const bool is_at_call = WSTOPSIG(status) == call_stop;
+        passed_on = is_at_call ? 0 : WSTOPSIG(status);
+        is_in_call = is_in_call != is_at_call;
+        calls += is_at_call && is_in_call ? 1U : 0U;
+    }
+    if (WIFSTOPPED(status)) {
+        send(SIGKILL);
+        waitpid(process, &status, 0);
+    }
+    process = -1;
+    return calls;
 }
 
 std::string started_program::errors() const {

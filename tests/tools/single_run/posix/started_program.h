@@ -6,16 +6,20 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include <sys/types.h>
 
+enum class how_watched { freely, traced };
+
 class started_program {
 public:
-    // Throws if it cannot be started. user: that of the superuser only; 0 for the user of the test.
-    explicit started_program(const program_start& start, uid_t user = 0);
+    // Throws if it cannot be started. user: that of the superuser only; 0 for the user of the test. One that is traced
+    // waits for run_for_calls().
+    explicit started_program(const program_start& start, uid_t user = 0, how_watched how = how_watched::freely);
     started_program(const started_program&) = delete;
     started_program& operator=(const started_program&) = delete;
     ~started_program(); // ends it if it runs still
@@ -27,6 +31,9 @@ public:
 
     // Its status when it has ended; -1 if a signal has ended it, and if it had to be killed because it took longer.
     int wait(std::chrono::milliseconds longest = std::chrono::minutes(1));
+    // For a traced one: lets it make so many calls to the system and kills it when it is about to make the next. Gives
+    // the number of calls; fewer if it ended before. Throws if it cannot be traced.
+    std::size_t run_for_calls(std::size_t most);
     std::string errors() const;
 
 private:
