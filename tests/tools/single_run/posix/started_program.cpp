@@ -73,7 +73,7 @@ std::size_t started_program::run_for_calls(std::size_t most) {
     constexpr int call_stop = SIGTRAP | 0x80; // what PTRACE_O_TRACESYSGOOD makes of the stops at calls
     int status = 0;
     if (waitpid(process, &status, 0) != process || !WIFSTOPPED(status) ||
-        ptrace(PTRACE_SETOPTIONS, process, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL) != 0)
+        ptrace(PTRACE_SETOPTIONS, process, nullptr, static_cast<long>(PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL)) != 0)
         throw std::runtime_error("the program cannot be traced");
     std::size_t calls = 0;
     bool is_in_call = false;
