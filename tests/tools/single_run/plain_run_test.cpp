@@ -262,8 +262,7 @@ TEST_F(PlainRun, names_that_differ_in_case_are_one_where_the_system_takes_them_s
     const std::string twice = here.write("p/ZYN_view.txt", "");
     const int expected = platform::has_drive_letters ? 2 : 0;
     EXPECT_EQ(run_with({"--with", view, "--with", twice}).status, expected);
-    if (platform::has_drive_letters)
-        EXPECT_EQ(run_with({"--with", own}).status, 2);
+    EXPECT_EQ(run_with({"--with", own}).status, expected);
 }
 
 TEST_F(PlainRun, an_end_of_a_line_in_the_name_of_the_batch_folder_is_refused) {
