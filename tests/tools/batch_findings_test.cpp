@@ -47,6 +47,18 @@ TEST(BatchFindings, quotes_are_short_and_name_no_place_of_the_disk) {
     EXPECT_EQ(in_quotes("MATF;" + std::string(500, 'x') + " /home/somebody").size(), 85U);
 }
 
+TEST(BatchFindings, quotes_know_a_full_name_behind_every_sign_that_separates) {
+    EXPECT_EQ(in_quotes("foo=/home/secret/x"), "\"foo=.../x\"");
+    EXPECT_EQ(in_quotes("(/home/secret/x"), "\"(.../x\"");
+    EXPECT_EQ(in_quotes("foo\"/home/secret/x"), "\"foo\".../x\"");
+    EXPECT_EQ(in_quotes("'/home/secret/x"), "\"'.../x\"");
+    EXPECT_EQ(in_quotes("foo:/home/secret/x"), "\"foo:.../x\"");
+    EXPECT_EQ(in_quotes("1,/home/secret/x"), "\"1,.../x\"");
+    EXPECT_EQ(in_quotes("foo\t/home/secret/x"), "\"foo?.../x\"");
+    EXPECT_EQ(in_quotes("foo=C:\\secret\\x"), "\"foo=.../x\"");
+    EXPECT_EQ(in_quotes("foo:\\\\server\\secret\\x"), "\"foo:.../x\"");
+}
+
 TEST(BatchCodes, have_names_of_lower_case_words_each_of_its_own) {
     std::set<std::string_view> names;
     for (const code_entry& entry : all_codes()) {

@@ -25,10 +25,12 @@ std::uint64_t findings::left_out(code what) const {
 
 namespace {
 
-// Where a full name begins in a line: "/", "\\" or a drive letter behind a blank, a semicolon or nothing.
+// Where a full name begins in a line: "/", "\\" or a drive letter behind nothing, or behind what separates words,
+// keys from values, and values from each other.
 std::size_t start_of_full_name(std::string_view text) {
+    constexpr std::string_view separating = " \t;:=,(\"'";
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (i > 0 && text[i - 1] != ';' && text[i - 1] != ' ')
+        if (i > 0 && separating.find(text[i - 1]) == std::string_view::npos)
             continue;
         const std::string_view rest = text.substr(i);
         if (rest[0] == '/' || rest.starts_with("\\\\") ||
