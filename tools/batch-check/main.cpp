@@ -56,7 +56,8 @@ int check_folder(const request& asked, const std::string& folder, const batch_re
         platform::write_standard_output(first_screen(folder, report) + finding_lines(report.found));
     if (report.is_sound(asked.is_strict))
         return status_sound;
-    platform::write_standard_error("batch-check: " + folder + ": " + reason_of(report) + "\n");
+    platform::write_standard_error("batch-check: " + without_control_characters(folder) + ": " + reason_of(report) +
+                                   "\n");
     return report.is_batch ? status_findings : status_no_batch;
 }
 
@@ -77,7 +78,7 @@ int check_all(const request& asked) {
         status = std::max(status, check_folder(asked, folder, reports.back().report));
     }
     if (!write_json(asked, json_of(reports, asked.is_strict)))
-        return refuse("cannot write " + asked.json_file);
+        return refuse("cannot write " + without_control_characters(asked.json_file));
     return status;
 }
 

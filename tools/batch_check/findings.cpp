@@ -42,6 +42,13 @@ std::size_t start_of_full_name(std::string_view text) {
 
 } // namespace
 
+std::string without_control_characters(std::string_view text) {
+    const auto controls = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 127; };
+    std::string shown(text);
+    std::replace_if(shown.begin(), shown.end(), controls, '?');
+    return shown;
+}
+
 std::string in_quotes(std::string_view text) {
     constexpr std::size_t most_bytes = 80;
     const std::size_t start = start_of_full_name(text);
@@ -51,10 +58,7 @@ std::string in_quotes(std::string_view text) {
         shown.append(".../").append(text.substr(separator + 1, most_bytes + 1));
     if (shown.size() > most_bytes)
         shown = shown.substr(0, most_bytes) + "...";
-    for (char& c : shown)
-        if (static_cast<unsigned char>(c) < ' ' || c == 127)
-            c = '?';
-    return '"' + shown + '"';
+    return '"' + without_control_characters(shown) + '"';
 }
 
 } // namespace batch_check

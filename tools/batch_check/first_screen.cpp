@@ -47,7 +47,8 @@ std::string lamps_of(const batch_report& report) {
     std::string text = std::to_string(report.stream.lamps.size());
     const char* between = ": ";
     for (const auto& [type, count] : report.lamps_by_type) {
-        text.append(between).append(std::to_string(count)).append(" ").append(type.empty() ? "without type" : type);
+        text.append(between).append(std::to_string(count)).append(" ");
+        text.append(type.empty() ? "without type" : without_control_characters(type));
         between = ", ";
     }
     return text;
@@ -111,7 +112,8 @@ std::string why_is_it_large(const batch_report& report) {
         what = "";
     }
     for (const declared_material* material : largest_materials(stream, shown_materials)) {
-        text += line(what, std::to_string(material->triangles) + " of " + name_of(*material));
+        text +=
+            line(what, std::to_string(material->triangles) + " of " + without_control_characters(name_of(*material)));
         what = "";
     }
     return text;
@@ -120,9 +122,10 @@ std::string why_is_it_large(const batch_report& report) {
 } // namespace
 
 std::string first_screen(const std::string& folder, const batch_report& report) {
+    const std::string name = without_control_characters(folder);
     if (!report.is_batch)
-        return folder + ": not a batch\n";
-    return folder + "\n" + is_it_all_there(report) + why_is_it_black(report) + why_is_it_large(report);
+        return name + ": not a batch\n";
+    return name + "\n" + is_it_all_there(report) + why_is_it_black(report) + why_is_it_large(report);
 }
 
 std::string finding_lines(const findings& found) {
@@ -133,7 +136,9 @@ std::string finding_lines(const findings& found) {
             continue;
         text.append(name_of(entry.weight)).append(" ").append(entry.name).append(": ");
         if (!one.file.empty())
-            text.append(one.file).append(one.line > 0 ? ", line " + std::to_string(one.line) : "").append(": ");
+            text.append(without_control_characters(one.file))
+                .append(one.line > 0 ? ", line " + std::to_string(one.line) : "")
+                .append(": ");
         text.append(one.text).append("\n");
     }
     for (const code_entry& entry : all_codes())
