@@ -26,7 +26,7 @@ inline constexpr std::array code_table = {
     code_entry{code::stream_after_end, "stream-after-end", severity::error, "Something stands behind \"END;\""},
     code_entry{code::stream_line_end, "stream-line-end", severity::error, "A line does not end in CR LF"},
     code_entry{code::stream_given_up, "stream-given-up", severity::error,
-               "There is so much wrong, or so long a name, that the rest of the stream was not read"},
+               "There is so much wrong, or names are so many or so long, that the stream was not read whole"},
     code_entry{code::stream_unknown, "stream-unknown", severity::error, "A line is no record and no comment"},
     code_entry{code::stream_order, "stream-order", severity::error, "A line cannot stand where it stands"},
     code_entry{code::stream_number, "stream-number", severity::error,

@@ -32,7 +32,7 @@ stream_check::shown_side stream_check::take_block_of_side() {
         const std::size_t line = lines.number();
         std::string name = lines.take_text("GNDC;");
         if (facts.ground_covers.empty() || facts.ground_covers.back().name != name) {
-            remember_name(name);
+            count_kept(name.size());
             facts.ground_covers.push_back({std::move(name), line});
         }
     }
@@ -77,6 +77,7 @@ void stream_check::take_lamp_head() {
     ++facts.meshes;
     const std::size_t line = lines.number();
     lines.take_this_number("LITE;", static_cast<int>(facts.lamps.size()), code::stream_lamp_number);
+    count_kept();
     facts.lamps.push_back({line, false});
     take_invisible();
 }

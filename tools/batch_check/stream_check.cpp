@@ -7,18 +7,30 @@
 namespace batch_check {
 namespace {
 
-constexpr int most_faults = 200;                                        // out of order; more say nothing new
-constexpr std::uint64_t most_bytes_of_names = std::uint64_t{64} << 20U; // of layers and materials together
+constexpr int most_faults = 200; // out of order; more say nothing new
 
 } // namespace
 
-stream_facts check_stream(byte_source& stream, const std::string& file, findings& found) {
+stream_facts check_stream(byte_source& stream, const std::string& file, findings& found, std::uint64_t most_kept) {
     stream_facts facts;
-    stream_check(stream, file, found, facts).take_stream();
+    stream_check(stream, file, found, facts, most_kept).take_stream();
     return facts;
 }
 
 void stream_check::take_stream() {
+    try {
+        take_parts();
+    } catch (const given_up&) {
+        is_given_up = true;
+        facts.is_whole = false;
+        lines.report(code::stream_given_up, "the rest is not read");
+    }
+    report_lines();
+    facts.layers = layer_names.size();
+    facts.bytes = lines.source().bytes_read();
+}
+
+void stream_check::take_parts() {
     try {
         take_head();
     } catch (const out_of_order&) {
@@ -27,11 +39,7 @@ void stream_check::take_stream() {
         lines.take_if("#;");
     }
     take_body();
-    if (!is_given_up)
-        take_end();
-    report_lines();
-    facts.layers = layer_names.size();
-    facts.bytes = lines.source().bytes_read();
+    take_end();
 }
 
 void stream_check::take_head() {
@@ -55,14 +63,14 @@ void stream_check::take_head() {
 
 void stream_check::take_layer() {
     lines.take_this_number("LYIN;", layer_count++, code::stream_layer_number);
-    const std::string name = lines.take_text("LYNM;");
-    remember_name(name);
-    table_names.insert(name);
+    std::string name = lines.take_text("LYNM;");
+    count_kept(name.size());
+    table_names.insert(std::move(name));
 }
 
 void stream_check::take_body() {
     int faults = 0;
-    while (!is_given_up && !lines.at_end() && !lines.at("END;") && !(lines.at("#;") && lines.next_is("END;"))) {
+    while (!lines.at_end() && !lines.at("END;") && !(lines.at("#;") && lines.next_is("END;"))) {
         const std::size_t before = lines.number();
         try {
             open = inside::nothing;
@@ -74,12 +82,11 @@ void stream_check::take_body() {
             recover();
             if (lines.number() == before)
                 lines.skip();
-            is_given_up |= ++faults >= most_faults;
+            if (++faults >= most_faults)
+                throw given_up();
         }
     }
-    facts.is_whole = faults == 0 && !is_given_up;
-    if (is_given_up)
-        lines.report(code::stream_given_up, "the rest is not read");
+    facts.is_whole = faults == 0;
 }
 
 bool stream_check::at_end_of_body() {
@@ -152,16 +159,20 @@ void stream_check::note_passed_over() {
     if (lines.at_tag("MATF;")) {
         passed_name = lines.line().substr(5);
     } else if (lines.at_tag("MATI;") && !passed_name.empty()) {
+        count_kept(passed_name.size());
         facts.materials.push_back({passed_name, lines.number()});
         passed_name.clear();
     } else if (lines.at_tag("LITE;") || lines.at_tag("LGHT;")) {
+        count_kept();
         facts.lamps.push_back({lines.number(), lines.at_tag("LGHT;")});
     }
 }
 
-void stream_check::remember_name(const std::string& name) {
-    bytes_of_names += name.size();
-    is_given_up |= bytes_of_names > most_bytes_of_names;
+void stream_check::count_kept(std::size_t bytes_of_name) {
+    constexpr std::size_t bytes_beside_name = 64; // of an entry of a list, or of a node of a set
+    kept_bytes += bytes_beside_name + bytes_of_name;
+    if (kept_bytes > most_kept_bytes)
+        throw given_up();
 }
 
 } // namespace batch_check

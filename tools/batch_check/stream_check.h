@@ -22,9 +22,13 @@ class stream_check {
     // What is being taken: where the check goes on behind a fault depends on it.
     enum class inside { nothing, face, lamp, glow, image, edges };
 
+    struct given_up {}; // thrown where the rest of the stream is not to be read
+
 public:
-    stream_check(byte_source& stream, const std::string& file, findings& to, stream_facts& into)
-        : lines(stream, file, to), file_name(file), found(to), facts(into) {}
+    // most_kept: as check_stream takes it.
+    stream_check(byte_source& stream, const std::string& file, findings& to, stream_facts& into,
+                 std::uint64_t most_kept)
+        : lines(stream, file, to), file_name(file), found(to), facts(into), most_kept_bytes(most_kept) {}
 
     // All of it, to its end.
     void take_stream();
@@ -32,6 +36,7 @@ public:
 private:
     // ---- stream_check.cpp: the frame
 
+    void take_parts();
     void take_head();
     void take_layer();
     void take_body();
@@ -44,7 +49,8 @@ private:
     bool ends_what_is_open() const;
     // Declarations and lamps count though they are passed over.
     void note_passed_over();
-    void remember_name(const std::string& name);
+    // Counts what is about to be kept of the stream; gives up if that is too much.
+    void count_kept(std::size_t bytes_of_name = 0);
 
     // ---- stream_items.cpp: the items that are no blocks
 
@@ -119,7 +125,8 @@ private:
     std::set<std::string, std::less<>> layer_names;
     std::string last_layer;
     std::set<std::string, std::less<>> material_names;
-    std::uint64_t bytes_of_names = 0;
+    std::uint64_t most_kept_bytes;
+    std::uint64_t kept_bytes = 0;
     std::string passed_name; // of a declaration that is being passed over
 
     inside open = inside::nothing;

@@ -43,7 +43,7 @@ void stream_check::take_material() {
     if (!material_names.insert(name).second)
         lines.report(code::stream_declaration, "the name is declared already");
     lines.skip();
-    remember_name(name);
+    count_kept(name.size());
     lines.take("MTX2;1");
     const int number = first_material + static_cast<int>(facts.materials.size());
     lines.take_this_number("MATI;", number, code::stream_declaration);
@@ -64,7 +64,7 @@ void stream_check::take_plant() {
     const std::size_t line = lines.number();
     std::string name = lines.take_text("PLNM;");
     if (has_own_file) {
-        remember_name(name);
+        count_kept(name.size());
         facts.plants.push_back({std::move(name), line});
     }
     lines.take_triple("PLLC;");
@@ -97,6 +97,7 @@ void stream_check::take_direct_light() {
     lines.skip();
     const std::size_t line = lines.number();
     lines.take_this_number("LGHT;", static_cast<int>(facts.lamps.size()), code::stream_lamp_number);
+    count_kept();
     facts.lamps.push_back({line, true});
     inside_direct_light = true;
 }

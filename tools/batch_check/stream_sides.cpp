@@ -32,7 +32,7 @@ void stream_check::take_layer_of_geometry() {
     if (layer != last_layer || layer_names.empty()) {
         last_layer = layer;
         if (layer_names.insert(last_layer).second)
-            remember_name(last_layer);
+            count_kept(last_layer.size());
     }
     lines.skip();
     if (!is_listed)
