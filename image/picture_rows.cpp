@@ -1,5 +1,7 @@
 #include "image/picture_rows.h"
 
+#include "image/picture_format.h"
+
 #include <new>
 
 namespace image {
@@ -24,6 +26,17 @@ bool put_picture(row_sink& sink, const picture& source) {
         if (!sink.put_row(source.row(y)))
             return false;
     return sink.end();
+}
+
+std::unique_ptr<row_source> rows_of(std::span<const std::uint8_t> file) {
+    switch (format_of_bytes(file)) {
+    case picture_format::png:
+        return png_rows(file);
+    case picture_format::jpeg:
+        return jpeg_rows(file);
+    default:
+        return nullptr;
+    }
 }
 
 } // namespace image

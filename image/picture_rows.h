@@ -49,6 +49,9 @@ bool put_picture(row_sink& sink, const picture& source);
 std::unique_ptr<row_source> png_rows(std::span<const std::uint8_t> file);
 std::unique_ptr<row_source> jpeg_rows(std::span<const std::uint8_t> file);
 
+// The same by the first bytes of the file; null for every other format too.
+std::unique_ptr<row_source> rows_of(std::span<const std::uint8_t> file);
+
 // A file of these formats; null if it cannot be begun, as for a side that the format cannot hold. JPEG drops alpha.
 std::unique_ptr<row_sink> png_file(const picture_extent& extent, const byte_sink& out);
 std::unique_ptr<row_sink> jpeg_file(const picture_extent& extent, const byte_sink& out);

@@ -8,17 +8,6 @@
 namespace image {
 namespace {
 
-std::unique_ptr<row_source> rows_of(std::span<const std::uint8_t> file) {
-    switch (format_of_bytes(file)) {
-    case picture_format::png:
-        return png_rows(file);
-    case picture_format::jpeg:
-        return jpeg_rows(file);
-    default:
-        return nullptr;
-    }
-}
-
 std::unique_ptr<row_sink> file_of(picture_format format, const picture_extent& extent, const byte_sink& out) {
     switch (format) {
     case picture_format::png:
