@@ -40,6 +40,11 @@ public:
         return all;
     }
 
+    std::optional<std::uint64_t> size(const std::string& name) const override {
+        const auto found = files.find(name);
+        return found == files.end() ? std::nullopt : std::optional<std::uint64_t>(found->second.size());
+    }
+
     std::unique_ptr<batch_check::byte_source> open(const std::string& name) const override {
         const auto found = files.find(name);
         return found == files.end() ? nullptr : std::make_unique<bytes_in_memory>(found->second);

@@ -7,21 +7,18 @@
 namespace batch_check {
 
 std::optional<std::string> whole_file(const batch_files& files, const std::string& name, std::uint64_t limit) {
+    const std::optional<std::uint64_t> size = files.size(name);
+    if (!size || *size > limit)
+        return std::nullopt;
     const std::unique_ptr<byte_source> source = files.open(name);
     if (!source)
         return std::nullopt;
-    constexpr std::size_t step = 65536;
-    std::string bytes;
-    while (true) {
-        const std::size_t before = bytes.size();
-        bytes.resize(before + step);
-        const std::size_t more = source->read(bytes.data() + before, step);
-        bytes.resize(before + more);
-        if (bytes.size() > limit)
-            return std::nullopt;
-        if (more == 0)
-            return bytes;
-    }
+    std::string bytes(static_cast<std::size_t>(*size), '\0');
+    std::size_t filled = 0;
+    while (const std::size_t more = source->read(bytes.data() + filled, bytes.size() - filled))
+        filled += more;
+    bytes.resize(filled); // shorter if someone cut the file meanwhile
+    return bytes;
 }
 
 namespace {
@@ -47,6 +44,10 @@ public:
         for (const platform::folder_entry& entry : *entries)
             all.push_back({entry.name, entry.is_folder, entry.size});
         return all;
+    }
+
+    std::optional<std::uint64_t> size(const std::string& name) const override {
+        return platform::file_size(full(name));
     }
 
     std::unique_ptr<byte_source> open(const std::string& name) const override {
