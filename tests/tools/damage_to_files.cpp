@@ -102,6 +102,13 @@ std::vector<damage> damage_to_materials() {
                                  "\x00\x00\x27\x10\x08\x02\x00\x00\x00\x35\x2c\xf5\x70\x00\x00\x00\x08\x49\x44\x41"
                                  "\x54\x78\x9c\x63\x60\xa0\x3d\x00\x00\xcf\x1f\xae\x95",
                                  53))},
+        // The same with 20,000 by 20,000 pixels, of which not even the first is looked at.
+        {"a_picture_is_too_large_to_be_decoded_row_by_row", code::picture_large,
+         overwritten(brick_picture,
+                     std::string("\x89\x50\x4e\x47\x0d\x0a\x1a\x0a\x00\x00\x00\x0d\x49\x48\x44\x52\x00\x00\x4e\x20"
+                                 "\x00\x00\x4e\x20\x08\x02\x00\x00\x00\x6c\x12\xd1\x6e\x00\x00\x00\x08\x49\x44\x41"
+                                 "\x54\x78\x9c\x63\x60\xa0\x3d\x00\x00\xcf\x1f\xae\x95",
+                                 53))},
         {"two_pictures_have_the_same_bytes", code::picture_equal,
          [](files_by_name& files) {
              files[brick_picture] = files["ZynBatch_Images/Tree_88.png"];

@@ -39,8 +39,9 @@ struct batch_report {
 };
 
 // Checks all files of a batch. ignored: codes that count as not found. Never throws but for lack of memory; that of a
-// check is bounded by the largest picture that is decoded (256 MiB), the longest line of the stream (64 MiB), what is
-// kept of the stream (most_kept_of_a_stream), and the names in the folders.
+// check is bounded by the largest picture that is decoded (512 MiB of file, 256 MiB of pixels, up to three times that
+// within the libraries), the longest line of the stream (64 MiB), what is kept of the stream (most_kept_of_a_stream),
+// and the names in the folders.
 batch_report check_batch(const batch_files& files, const std::set<code>& ignored = {});
 
 } // namespace batch_check

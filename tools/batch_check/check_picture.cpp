@@ -3,9 +3,9 @@
 #include "image/decode_picture.h"
 #include "image/picture_format.h"
 #include "image/picture_rows.h"
+#include "image/reencode_picture.h"
 #include "tools/content_hash/content_hash.h"
 
-#include <memory>
 #include <span>
 #include <vector>
 
@@ -14,43 +14,52 @@ namespace {
 
 using picture_bytes = std::span<const std::uint8_t>;
 
-constexpr std::uint64_t largest_file = std::uint64_t{1} << 30U; // bytes; of a larger one nothing is looked at
+// Bytes: four channels of 16 bits for each pixel of the largest picture that is decoded whole.
+constexpr std::uint64_t largest_file = image::most_pixels * 8;
 
 bool all_rows_decode(image::row_source& rows) {
     const image::picture_extent extent = rows.extent();
-    std::vector<std::uint8_t> row(std::size_t{extent.width} * 4);
+    // At most four megabytes: no PNG is wider than a million pixels for its library, and no JPEG than 65,535.
+    std::vector<std::uint8_t> row(std::size_t{extent.width} * static_cast<std::size_t>(extent.bits_per_pixel / 8));
     for (std::uint32_t y = 0; y < extent.height; ++y)
         if (!rows.next_row(row.data()))
             return false;
     return true;
 }
 
-// A picture of more pixels than memory is given for.
-void check_large(picture_bytes bytes, image::picture_format format, const std::string& file, findings& found) {
-    const std::unique_ptr<image::row_source> rows = format == image::picture_format::png    ? image::png_rows(bytes)
-                                                    : format == image::picture_format::jpeg ? image::jpeg_rows(bytes)
-                                                                                            : nullptr;
-    if (!rows)
-        found.add(code::picture_large, file, 0, "too large to be decoded; its header alone was read");
-    else if (rows->extent().width > image::most_pixels || !all_rows_decode(*rows))
+// extent: as the header announces it.
+void check_pixels(picture_bytes bytes, const image::picture_extent& extent, const std::string& file, findings& found) {
+    const std::uint64_t pixels = std::uint64_t{extent.width} * extent.height;
+    bool is_sound = false;
+    if (pixels <= image::most_pixels) {
+        is_sound = image::decode_picture(bytes).has_value();
+    } else {
+        const auto rows = pixels <= image::most_pixels_by_rows ? image::rows_of(bytes) : nullptr;
+        if (!rows) {
+            found.add(code::picture_large, file, 0, "too many pixels to be decoded; the header alone was read");
+            return;
+        }
+        is_sound = all_rows_decode(*rows);
+    }
+    if (!is_sound)
         found.add(code::picture_damaged, file, 0, "the picture cannot be decoded");
 }
 
 } // namespace
 
 std::optional<picture_facts> check_picture(const batch_files& files, const std::string& file, findings& found) {
+    if (const auto size = files.size(file); size && *size > largest_file) {
+        found.add(code::picture_large, file, 0, "too large a file to be read");
+        return picture_facts{*size, {}};
+    }
     const auto text = whole_file(files, file, largest_file);
     if (!text)
         return std::nullopt;
     const picture_bytes bytes(reinterpret_cast<const std::uint8_t*>(text->data()), text->size());
-    const image::picture_format format = image::format_of_bytes(bytes);
     const auto extent = image::picture_size(bytes);
-    if (extent && std::uint64_t{extent->width} * extent->height > image::most_pixels)
-        check_large(bytes, format, file, found);
-    else if (!image::decode_picture(bytes))
-        found.add(code::picture_damaged, file, 0, "the picture cannot be decoded");
+    check_pixels(bytes, extent.value_or(image::picture_extent{}), file, found);
     const image::picture_format named = image::format_of_name(file);
-    if (extent && named != image::picture_format::unknown && named != format)
+    if (extent && named != image::picture_format::unknown && named != image::format_of_bytes(bytes))
         found.add(code::picture_format, file, 0, "the picture has another format than its name says");
     return picture_facts{text->size(), content_hash_of(*text)};
 }

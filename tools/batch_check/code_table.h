@@ -85,7 +85,7 @@ inline constexpr std::array code_table = {
     code_entry{code::picture_format, "picture-format", severity::warning,
                "A picture has another format than its name says"},
     code_entry{code::picture_large, "picture-large", severity::note,
-               "A picture is too large to be decoded here; its header alone was read"},
+               "A picture is too large to be decoded here: of its pixels nothing is known"},
     code_entry{code::picture_equal, "picture-equal", severity::note, "Two pictures have the same bytes"},
     code_entry{code::lamp_missing, "lamp-missing", severity::error, "A lamp of the stream has no file"},
     code_entry{code::lamp_line_end, "lamp-line-end", severity::error, "A line of a lamp file does not end in CR LF"},
