@@ -108,8 +108,17 @@ TEST(BatchCheckProgram, the_document_has_its_keys_in_order_and_no_place_of_the_d
                                  R"("materials":4,"lamps":3,"pictures":1,"bytes":)";
     const nlohmann::ordered_json document = nlohmann::ordered_json::parse(seen.output);
     EXPECT_THAT(document.dump(), StartsWith(expected));
+    const std::string sizes = R"(,"files":13,"stream_bytes":)" +
+                              std::to_string(disk.read("room/batch_file.txt").size()) + R"(,"picture_bytes":)" +
+                              std::to_string(disk.read("room/ZynBatch_Images/Tree_88.png").size()) + ",";
+    EXPECT_THAT(document.dump(), HasSubstr(sizes));
     const std::string rest =
+        R"("equal_picture_bytes":0,"equal_materials":0,"triangles_without_material":2,"sides_undeclared":0,)"
+        R"("lamps_without_power":0},)"
         R"("box_metres":[[0.0,0.0,0.5],[2.54,2.54,3.0]],"lamps_by_type":{"bulb":1,"rect_glow":1,"round_glow":1},)"
+        R"("triangles_by_material":[{"material":"IMAGE_TX_Tree_88.png","triangles":4},)"
+        R"({"material":"COL%3a0012_Wall","triangles":3},{"material":"COL%3a0014_Panel","triangles":2},)"
+        R"({"material":"TEX%3a0001_Brick","triangles":1}],)"
         R"("findings":[{"code":"picture-missing","severity":"error","file":"ZynBatch_Materials/TEX%3a0001_Brick.qlobj",)"
         R"("line":27,"text":"there is no picture \".../TX0001_Brick.PNG\""}],"errors":1,"warnings":0,"notes":0}]})";
     EXPECT_THAT(document.dump(), testing::EndsWith(rest));

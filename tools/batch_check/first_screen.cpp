@@ -1,5 +1,7 @@
 #include "tools/batch_check/first_screen.h"
 
+#include "tools/batch_check/largest_materials.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -73,30 +75,6 @@ std::string why_is_it_black(const batch_report& report) {
            line("lamps without power", std::to_string(report.lamps_without_power));
 }
 
-// The materials with the most triangles, in descending order.
-std::vector<const declared_material*> largest_materials(const stream_facts& stream, std::size_t most) {
-    std::vector<const declared_material*> all;
-    for (const declared_material& material : stream.materials)
-        if (material.triangles > 0)
-            all.push_back(&material);
-    const auto more = [](const declared_material* a, const declared_material* b) {
-        return a->triangles != b->triangles ? a->triangles > b->triangles : a->name < b->name;
-    };
-    most = std::min(most, all.size());
-    std::partial_sort(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(most), all.end(), more);
-    all.resize(most);
-    return all;
-}
-
-// Without the ending that all have.
-std::string name_of(const declared_material& material) {
-    constexpr std::string_view ending = ".OrnMaterial";
-    std::string name = material.name;
-    if (name.ends_with(ending))
-        name.resize(name.size() - ending.size());
-    return name;
-}
-
 std::string why_is_it_large(const batch_report& report) {
     constexpr std::size_t shown_materials = 5;
     const stream_facts& stream = report.stream;
@@ -111,9 +89,8 @@ std::string why_is_it_large(const batch_report& report) {
         text += line(what, std::to_string(stream.triangles_without) + " without a material");
         what = "";
     }
-    for (const declared_material* material : largest_materials(stream, shown_materials)) {
-        text +=
-            line(what, std::to_string(material->triangles) + " of " + without_control_characters(name_of(*material)));
+    for (const shown_material& material : largest_materials(stream, shown_materials)) {
+        text += line(what, std::to_string(material.triangles) + " of " + without_control_characters(material.name));
         what = "";
     }
     return text;

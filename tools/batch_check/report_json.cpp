@@ -1,6 +1,7 @@
 #include "tools/batch_check/report_json.h"
 
 #include "platform/platform.h"
+#include "tools/batch_check/largest_materials.h"
 
 #include <nlohmann/json.hpp>
 
@@ -16,11 +17,32 @@ std::string utf8(const std::string& text) {
 
 json counts_of(const batch_report& report) {
     const stream_facts& stream = report.stream;
-    return {{"layers", stream.layers},      {"meshes", stream.meshes},
-            {"vertices", stream.vertices},  {"triangles", stream.triangles},
-            {"lines", stream.edges},        {"materials", stream.materials.size()},
-            {"lamps", stream.lamps.size()}, {"pictures", report.pictures.count},
-            {"bytes", report.bytes}};
+    return {{"layers", stream.layers},
+            {"meshes", stream.meshes},
+            {"vertices", stream.vertices},
+            {"triangles", stream.triangles},
+            {"lines", stream.edges},
+            {"materials", stream.materials.size()},
+            {"lamps", stream.lamps.size()},
+            {"pictures", report.pictures.count},
+            {"bytes", report.bytes},
+            {"files", report.files},
+            {"stream_bytes", stream.bytes},
+            {"picture_bytes", report.pictures.bytes},
+            {"equal_picture_bytes", report.pictures.repeated_bytes},
+            {"equal_materials", report.equal_materials},
+            {"triangles_without_material", stream.triangles_without},
+            {"sides_undeclared", stream.sides_without_declaration},
+            {"lamps_without_power", report.lamps_without_power}};
+}
+
+// A list, since two declarations may have one name.
+json triangles_by_material(const stream_facts& stream) {
+    constexpr std::size_t listed_materials = 100;
+    json all = json::array();
+    for (const shown_material& material : largest_materials(stream, listed_materials))
+        all.push_back({{"material", utf8(material.name)}, {"triangles", material.triangles}});
+    return all;
 }
 
 json box_of(const stream_facts& stream) {
@@ -58,6 +80,7 @@ json batch_of(const named_report& named, bool is_strict) {
             {"counts", counts_of(report)},
             {"box_metres", box_of(report.stream)},
             {"lamps_by_type", types},
+            {"triangles_by_material", triangles_by_material(report.stream)},
             {"findings", findings_of(report.found)},
             {"errors", report.found.count(severity::error)},
             {"warnings", report.found.count(severity::warning)},

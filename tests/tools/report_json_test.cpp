@@ -1,0 +1,59 @@
+// What the document says of why a batch may be black, and why it is large.
+
+#include "tests/support/files_in_memory.h"
+#include "tests/tools/damage.h"
+#include "tools/batch_check/report_json.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using namespace batch_check;
+using nlohmann::json;
+
+json batch_in(const batch_report& report) {
+    const named_report named = {"room", report};
+    return json::parse(json_of({&named, 1}, false))["batches"][0];
+}
+
+TEST(ReportJson, counts_undeclared_sides_lamps_without_power_and_copies) {
+    const std::string picture = "Batch_SketchUp_Textures/TX0001_Brick.PNG";
+    const std::string lamp = "ZynBatch_Lights/light_0.txt";
+    const change all =
+        all_of({replaced("batch_file.txt", "MATL;10", "MATL;99"), replaced("batch_file.txt", "MAT2;10", "MAT2;99"),
+                replaced(lamp, "intensity;75.000000", "intensity;0.000000"),
+                replaced(lamp, "intensity_lumens;1275.000000", "intensity_lumens;0.000000"),
+                replaced("ZynBatch_Materials/COL%3a0014_Panel.qlobj", "TileX: 0.5", "TileX: 0.0254")});
+    files_by_name files = small_batch::still();
+    ASSERT_TRUE(all(files));
+    files[picture] = files["ZynBatch_Images/Tree_88.png"];
+    const json counts = batch_in(check_batch(files_in_memory(files, small_batch::folder)))["counts"];
+    EXPECT_EQ(counts["sides_undeclared"], 1);
+    EXPECT_EQ(counts["lamps_without_power"], 1);
+    EXPECT_EQ(counts["equal_materials"], 1);
+    EXPECT_EQ(counts["equal_picture_bytes"], files[picture].size());
+    EXPECT_EQ(counts["picture_bytes"], 2 * files[picture].size());
+    EXPECT_EQ(counts["files"], 14);
+    EXPECT_EQ(counts["triangles_without_material"], 2);
+}
+
+TEST(ReportJson, lists_the_hundred_materials_with_the_most_triangles) {
+    batch_report report;
+    for (std::uint64_t triangles = 0; triangles < 150; ++triangles)
+        report.stream.materials.push_back({"m" + std::to_string(triangles) + ".OrnMaterial", 1, triangles, true});
+    const json listed = batch_in(report)["triangles_by_material"];
+    ASSERT_EQ(listed.size(), 100U);
+    EXPECT_EQ(listed[0], json({{"material", "m149"}, {"triangles", 149}}));
+    EXPECT_EQ(listed[99], json({{"material", "m50"}, {"triangles", 50}}));
+}
+
+TEST(ReportJson, lists_materials_of_one_name_by_themselves_and_those_on_no_triangle_not_at_all) {
+    batch_report report;
+    report.stream.materials = {
+        {"b.OrnMaterial", 1, 7, true}, {"a.OrnMaterial", 4, 7, true}, {"a.OrnMaterial", 7, 8, true}, {"c", 9, 0, true}};
+    EXPECT_EQ(batch_in(report)["triangles_by_material"].dump(),
+              R"([{"material":"a","triangles":8},{"material":"a","triangles":7},{"material":"b","triangles":7}])");
+}
+
+} // namespace
