@@ -46,11 +46,22 @@ struct damage {
     friend std::ostream& operator<<(std::ostream& out, const damage& one) { return out << one.name; }
 };
 
-std::vector<damage> damage_to_frames();     // of the stream: head, end, line ends, what is no record
-std::vector<damage> damage_to_order();      // of its lines
+// ---- to the stream
+std::vector<damage> damage_to_frames();         // head, end, line ends, what is no record
+std::vector<damage> damage_to_order_of_faces(); // lines that stand where they cannot
+std::vector<damage> damage_to_order_of_lamps();
+std::vector<damage> damage_to_order_of_places(); // planes, plants, outside objects, images
+std::vector<damage> damage_to_order_at_the_end();
 std::vector<damage> damage_to_numbers();    // their forms
-std::vector<damage> damage_to_references(); // numbers that lead nowhere, and what must agree within a block
-std::vector<damage> damage_to_materials();
+std::vector<damage> damage_to_vertices();   // their directions and numbers, and the triangles that name them
+std::vector<damage> damage_to_blocks();     // what must agree within a block, and of one with the next
+std::vector<damage> damage_to_references(); // numbers that lead nowhere
+std::vector<damage> damage_to_edges();
+
+// ---- to the other files
+std::vector<damage> damage_to_materials(); // their files, and the lines in them
+std::vector<damage> damage_to_material_values();
+std::vector<damage> damage_to_pictures();
 std::vector<damage> damage_to_lamps();
 std::vector<damage> damage_to_options();
 std::vector<damage> damage_to_folders();

@@ -19,8 +19,10 @@ batch_report report_of(const files_by_name& files) {
 
 std::vector<damage> all_damage() {
     std::vector<damage> all;
-    for (auto* kinds : {damage_to_frames, damage_to_order, damage_to_numbers, damage_to_references, damage_to_materials,
-                        damage_to_lamps, damage_to_options, damage_to_folders})
+    for (auto* kinds : {damage_to_frames, damage_to_order_of_faces, damage_to_order_of_lamps, damage_to_order_of_places,
+                        damage_to_order_at_the_end, damage_to_numbers, damage_to_vertices, damage_to_blocks,
+                        damage_to_references, damage_to_edges, damage_to_materials, damage_to_material_values,
+                        damage_to_pictures, damage_to_lamps, damage_to_options, damage_to_folders})
         for (damage& one : kinds())
             all.push_back(std::move(one));
     return all;

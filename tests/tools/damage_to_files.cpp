@@ -19,8 +19,6 @@ const std::string options = "option_globals.txt";
 
 std::vector<damage> damage_to_materials() {
     const auto line = code::material_line;
-    const auto number = code::material_number;
-    const auto range = code::material_range;
     return {
         {"a_material_file_is_missing", code::material_missing, removed_file(wall)},
         {"a_material_file_has_another_extension", code::material_missing,
@@ -43,6 +41,17 @@ std::vector<damage> damage_to_materials() {
         {"an_icon_has_a_colour_of_its_own", line, replaced(wall, "IconColor: 16777215", "IconColor: 0")},
         {"a_filter_is_set", line, replaced(wall, "Filter: ", "Filter: metal")},
         {"a_material_file_is_binary", line, overwritten(wall, std::string("\x00\x01\x02\xff", 4))},
+        {"a_material_is_on_no_side", code::material_unused,
+         all_of({replaced(stream, "MATL;12", "MATL;11"), replaced(stream, "MAT2;12", "MAT2;11")})},
+        {"two_materials_say_the_same", code::material_equal,
+         replaced("ZynBatch_Materials/COL%3a0014_Panel.qlobj", "TileX: 0.5", "TileX: 0.0254")},
+    };
+}
+
+std::vector<damage> damage_to_material_values() {
+    const auto number = code::material_number;
+    const auto range = code::material_range;
+    return {
         {"a_colour_is_hexadecimal", number, replaced(wall, "Color: 3302600", "Color: #3264c8")},
         {"a_colour_has_decimals", number, replaced(wall, "Color: 3302600", "Color: 3302600.0")},
         {"a_transparency_is_spelt_long", number, replaced(wall, "Trans: 0.25", "Trans: 0.250")},
@@ -67,12 +76,13 @@ std::vector<damage> damage_to_materials() {
         {"lumens_are_not_1700_times_the_glow", code::material_disagrees,
          replaced(wall, "Glow_Lumens: 425", "Glow_Lumens: 426")},
         {"the_two_names_of_a_material_differ", code::material_disagrees, replaced(wall, "Orig: Wall", "Orig: Door")},
-        {"a_material_is_on_no_side", code::material_unused,
-         all_of({replaced(stream, "MATL;12", "MATL;11"), replaced(stream, "MAT2;12", "MAT2;11")})},
+    };
+}
+
+std::vector<damage> damage_to_pictures() {
+    return {
         {"a_textured_material_names_no_picture", code::material_without_picture,
          all_of({replaced(brick, brick_line, "Image_Path: "), removed_file(brick_picture)})},
-        {"two_materials_say_the_same", code::material_equal,
-         replaced("ZynBatch_Materials/COL%3a0014_Panel.qlobj", "TileX: 0.5", "TileX: 0.0254")},
         {"a_picture_is_missing", code::picture_missing, removed_file(brick_picture)},
         {"a_picture_has_another_name", code::picture_missing,
          renamed_file(brick_picture, "Batch_SketchUp_Textures/TX0001_brick.png")},

@@ -44,8 +44,7 @@ change with_edges(int edges) {
 
 } // namespace
 
-std::vector<damage> damage_to_references() {
-    const std::string back = "EMSH; Face\r\n#; ProcessFace MESH\r\nMESH;\r\nTLAY;Walls\r\nCULL;1\r\nMATL;11\r\n";
+std::vector<damage> damage_to_vertices() {
     return {
         {"a_normal_is_of_length_2", code::stream_direction, replaced(stream, "NORM;(0,0,1)", "NORM;(0,0,2)")},
         {"a_normal_is_a_little_short", code::stream_direction, replaced(stream, "NORM;(0,0,1)", "NORM;(0,0,0.99999)")},
@@ -70,6 +69,12 @@ std::vector<damage> damage_to_references() {
          replaced(stream, "FACE;2, 3, 0", "FACE;2, 3, 1")},
         {"a_triangle_of_a_beam_has_other_corners", code::stream_corner, replaced(stream, "FACE;2,3,0", "FACE;2,3,1")},
         {"a_triangle_of_an_image_has_no_blanks", code::stream_corner, replaced(stream, "FACE;0, 1, 2", "FACE;0,1,2")},
+    };
+}
+
+std::vector<damage> damage_to_blocks() {
+    const std::string back = "EMSH; Face\r\n#; ProcessFace MESH\r\nMESH;\r\nTLAY;Walls\r\nCULL;1\r\nMATL;11\r\n";
+    return {
         {"a_face_has_no_vertices", code::stream_empty_mesh,
          [](files_by_name& files) {
              std::string& text = files[stream];
@@ -114,6 +119,11 @@ std::vector<damage> damage_to_references() {
          replaced(stream, "UVQ;(1,0,0)", "UVQ;(0.5,0,0)")},
         {"a_corner_of_an_image_has_the_coordinate_of_a_face", code::stream_texture_coordinates,
          replaced(stream, "UVQ;(0,0,0)", "UVQ;(0,0,1)")},
+    };
+}
+
+std::vector<damage> damage_to_references() {
+    return {
         {"a_front_has_a_material_that_is_not_declared", code::stream_material_number,
          all_of({replaced(stream, "MATL;10", "MATL;99"), replaced(stream, "MAT2;10", "MAT2;99")})},
         {"a_front_has_the_material_of_edges", code::stream_material_number,
@@ -150,6 +160,11 @@ std::vector<damage> damage_to_references() {
          replaced(stream, "LYRS;0,1", "LYRS;0,2"), true},
         {"a_layer_list_has_a_negative_number", code::stream_layer_number, replaced(stream, "LYRS;0,1", "LYRS;-1,1"),
          true},
+    };
+}
+
+std::vector<damage> damage_to_edges() {
+    return {
         {"a_block_of_edges_is_not_full", code::stream_edges, with_edges(998)},
         {"a_block_of_edges_is_overfull", code::stream_edges, with_edges(1000)},
         {"edges_lie_on_another_layer", code::stream_edges, replaced(stream, "TLAY;Layer0", "TLAY;Walls", 5)},

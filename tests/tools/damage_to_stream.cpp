@@ -65,7 +65,7 @@ std::vector<damage> damage_to_frames() {
     };
 }
 
-std::vector<damage> damage_to_order() {
+std::vector<damage> damage_to_order_of_faces() {
     const auto order = code::stream_order;
     return {
         {"a_block_is_not_opened", order, removed(stream, "MESH;")},
@@ -94,6 +94,19 @@ std::vector<damage> damage_to_order() {
         {"a_declaration_lacks_its_second_line", order, removed(stream, "MTX2;1")},
         {"a_declaration_has_another_second_line", order, replaced(stream, "MTX2;1", "MTX2;2")},
         {"a_declaration_has_no_number", order, removed(stream, "MATI;11")},
+        {"the_second_texture_flag_is_missing", order, removed(stream, "MPU2;1")},
+        {"the_close_ahead_of_a_face_stands_twice", order, doubled(stream, "EMSH; Face")},
+        {"a_textured_face_does_not_use_its_coordinates_on_its_back", order,
+         replaced(stream, "MATL;10", "MPUV;1\r\nMATL;10\r\nMPU2;0")},
+        {"a_layer_has_no_name", order, removed(stream, "LYNM;Walls"), true},
+        {"a_layer_list_is_missing_in_an_animation", order, removed(stream, "LYRS;0,1"), true},
+        {"a_layer_list_stands_in_no_animation", order, put_ahead(stream, "CULL;0", "LYRS;0")},
+    };
+}
+
+std::vector<damage> damage_to_order_of_lamps() {
+    const auto order = code::stream_order;
+    return {
         {"a_lamp_block_has_no_number", order, removed(stream, "LITE;0")},
         {"a_lamp_block_is_closed_like_a_face", order, replaced(stream, "EMSH; END OF LAMP", "EMSH;")},
         {"a_face_block_stands_in_a_lamp_block", order, put_ahead(stream, "INVS;1", "#; ProcessFace MESH\r\nMESH;")},
@@ -104,7 +117,20 @@ std::vector<damage> damage_to_order() {
         {"a_glowing_block_has_state_lines_twice", order, put_ahead(stream, "UVQ;(0.5,1.5,1)", "TLAY;Layer0", 3)},
         {"a_glowing_block_is_closed_like_a_lamp", order,
          replaced(stream, "EMSH; END OF ILLUM material", "EMSH; END OF LAMP")},
-        {"the_second_texture_flag_is_missing", order, removed(stream, "MPU2;1")},
+        {"a_face_without_block_has_no_direct_light", order,
+         all_of({removed(stream, "#; Process Instance Lamp Direct Light"), removed(stream, "LGHT;2")})},
+        {"a_direct_light_has_no_number", order, removed(stream, "LGHT;2")},
+        {"a_lamp_block_is_opened_like_an_image", order, replaced(stream, "MESH;", "MESH", 4)},
+        {"a_glowing_block_is_opened_like_an_image", order, replaced(stream, "MESH;", "MESH", 3)},
+        {"a_glowing_block_is_one_sided", order, replaced(stream, "CULL;0", "CULL;1", 1)},
+        {"a_glowing_block_does_not_use_its_coordinates", order, replaced(stream, "MPUV;1", "MPUV;0", 1)},
+        {"a_glowing_block_does_not_use_them_on_its_back", order, replaced(stream, "MPU2;1", "MPU2;0")},
+    };
+}
+
+std::vector<damage> damage_to_order_of_places() {
+    const auto order = code::stream_order;
+    return {
         {"a_section_plane_has_no_place", order, removed(stream, "CLPP;(1,2,3)")},
         {"a_plant_has_no_name", order, removed(stream, "PLNM;/batches/small/Plants/Oak")},
         {"a_plant_has_no_turn", order, removed(stream, "PLRT;90.000000")},
@@ -118,9 +144,19 @@ std::vector<damage> damage_to_order() {
         {"the_comment_of_an_image_is_missing", order, removed(stream, "#;NEW MESH for Image")},
         {"an_image_lacks_a_corner", order, removed(stream, "UVQ;(1,1,0)", 1)},
         {"an_image_lacks_a_triangle", order, removed(stream, "FACE;2, 3, 0")},
-        {"a_face_without_block_has_no_direct_light", order,
-         all_of({removed(stream, "#; Process Instance Lamp Direct Light"), removed(stream, "LGHT;2")})},
-        {"a_direct_light_has_no_number", order, removed(stream, "LGHT;2")},
+        {"an_image_is_one_sided", order, replaced(stream, "CULL;0", "CULL;1", 6)},
+        {"an_image_does_not_use_its_coordinates", order, replaced(stream, "MPUV;1", "MPUV;0", 3)},
+        {"an_image_does_not_use_them_on_its_back", order, replaced(stream, "MPU2;1", "MPU2;0", 2)},
+        {"an_image_block_is_closed_with_a_label", order, replaced(stream, "EMSH;", "EMSH; Image", 4)},
+        {"a_plant_is_placed_0_times", order, replaced(stream, "PLNT;1", "PLNT;0")},
+        {"a_plant_ends_in_another_comment", order, replaced(stream, "#", "#;")},
+        {"an_outside_object_ends_in_another_comment", order, replaced(stream, "#", "#;", 1)},
+    };
+}
+
+std::vector<damage> damage_to_order_at_the_end() {
+    const auto order = code::stream_order;
+    return {
         {"the_comment_ahead_of_the_edges_is_missing", order, removed(stream, "#;EDGES")},
         {"a_block_of_edges_is_not_opened", order, removed(stream, "MESH;", 6)},
         {"a_beam_lacks_a_triangle", order, removed(stream, "FACE;14,15,12")},
@@ -128,29 +164,11 @@ std::vector<damage> damage_to_order() {
          put_ahead(stream, "END;", "EMSH; Face\r\n#; ProcessFace MESH\r\nMESH;\r\nTLAY;Layer0\r\nCULL;0")},
         {"the_comment_ahead_of_the_end_is_missing", order,
          all_of({removed(stream, "END;"), removed(stream, "#;", 6), appended(stream, "END;\r\n")})},
-        {"the_close_ahead_of_a_face_stands_twice", order, doubled(stream, "EMSH; Face")},
-        {"a_lamp_block_is_opened_like_an_image", order, replaced(stream, "MESH;", "MESH", 4)},
-        {"a_glowing_block_is_opened_like_an_image", order, replaced(stream, "MESH;", "MESH", 3)},
-        {"a_glowing_block_is_one_sided", order, replaced(stream, "CULL;0", "CULL;1", 1)},
-        {"a_glowing_block_does_not_use_its_coordinates", order, replaced(stream, "MPUV;1", "MPUV;0", 1)},
-        {"a_glowing_block_does_not_use_them_on_its_back", order, replaced(stream, "MPU2;1", "MPU2;0")},
-        {"a_textured_face_does_not_use_its_coordinates_on_its_back", order,
-         replaced(stream, "MATL;10", "MPUV;1\r\nMATL;10\r\nMPU2;0")},
-        {"an_image_is_one_sided", order, replaced(stream, "CULL;0", "CULL;1", 6)},
-        {"an_image_does_not_use_its_coordinates", order, replaced(stream, "MPUV;1", "MPUV;0", 3)},
-        {"an_image_does_not_use_them_on_its_back", order, replaced(stream, "MPU2;1", "MPU2;0", 2)},
-        {"an_image_block_is_closed_with_a_label", order, replaced(stream, "EMSH;", "EMSH; Image", 4)},
         {"a_block_of_edges_is_opened_like_an_image", order, replaced(stream, "MESH;", "MESH", 6)},
         {"edges_are_one_sided", order, replaced(stream, "CULL;0", "CULL;1", 7)},
-        {"a_plant_is_placed_0_times", order, replaced(stream, "PLNT;1", "PLNT;0")},
-        {"a_plant_ends_in_another_comment", order, replaced(stream, "#", "#;")},
-        {"an_outside_object_ends_in_another_comment", order, replaced(stream, "#", "#;", 1)},
         {"an_edge_of_a_document_is_marked_2", order, replaced(stream, "EDGE;1", "EDGE;2"), true},
         {"an_edge_of_a_document_lies_on_another_layer", order, replaced(stream, "TLAY;Edges", "TLAY;Layer0"), true},
         {"an_edge_of_a_document_is_closed_with_a_label", order, replaced(stream, "EMSH;", "EMSH; Edges", 1), true},
-        {"a_layer_has_no_name", order, removed(stream, "LYNM;Walls"), true},
-        {"a_layer_list_is_missing_in_an_animation", order, removed(stream, "LYRS;0,1"), true},
-        {"a_layer_list_stands_in_no_animation", order, put_ahead(stream, "CULL;0", "LYRS;0")},
         {"an_edge_of_a_document_has_one_end", order, removed(stream, "EDG2;(10, 0, 0)"), true},
         {"an_edge_of_a_document_is_not_marked", order, removed(stream, "EDGE;1"), true},
     };
