@@ -50,7 +50,7 @@ void batch_contents::add_folder(const batch_files& files, const std::string& fol
         return;
     could_list = true;
     for (const listed_entry& entry : *entries) {
-        const std::string name = folder.empty() ? entry.name : folder + '/' + entry.name;
+        const std::string name = in_folder(folder, entry.name);
         if (!entry.is_folder) {
             sizes[name] = entry.size;
             byte_count += entry.size;

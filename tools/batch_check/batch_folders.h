@@ -1,8 +1,9 @@
 #pragma once
 
-// The folders of a batch and the files that are known in it.
+// The folders of a batch, the files that are known in it, and how both are named.
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace batch_check {
@@ -29,5 +30,13 @@ inline constexpr std::array known_files = {
     std::string_view("batch_file.txt"),     std::string_view("geometry.qlm"),      mark_of_a_running_run,
     std::string_view("option_globals.txt"), std::string_view("skatter_insts.txt"), std::string_view("zyn_pages.txt"),
     std::string_view("tessaline-run.json"), std::string_view("zyn_view.txt")};
+
+// The name of a file from the batch folder on. folder: empty for the batch folder itself.
+inline std::string in_folder(std::string_view folder, std::string_view name) {
+    std::string whole(folder);
+    if (!whole.empty())
+        whole += '/';
+    return whole.append(name);
+}
 
 } // namespace batch_check

@@ -7,13 +7,6 @@
 #include "tools/batch_reading/material_reader.h"
 
 namespace batch_check {
-namespace {
-
-std::string in_folder(std::string_view folder, const std::string& name) {
-    return std::string(folder) + '/' + name;
-}
-
-} // namespace
 
 void reference_check::check_materials() {
     for (const declared_material& material : report.stream.materials) {
