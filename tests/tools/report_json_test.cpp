@@ -1,6 +1,7 @@
-// What the document says of why a batch may be black, and why it is large.
+// What the document calls a batch, and what it says of why one may be black, and why it is large.
 
 #include "tests/support/files_in_memory.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/tools/damage.h"
 #include "tools/batch_check/report_json.h"
 
@@ -15,6 +16,21 @@ using nlohmann::json;
 json batch_in(const batch_report& report) {
     const named_report named = {"room", report};
     return json::parse(json_of({&named, 1}, false))["batches"][0];
+}
+
+// Three separators end a name as one does; "." stands for the folder that it leads to.
+TEST(ReportJson, a_batch_is_named_by_the_last_part_of_its_folder) {
+    const auto named = [](const std::string& folder) {
+        const named_report report = {folder, batch_report()};
+        return json::parse(json_of({&report, 1}, false))["batches"][0]["batch"];
+    };
+    EXPECT_EQ(named("room"), "room");
+    EXPECT_EQ(named("batches/room"), "room");
+    EXPECT_EQ(named("batches/room///"), "room");
+    EXPECT_EQ(named(with_own_separators("batches/room/")), "room");
+    const temporary_folder disk;
+    disk.make_folder("room");
+    EXPECT_EQ(named(disk / "room/."), "room");
 }
 
 TEST(ReportJson, counts_undeclared_sides_lamps_without_power_and_copies) {

@@ -70,7 +70,7 @@ public:
 private:
     std::string full(std::string name) const {
         std::replace(name.begin(), name.end(), '/', platform::path_separator);
-        return folder + platform::path_separator + name;
+        return platform::joined(folder, name);
     }
 
     std::string folder;

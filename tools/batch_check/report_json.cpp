@@ -70,12 +70,25 @@ json findings_of(const findings& found) {
     return all;
 }
 
+// The last part of a folder's name, however many separators end it; the full name's if the name is "." or "..".
+std::string name_of_batch(const std::string& folder) {
+    const auto part = [](std::string name) {
+        while (name.size() > 1 && (name.back() == '/' || name.back() == platform::path_separator))
+            name.pop_back();
+        return platform::last_part(name);
+    };
+    const std::string last = part(folder);
+    if (last != "." && last != "..")
+        return last;
+    return part(platform::real_name(folder).value_or(platform::absolute_name(folder)));
+}
+
 json batch_of(const named_report& named, bool is_strict) {
     const batch_report& report = named.report;
     json types = json::object();
     for (const auto& [type, count] : report.lamps_by_type)
         types[utf8(type)] = count;
-    return {{"batch", utf8(last_part(named.folder))},
+    return {{"batch", utf8(name_of_batch(named.folder))},
             {"status", status_of(report, is_strict)},
             {"counts", counts_of(report)},
             {"box_metres", box_of(report.stream)},
@@ -91,19 +104,6 @@ json batch_of(const named_report& named, bool is_strict) {
 
 std::string_view status_of(const batch_report& report, bool is_strict) {
     return !report.is_batch ? "not a batch" : report.is_sound(is_strict) ? "sound" : "findings";
-}
-
-std::string last_part(const std::string& folder) {
-    const auto part = [](std::string name) {
-        while (name.size() > 1 && (name.back() == '/' || name.back() == platform::path_separator))
-            name.pop_back();
-        const std::size_t separator = name.find_last_of(platform::path_separator == '/' ? "/" : "/\\");
-        return separator == std::string::npos ? name : name.substr(separator + 1);
-    };
-    const std::string last = part(folder);
-    if (last != "." && last != "..")
-        return last;
-    return part(platform::real_name(folder).value_or(platform::absolute_name(folder)));
 }
 
 std::string json_of(std::span<const named_report> reports, bool is_strict) {

@@ -17,9 +17,6 @@ struct named_report {
 // "sound", "findings", "not a batch".
 std::string_view status_of(const batch_report& report, bool is_strict);
 
-// The last part of a folder's name, however many separators end it; the full name's if the name is "." or "..".
-std::string last_part(const std::string& folder);
-
 // Ends in a line feed. What is no UTF-8 in a name is replaced.
 std::string json_of(std::span<const named_report> reports, bool is_strict);
 
