@@ -2,7 +2,7 @@
 
 #include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
-#include "tests/tools/small_batch.h"
+#include "tests/tools/small_batch_on_disk.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,21 +16,6 @@ using testing::StartsWith;
 
 program_result check(const std::vector<std::string>& arguments) {
     return run_program({std::string(PROGRAMS) + "/batch-check" + PROGRAM_ENDING, arguments});
-}
-
-// The small batch in a folder of its own, with the full names that lead there.
-void put_small_batch(const temporary_folder& disk, const std::string& folder) {
-    const std::string full = platform::real_name(disk.name()).value_or(disk.name()) + platform::path_separator + folder;
-    for (auto [name, bytes] : small_batch::still()) {
-        for (std::size_t at = bytes.find(small_batch::folder); at != std::string::npos;
-             at = bytes.find(small_batch::folder, at)) {
-            const std::size_t end = bytes.find('\r', at);
-            const std::string inside =
-                bytes.substr(at + small_batch::folder.size(), end - at - small_batch::folder.size());
-            bytes.replace(at, end - at, full + with_own_separators(inside));
-        }
-        disk.write(folder + "/" + name, bytes);
-    }
 }
 
 TEST(BatchCheckProgram, a_sound_batch_is_status_0_and_nothing_on_standard_error) {

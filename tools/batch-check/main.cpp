@@ -24,12 +24,14 @@ constexpr std::string_view usage = "usage: batch-check [OPTIONS] BATCH_FOLDER...
                                    "  --strict         warnings make a batch unsound too\n"
                                    "  --ignore CODE    nothing of this kind counts; may be given more than once\n"
                                    "  --list-codes     print every kind of finding\n"
-                                   "Status 0 if all are sound, 1 if anything was found, 2 if one is no batch.\n";
+                                   "Status 0 if all are sound, 1 if anything was found, 2 if one is no batch, or if\n"
+                                   "what is found cannot be written.\n";
 
 constexpr std::string_view json_into = "--json=";
 constexpr int status_sound = 0;
 constexpr int status_findings = 1;
 constexpr int status_no_batch = 2;
+constexpr const char* refused_output = "standard output takes nothing";
 
 struct request {
     std::vector<std::string> folders;
@@ -51,9 +53,8 @@ std::string reason_of(const batch_report& report) {
     return report.found.kept().empty() ? "not a batch" : report.found.kept()[0].text;
 }
 
-int check_folder(const request& asked, const std::string& folder, const batch_report& report) {
-    if (!asked.prints_json)
-        platform::write_standard_output(first_screen(folder, report) + finding_lines(report.found));
+// Says why a folder is not sound; gives its status.
+int told_status(const request& asked, const std::string& folder, const batch_report& report) {
     if (report.is_sound(asked.is_strict))
         return status_sound;
     platform::write_standard_error("batch-check: " + without_control_characters(folder) + ": " + reason_of(report) +
@@ -61,25 +62,28 @@ int check_folder(const request& asked, const std::string& folder, const batch_re
     return report.is_batch ? status_findings : status_no_batch;
 }
 
-bool write_json(const request& asked, const std::string& json) {
-    if (asked.prints_json)
-        platform::write_standard_output(json);
-    if (asked.json_file.empty())
-        return true;
+bool write_file(const std::string& name, std::string_view bytes) {
     platform::file file;
-    return file.open(asked.json_file, platform::open_mode::write) && file.write_all(json) && file.close();
+    return file.open(name, platform::open_mode::write) && file.write_all(bytes) && file.close();
 }
 
 int check_all(const request& asked) {
     std::vector<named_report> reports;
     int status = status_sound;
+    bool is_printed = true;
     for (const std::string& folder : asked.folders) {
         reports.push_back({folder, batch_check::check_batch(*folder_on_disk(folder), asked.ignored)});
-        status = std::max(status, check_folder(asked, folder, reports.back().report));
+        const batch_report& report = reports.back().report;
+        if (!asked.prints_json)
+            is_printed &= platform::write_standard_output(first_screen(folder, report) + finding_lines(report.found));
+        status = std::max(status, told_status(asked, folder, report));
     }
-    if (!write_json(asked, json_of(reports, asked.is_strict)))
+    const std::string json = json_of(reports, asked.is_strict);
+    if (asked.prints_json)
+        is_printed &= platform::write_standard_output(json);
+    if (!asked.json_file.empty() && !write_file(asked.json_file, json))
         return refuse("cannot write " + without_control_characters(asked.json_file));
-    return status;
+    return is_printed ? status : refuse(refused_output);
 }
 
 } // namespace
@@ -92,8 +96,7 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
         if (argument == "--list-codes") {
-            platform::write_standard_output(code_list());
-            return status_sound;
+            return platform::write_standard_output(code_list()) ? status_sound : refuse(refused_output);
         }
         asked.is_strict |= argument == "--strict";
         asked.prints_json |= argument == "--json";

@@ -1,0 +1,70 @@
+// The checker where what it has to say finds no place, and where a picture is larger than memory.
+
+#include "tests/support/run_program.h"
+#include "tests/tools/small_batch_on_disk.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+
+const std::string checker = std::string(PROGRAMS) + "/batch-check";
+
+// Standard output is a disk that is full.
+program_result check_into_full_disk(const std::vector<std::string>& arguments) {
+    std::vector<std::string> words = {"-c", "exec \"$0\" \"$@\" >/dev/full", checker};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return run_program({"/bin/sh", words});
+}
+
+class FullOutput : public testing::Test {
+protected:
+    void SetUp() override { put_small_batch(disk, "room"); }
+
+    void expect_refused(const std::vector<std::string>& arguments) const {
+        const program_result seen = check_into_full_disk(arguments);
+        EXPECT_EQ(seen.status, 2) << seen.end;
+        EXPECT_THAT(seen.errors, EndsWith("batch-check: standard output takes nothing\n"));
+    }
+
+    temporary_folder disk;
+};
+
+TEST_F(FullOutput, is_status_2_for_the_words_of_a_sound_batch) {
+    expect_refused({disk / "room"});
+}
+
+TEST_F(FullOutput, is_status_2_and_the_last_word_where_something_is_found) {
+    std::filesystem::remove(disk / "room/ZynBatch_Lights/light_1.txt");
+    expect_refused({disk / "room"});
+}
+
+TEST_F(FullOutput, is_status_2_for_the_document) {
+    expect_refused({"--json", disk / "room"});
+}
+
+TEST_F(FullOutput, is_status_2_for_the_list_of_codes) {
+    expect_refused({"--list-codes"});
+}
+
+TEST_F(FullOutput, keeps_no_document_from_its_file) {
+    expect_refused({"--json=" + disk / "report.json", disk / "room"});
+    EXPECT_THAT(disk.read("report.json"), HasSubstr("\"status\": \"sound\""));
+}
+
+// A file without blocks on the disk, so that it costs nothing but what the checker takes for it.
+TEST(LargePicture, of_3_GiB_is_noted_and_takes_no_memory) {
+    const temporary_folder disk;
+    put_small_batch(disk, "room");
+    std::filesystem::resize_file(disk / "room/ZynBatch_Images/Tree_88.png", std::uintmax_t{3} << 30U);
+    const program_result seen = run_program({checker, {"--json", "--strict", disk / "room"}});
+    EXPECT_EQ(seen.status, 0) << seen.output << seen.errors;
+    EXPECT_THAT(seen.output, HasSubstr("\"picture-large\""));
+    EXPECT_LT(seen.most_bytes, std::uint64_t{1} << 30U); // what the test itself takes may count
+}
+
+} // namespace
