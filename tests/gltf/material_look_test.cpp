@@ -66,10 +66,24 @@ TEST(MaterialLook, that_glows_gives_off_its_colour) {
     EXPECT_FALSE(material_from("Glow: 1\r\n").contains("extensions"));
 }
 
+TEST(MaterialLook, that_glows_beyond_measure_glows_as_brightly_as_there_is) {
+    const gltf::json glow = material_from("Glow: 1e308\r\nSelfGlow: 1e308\r\n");
+    EXPECT_EQ(glow["extensions"]["KHR_materials_emissive_strength"]["emissiveStrength"], 1e6);
+}
+
 TEST(MaterialLook, is_sound_whatever_the_numbers_are) {
     const gltf::json odd = material_from("Trans: 7\r\nRefl: nan\r\nRefr: inf\r\nGlow: -3\r\n");
     EXPECT_EQ(odd["pbrMetallicRoughness"]["baseColorFactor"][3], 0);
     EXPECT_EQ(number(odd, "roughnessFactor"), 1);
     EXPECT_FALSE(odd.contains("emissiveFactor"));
+    for (const char* refraction : {"0", "0.5", "0.999999", "-2", "1e300"}) {
+        const gltf::json glass =
+            material_from(std::string("OrnMaterial Type: Glass\r\nTrans: 0.5\r\nRefr: ") + refraction + "\r\n");
+        ASSERT_TRUE(glass["extensions"].contains("KHR_materials_transmission")) << refraction;
+        const bool says_it = glass["extensions"].contains("KHR_materials_ior");
+        EXPECT_EQ(says_it, std::string(refraction) == "1e300"); // the others are below what the format allows
+        if (says_it)
+            EXPECT_EQ(glass["extensions"]["KHR_materials_ior"]["ior"], 100);
+    }
     EXPECT_FALSE(read_material_look("no material"));
 }

@@ -13,6 +13,9 @@ constexpr double polished = 0.05;   // roughness; a perfect mirror would show no
 constexpr double mirror_from = 0.8; // reflection from which a material is a mirror
 constexpr double blurred = 0.4;     // least roughness of what reflects in a blur
 constexpr double of_window_glass = 1.5;
+constexpr double least_refraction = 1; // what the format allows; less, in a file, breaks no light
+constexpr double most_refraction = 100;
+constexpr double brightest_glow = 1e6; // a hundred megawatts; what is beyond single precision would not glow at all
 
 std::string_view next_line(std::string_view& text) {
     const std::size_t feed = text.find('\n');
@@ -62,10 +65,12 @@ double within_one(double number) {
 void add_glass(gltf::json& material, const material_look& look, double clear, gltf::glb_writer& uses) {
     uses.use_extension("KHR_materials_transmission");
     material["extensions"]["KHR_materials_transmission"] = {{"transmissionFactor", gltf::short_number(clear)}};
-    if (look.refraction != of_window_glass) { // which the format takes for granted
-        uses.use_extension("KHR_materials_ior");
-        material["extensions"]["KHR_materials_ior"] = {{"ior", gltf::short_number(look.refraction)}};
-    }
+    // The format takes window glass for granted.
+    if (look.refraction < least_refraction || look.refraction == of_window_glass)
+        return;
+    uses.use_extension("KHR_materials_ior");
+    material["extensions"]["KHR_materials_ior"] = {
+        {"ior", gltf::short_number(std::min(look.refraction, most_refraction))}};
 }
 
 void add_glow(gltf::json& material, const std::array<double, 3>& color, double glow, gltf::glb_writer& uses) {
@@ -116,7 +121,7 @@ gltf::json material_json(const material_look& look, gltf::glb_writer& uses) {
         add_glass(material, look, clear, uses);
     else if (clear > 0)
         material["alphaMode"] = "BLEND";
-    const double glow = std::max(0.0, look.glow) + std::max(0.0, look.self_glow);
+    const double glow = std::min(std::max(0.0, look.glow) + std::max(0.0, look.self_glow), brightest_glow);
     if (glow > 0)
         add_glow(material, color, glow, uses);
     return material;
