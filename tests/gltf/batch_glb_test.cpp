@@ -122,6 +122,21 @@ TEST(BatchGlb, changes_the_material_within_a_lamp_while_vertex_numbers_go_on) {
     EXPECT_NEAR(light["intensity"].get<double>(), 10, 1e-5);
 }
 
+TEST(BatchGlb, tells_what_belongs_to_a_lamp_from_other_things_of_its_material) {
+    const std::string painted = "TLAY;a\r\nCULL;0\r\nMATL;10\r\nMAT2;10\r\n" + square();
+    batch made(declaration("Shade", 10) + "MESH;\r\n" + painted + "FACE;0,1,2\r\nEMSH;\r\nMESH;\r\nLITE;7\r\n" +
+               painted + "FACE;0,1,2\r\nFACE;0,2,3\r\nEMSH; END OF LAMP\r\n");
+    made.material("Shade", "Color: 255\r\nGlow: 1\r\n");
+    const read_glb glb = made.convert();
+    const json parts = glb.mesh_of("a")["primitives"];
+    ASSERT_EQ(parts.size(), 2U);
+    EXPECT_FALSE(parts[0]["extras"].contains("lamp_number"));
+    EXPECT_EQ(glb.indices(parts[0]).size(), 3U);
+    EXPECT_EQ(parts[1]["extras"]["lamp_number"], 7);
+    EXPECT_EQ(glb.indices(parts[1]).size(), 6U);
+    EXPECT_EQ(parts[0]["material"], parts[1]["material"]);
+}
+
 TEST(BatchGlb, turns_v_round_and_embeds_the_picture_once) {
     batch made(declaration("Oak", 10) + "MESH;\r\nTLAY;a\r\nCULL;1\r\nMPUV;1\r\nMATL;10\r\n" + square(true) +
                "FACE;0,1,2\r\nFACE;0,2,3\r\nEMSH;\r\n");

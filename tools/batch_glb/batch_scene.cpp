@@ -105,7 +105,12 @@ batch_scene::part* batch_scene::current_part(bool has_coordinates) {
     std::size_t slot = known.slot_of(state.material);
     if (state.material == batch_materials::none && !state.one_sided)
         slot = known.slot_of(state.back_material);
-    const part_key key{layer_number(state.layer), slot, !state.one_sided, has_coordinates && known.has_picture(slot)};
+    const part_key key{.layer = layer_number(state.layer),
+                       .slot = slot,
+                       .two_sided = !state.one_sided,
+                       .with_picture = has_coordinates && known.has_picture(slot),
+                       .is_of_lamp = lamp != nullptr,
+                       .lamp_number = lamp != nullptr ? lamp->first : 0};
     const auto known_part = parts.find(key);
     if (known_part != parts.end())
         return chosen = &known_part->second;
@@ -153,7 +158,7 @@ void batch_scene::triangle(const std::array<int, 3>& corners, std::uint64_t line
     }
     if (lamp != nullptr)
         for (const block_vertex* each : at)
-            lamp->shape.include(each->corner.position);
+            lamp->second.shape.include(each->corner.position);
     if (state.unseen) {
         ++found.triangles_unseen;
         return;
@@ -189,8 +194,8 @@ void batch_scene::record(std::string_view tag, std::string_view payload) {
 void batch_scene::set_state(std::string_view tag, std::string_view payload) {
     if (tag == "TLAY") {
         state.layer = payload;
-        if (lamp != nullptr && lamp->layer.empty())
-            lamp->layer = state.layer;
+        if (lamp != nullptr && lamp->second.layer.empty())
+            lamp->second.layer = state.layer;
     } else if (tag == "CULL")
         state.one_sided = payload == "1";
     else if (tag == "MATL")
@@ -205,8 +210,11 @@ void batch_scene::set_state(std::string_view tag, std::string_view payload) {
 }
 
 void batch_scene::begin_lamp(std::string_view payload) {
-    if (const auto number = read_integer(payload))
-        lamp = &lamps_by_number[*number];
+    const auto number = read_integer(payload);
+    if (!number)
+        return;
+    lamp = &*lamps_by_number.try_emplace(*number).first;
+    current = {};
 }
 
 void batch_scene::end_of_line(std::string_view payload, bool is_second) {
@@ -229,7 +237,10 @@ std::string batch_scene::primitive_text(const part_key& key, part& from) {
     primitive["material"] = material;
     std::string text = gltf::text_of(primitive);
     text.pop_back();
-    text += ",\"extras\":{\"lines\":[";
+    text += ",\"extras\":{";
+    if (key.is_of_lamp)
+        text += "\"lamp_number\":" + std::to_string(key.lamp_number) + ",";
+    text += "\"lines\":[";
     writer.spool().read(from.lines, [&text](std::string_view bytes) {
         text += bytes;
         return true;

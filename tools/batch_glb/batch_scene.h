@@ -13,6 +13,7 @@
 #include <string>
 #include <tuple>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 // A lamp, and where its shape lies.
@@ -54,19 +55,19 @@ public:
 private:
     // Triangles of one layer and one look.
     struct part {
-        part(gltf::byte_spool& spool, bool textured)
-            : data(spool, true, textured), lines(spool.begin()), has_picture(textured) {}
+        part(gltf::byte_spool& spool, bool textured) : data(spool, true, textured), lines(spool.begin()) {}
         gltf::growing_primitive data;
         gltf::byte_spool::strand lines; // JSON: which triangle stands in which line of the stream
         std::uint64_t triangles = 0;
         std::uint64_t last_line = 0;
-        bool has_picture;
     };
     struct part_key {
         std::size_t layer = 0;
         std::size_t slot = 0;
         bool two_sided = false;
         bool with_picture = false;
+        bool is_of_lamp = false; // so that what a lamp lights up can be told from the rest of its material
+        int lamp_number = 0;
         auto operator<=>(const part_key&) const = default;
     };
     struct block_state {
@@ -74,7 +75,6 @@ private:
         int back_material = 0;
         bool one_sided = false;
         bool unseen = false;
-        bool is_line = false; // "EDGE;1"
         std::string layer;
     };
 
@@ -109,7 +109,7 @@ private:
     int beam_corners = 0;
     gltf::float3 line_start{};
     std::map<int, seen_lamp> lamps_by_number;
-    seen_lamp* lamp = nullptr; // whose shape comes
+    std::pair<const int, seen_lamp>* lamp = nullptr; // whose shape comes
     batch_counts found;
     gltf::float_range bounds;
     bool too_many = false;

@@ -46,7 +46,6 @@ public:
     std::uint32_t add_vertex(const float3& position, const float3& normal, const float2& at);
     void add_indices(std::span<const std::uint32_t> indices);
 
-    std::uint32_t vertex_count() const { return vertices; }
     std::uint64_t index_count() const { return indices_added; }
     const float_range& range() const { return box; }
 

@@ -118,6 +118,28 @@ test('a lamp that is switched off leaves the room darker and its outlines as the
   await page.close();
 });
 
+// Lamp 5 and the cushions have one material; here it glows.
+test('the shape of a glowing lamp goes dark with it, and nothing else of its material does', async () => {
+  const { batch } = example('room');
+  const material = join(batch, 'ZynBatch_Materials', 'COL%3a0010_Cushion.qlobj');
+  const plain = readFileSync(material, 'latin1');
+  writeFileSync(material, `${plain}Glow: 1\r\n`, 'latin1');
+  const file = viewBatch(batch, 'glowing').page;
+  writeFileSync(material, plain, 'latin1');
+  const { page } = await openPage(file, 900, 600);
+  const glowing = () => page.evaluate(() => window.tessaline.model.items
+    .filter((item) => item.material === 'number 15' && item.object.material.emissive.getHex() > 0).map((item) => item.lamp));
+  const before = await glowing();
+  assert.ok(before.includes(5) && before.includes(null), `what glows belongs to the lamps ${before}`);
+  await unfold(page, 'lamps');
+  const lamp = page.getByRole('checkbox', { name: /^lamp 5: round_glow, 425 lm/ });
+  await lamp.uncheck();
+  assert.deepEqual(await glowing(), before.filter((number) => number !== 5));
+  await lamp.check();
+  assert.deepEqual(await glowing(), before);
+  await page.close();
+});
+
 test('a view of the list changes the picture, and the first one brings it back', async () => {
   const { page } = await openPage(example('room').page, 900, 600);
   const start = await pictureOf(page);
