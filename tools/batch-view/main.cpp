@@ -1,6 +1,7 @@
 // Makes a page of a batch folder that shows in a browser what the renderer will get, and a picture of it.
 
 #include "platform/platform.h"
+#include "text/path_end.h"
 #include "tools/batch-view/checker_findings.h"
 #include "tools/batch-view/draw_batch.h"
 #include "tools/batch_glb/batch_glb.h"
@@ -34,14 +35,6 @@ void say(const std::string& words) {
     std::fprintf(stderr, "batch-view: %s\n", words.c_str());
 }
 
-// The last part of a path, whatever separators end it.
-std::string last_component(std::string path) {
-    const std::size_t end = path.find_last_not_of("/\\");
-    path.resize(end == std::string::npos ? 0 : end + 1);
-    const std::size_t last = path.find_last_of("/\\");
-    return platform::utf8_from_own(last == std::string::npos ? path : path.substr(last + 1));
-}
-
 ended make_page(const view_options& options) {
     const std::string glb_file = options.page_file + ".glb";
     const batch_glb_result made = write_batch_glb(options.input, glb_file);
@@ -50,7 +43,7 @@ ended make_page(const view_options& options) {
     if (made.outcome != batch_glb_outcome::done)
         return {made.outcome == batch_glb_outcome::no_batch ? 1 : 3, made.failure};
     page_facts facts;
-    facts.title = last_component(options.input);
+    facts.title = platform::utf8_from_own(last_component(options.input));
     facts.kind = "batch";
     facts.program = "batch-view";
     facts.start = start_of_batch(options.input);

@@ -1,6 +1,7 @@
 #include "tools/batch_glb/batch_glb.h"
 
 #include "platform/platform.h"
+#include "text/path_end.h"
 #include "tools/batch_glb/batch_view.h"
 #include "tools/batch_glb/lamp_light.h"
 
@@ -9,13 +10,6 @@
 namespace {
 
 constexpr std::uint64_t most_bytes_of_a_lamp = std::uint64_t{1} << 20U;
-
-std::string last_component(std::string path) {
-    while (path.size() > 1 && (path.back() == '/' || path.back() == platform::path_separator))
-        path.pop_back();
-    const std::size_t last = path.find_last_of("/\\");
-    return last == std::string::npos ? path : path.substr(last + 1);
-}
 
 std::optional<lamp_file> lamp_of(const std::string& batch_folder, int number) {
     const std::string path = batch_folder + platform::path_separator + "ZynBatch_Lights" + platform::path_separator +

@@ -1,6 +1,7 @@
 #include "tools/batch_glb/placed_things.h"
 
 #include "platform/platform.h"
+#include "text/path_end.h"
 #include "tools/batch_glb/stream_numbers.h"
 #include "tools/gltf/numbers.h"
 
@@ -40,8 +41,7 @@ std::size_t add_plant(gltf::glb_writer& to, const placed_plant& plant) {
     const double half_turn = plant.turn_degrees * std::numbers::pi / 360;
     where.rotation = {0, 0, std::sin(half_turn), std::cos(half_turn)};
     // Only the last part of the name of a file is a name for people.
-    const std::size_t last = plant.name.find_last_of("/\\");
-    const std::string name = last == std::string::npos ? plant.name : plant.name.substr(last + 1);
+    const std::string_view name = last_component(plant.name);
     gltf::json extras = {{"library", platform::utf8_from_own(plant.library)},
                          {"name", platform::utf8_from_own(plant.name)},
                          {"season", plant.season},

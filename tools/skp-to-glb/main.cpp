@@ -1,6 +1,7 @@
 // Writes a model as one GLB file.
 
 #include "platform/platform.h"
+#include "text/path_end.h"
 #include "tools/command_line/answers.h"
 #include "tools/model_opening/opened_model.h"
 #include "tools/skp_glb/skp_glb.h"
@@ -20,18 +21,14 @@ constexpr std::string_view usage = "usage: skp-to-glb [--hidden] [--attributes] 
                                    "command line, 3 if the file cannot\n"
                                    "be written. What of the model could not be shown is said on standard error.\n";
 
-std::string last_component(const std::string& path) {
-    const std::size_t last = path.find_last_of("/\\");
-    return platform::utf8_from_own(last == std::string::npos ? path : path.substr(last + 1));
-}
-
 int convert(const std::string& model_file, const std::string& glb_file, const skp_glb_options& options) {
     const opened_model opened(model_file);
     if (!opened.is_open()) {
         std::fprintf(stderr, "skp-to-glb: %s: %s\n", model_file.c_str(), opened.failure().c_str());
         return 1;
     }
-    const skp_glb_result result = write_skp_glb(opened.model(), last_component(model_file), glb_file, options);
+    const std::string name = platform::utf8_from_own(last_component(model_file));
+    const skp_glb_result result = write_skp_glb(opened.model(), name, glb_file, options);
     for (const std::string& note : result.notes)
         std::fprintf(stderr, "skp-to-glb: %s\n", note.c_str());
     if (result.failure.empty())

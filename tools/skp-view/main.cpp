@@ -1,6 +1,7 @@
 // Makes a page of a model that shows it in a browser, and a picture of it.
 
 #include "platform/platform.h"
+#include "text/path_end.h"
 #include "tools/command_line/answers.h"
 #include "tools/model_opening/opened_model.h"
 #include "tools/page/draw_into_place.h"
@@ -34,20 +35,16 @@ void say(const std::string& words) {
     std::fprintf(stderr, "skp-view: %s\n", words.c_str());
 }
 
-std::string last_component(const std::string& path) {
-    const std::size_t last = path.find_last_of("/\\");
-    return platform::utf8_from_own(last == std::string::npos ? path : path.substr(last + 1));
-}
-
 std::string make_page(SUModelRef model, const view_options& options) {
     const std::string glb_file = options.page_file + ".glb";
-    const skp_glb_result made = write_skp_glb(model, last_component(options.input), glb_file);
+    const std::string name = platform::utf8_from_own(last_component(options.input));
+    const skp_glb_result made = write_skp_glb(model, name, glb_file);
     for (const std::string& note : made.notes)
         say(note);
     std::string failure = made.failure;
     if (failure.empty()) {
         page_facts facts;
-        facts.title = last_component(options.input);
+        facts.title = name;
         facts.kind = "model";
         facts.program = "skp-view";
         const view seen = camera_of(model, metres_in_an_inch);
