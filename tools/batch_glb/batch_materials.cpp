@@ -1,23 +1,14 @@
 #include "tools/batch_glb/batch_materials.h"
 
 #include "platform/platform.h"
+#include "text/path_end.h"
+#include "tools/batch_reading/batch_pictures.h"
 
 #include <utility>
 
 namespace {
 
-constexpr std::uint64_t most_bytes_of_a_file = std::uint64_t{1} << 24U;    // of a material
-constexpr std::uint64_t most_bytes_of_a_picture = std::uint64_t{1} << 30U; // as one that can be decoded may have
-
-std::string in_folder(const std::string& folder, const char* inside, std::string_view name) {
-    return folder + platform::path_separator + inside + platform::path_separator + std::string(name);
-}
-
-// Names come from another system at times, so either separator counts.
-std::string_view without_folder(std::string_view path) {
-    const std::size_t last = path.find_last_of("/\\");
-    return last == std::string_view::npos ? path : path.substr(last + 1);
-}
+constexpr std::uint64_t most_bytes_of_a_file = std::uint64_t{1} << 20U; // of a material; real ones have two thousand
 
 material_look plain(std::string name, std::uint32_t blue_green_red) {
     material_look look;
@@ -43,7 +34,8 @@ void batch_materials::note(std::string text) {
 
 void batch_materials::declare(int number, std::string_view name) {
     slot declared{.number = number, .look = {}, .texture = {}};
-    const std::string path = in_folder(folder, "ZynBatch_Materials", file_of_material(name));
+    const std::string path = folder + platform::path_separator + "ZynBatch_Materials" + platform::path_separator +
+                             file_of_material(name);
     const auto bytes = platform::read_file(path, most_bytes_of_a_file);
     std::optional<material_look> look;
     if (bytes)
@@ -60,28 +52,17 @@ std::size_t batch_materials::slot_of(int number) const {
     return found == by_number.end() ? slot_of_none : found->second;
 }
 
-// The batch's own folders come first: a batch that has been moved still names the place where it was made.
-std::optional<std::vector<std::uint8_t>> batch_materials::bytes_of_picture(const std::string& path) const {
-    const std::string_view name = without_folder(path);
-    const std::string places[] = {in_folder(folder, "Batch_SketchUp_Textures", name),
-                                  in_folder(folder, "ZynBatch_Images", name), path};
-    for (const std::string& place : places)
-        if (const auto bytes = platform::read_file(place, most_bytes_of_a_picture)) {
-            const auto* first = reinterpret_cast<const std::uint8_t*>(bytes->data());
-            return std::vector<std::uint8_t>(first, first + bytes->size());
-        }
-    return std::nullopt;
-}
-
 batch_materials::shown_picture batch_materials::load(const std::string& path) {
-    const auto bytes = bytes_of_picture(path);
-    const auto picture = bytes ? picture_for_glb(*bytes) : std::optional<embedded_picture>();
+    const auto bytes = read_batch_picture(folder, path);
+    std::optional<embedded_picture> picture;
+    if (bytes)
+        picture = picture_for_glb({reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()});
     if (!picture) {
         note((bytes ? "this is no picture that can be shown: " : "there is no picture ") + path);
         return {};
     }
     ++embedded;
-    return {add_texture(writer, *picture, platform::utf8_from_own(without_folder(path))), picture->covers};
+    return {add_texture(writer, *picture, platform::utf8_from_own(last_component(path))), picture->covers};
 }
 
 void batch_materials::find_picture(slot& of) {

@@ -59,7 +59,6 @@ private:
     void note(std::string text);
     void find_picture(slot& of);
     shown_picture load(const std::string& path);
-    std::optional<std::vector<std::uint8_t>> bytes_of_picture(const std::string& path) const;
 
     std::string folder;
     gltf::glb_writer& writer;

@@ -2,6 +2,7 @@
 
 #include "image/decode_picture.h"
 #include "platform/platform.h"
+#include "tools/batch_reading/batch_pictures.h"
 #include "tools/batch_reading/material_reader.h"
 
 #include <charconv>
@@ -28,16 +29,6 @@ color shaded(const color& paint, const stream_triangle& found, bool front) {
     return {paint.red * light, paint.green * light, paint.blue * light};
 }
 
-// A picture of a batch that was moved lies in the batch's own folders, under the last part of its old name.
-std::optional<std::vector<std::byte>> read_picture(const std::string& batch_folder, const std::string& path) {
-    const std::size_t separator = path.find_last_of("/\\");
-    const std::string name = separator == std::string::npos ? path : path.substr(separator + 1);
-    for (const char* const inside : {"/Batch_SketchUp_Textures/", "/ZynBatch_Images/"})
-        if (auto bytes = platform::read_file(batch_folder + inside + name, most_bytes))
-            return bytes;
-    return platform::read_file(path, most_bytes);
-}
-
 } // namespace
 
 stream_painter::stream_painter(std::string batch_folder, rasterizer& into)
@@ -46,7 +37,7 @@ stream_painter::stream_painter(std::string batch_folder, rasterizer& into)
 const image::picture* stream_painter::picture_of(const std::string& path) {
     const auto [entry, is_new] = pictures.try_emplace(path);
     if (is_new) {
-        if (const auto bytes = read_picture(folder, path))
+        if (const auto bytes = read_batch_picture(folder, path))
             entry->second =
                 image::decode_picture({reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()});
         if (!entry->second)
