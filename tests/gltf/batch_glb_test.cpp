@@ -312,6 +312,32 @@ TEST(BatchGlb, places_plants_outside_objects_and_section_planes) {
     EXPECT_EQ(glb.node("section plane 1")["extras"], json({{"section_plane", true}, {"name", "section plane 1"}}));
 }
 
+TEST(BatchGlb, leaves_out_what_has_a_name_beyond_the_room_for_names_and_says_so) {
+    batch made("PLLB;" + std::string(33554433, 'a') + "\r\nPLNM;Oak\r\nPLNT;1\r\nPLNT;1\r\n" +
+               "PLLB;Trees\r\nPLNM;Ash\r\nPLNT;1\r\n");
+    const read_glb glb = made.convert();
+    EXPECT_TRUE(glb.node("Oak").is_null());
+    EXPECT_FALSE(glb.node("Ash").is_null());
+    EXPECT_EQ(glb.extras()["counts"]["plants"], 1);
+    EXPECT_EQ(made.result.notes,
+              (std::vector<std::string>{"left out of what the stream declares and places: 2; there is room for 1048576 "
+                                        "records with 33554432 bytes of names"}));
+}
+
+TEST(BatchGlb, means_by_a_number_the_material_that_was_declared_last) {
+    const std::string block = "MESH;\r\nTLAY;a\r\nCULL;1\r\nMATL;10\r\n" + square() + "FACE;0,1,2\r\nEMSH;\r\n";
+    batch made(declaration("Red", 10) + block + declaration("Blue", 10) + block + declaration("Blue", 10) + block);
+    made.material("Red", "Color: 255\r\n");
+    made.material("Blue", "Color: 16711680\r\n");
+    const read_glb glb = made.convert();
+    const json parts = glb.mesh_of("a")["primitives"];
+    ASSERT_EQ(parts.size(), 2U);
+    EXPECT_EQ(glb.material_of(parts[0])["extras"]["name"], "Red.OrnMaterial");
+    EXPECT_EQ(glb.material_of(parts[1])["extras"]["name"], "Blue.OrnMaterial");
+    EXPECT_EQ(glb.indices(parts[1]).size(), 6U);
+    EXPECT_EQ(glb.extras()["counts"]["materials"], 2);
+}
+
 TEST(BatchGlb, sees_through_the_view_in_whichever_unit_shows_the_model) {
     const std::string stream =
         "MESH;\r\nTLAY;a\r\nCULL;0\r\nMATL;0\r\nMAT2;0\r\n" + square() + "FACE;0,1,2\r\nEMSH;\r\n";

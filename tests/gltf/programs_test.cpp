@@ -69,6 +69,18 @@ TEST(GlbPrograms, end_with_3_and_leave_nothing_if_the_file_cannot_be_written) {
     EXPECT_FALSE(folder.has("taken.glb.part"));
 }
 
+TEST(GlbPrograms, keep_a_material_once_however_often_it_is_declared) {
+    const temporary_folder folder;
+    std::string stream = "#;\r\nMATF;a.OrnMaterial\r\n";
+    for (int number = 10; number < 1010; ++number)
+        stream += "MATI;" + std::to_string(number) + "\r\n";
+    folder.write("batch/batch_file.txt", stream + "END;\r\n");
+    folder.write("batch/ZynBatch_Materials/a.qlobj", "Matl: a\r\nDisp: " + std::string(1000000, 'a') + "\r\n");
+    const program_result seen = run("batch-to-glb", {folder / "batch", folder / "a.glb"});
+    EXPECT_EQ(seen.status, 0) << seen.errors;
+    EXPECT_LT(seen.most_bytes, 300000000U); // a thousand times that name are a thousand million
+}
+
 TEST(GlbPrograms, keep_hidden_things_and_attributes_when_told_so) {
     const temporary_folder folder;
     sketchup::model_builder builder;

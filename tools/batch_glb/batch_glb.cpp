@@ -86,6 +86,8 @@ std::vector<std::string> notes_of(const stream_reading& reading, batch_scene& sc
     if (scene.counts().triangles_left_out > 0)
         notes.push_back(std::to_string(scene.counts().triangles_left_out) +
                         " triangles have corners that do not exist, or that lie nowhere");
+    if (const std::string left_out = scene.left_out(); !left_out.empty())
+        notes.push_back(left_out);
     return notes;
 }
 

@@ -20,20 +20,21 @@ material_look plain(std::string name, std::uint32_t blue_green_red) {
 
 } // namespace
 
-batch_materials::batch_materials(std::string batch_folder, gltf::glb_writer& to)
-    : folder(std::move(batch_folder)), writer(to) {
-    slots.push_back({.number = none, .look = plain("no material", 0xffffff), .picture_known = true, .texture = {}});
-    slots.push_back({.number = of_edges, .look = plain("edges", 0x202020), .picture_known = true, .texture = {}});
+batch_materials::batch_materials(std::string batch_folder, gltf::glb_writer& to, kept_records& kept)
+    : folder(std::move(batch_folder)), writer(to), room(kept) {
+    looks.push_back({.look = plain("no material", 0xffffff), .picture_known = true, .shown = {}});
+    looks.push_back({.look = plain("edges", 0x202020), .picture_known = true, .shown = {}});
+    slots = {{.number = none, .look = 0}, {.number = of_edges, .look = 1}};
     by_number[of_edges] = slot_of_edges;
 }
 
-void batch_materials::note(std::string text) {
+void batch_materials::note(const std::string& text) {
+    constexpr std::size_t longest_note = 1024; // names in a batch may be of any length
     if (said.size() < most_notes)
-        said.push_back(std::move(text));
+        said.push_back(text.substr(0, longest_note));
 }
 
-void batch_materials::declare(int number, std::string_view name) {
-    slot declared{.number = number, .look = {}, .texture = {}};
+batch_materials::file_look batch_materials::read_look(std::string_view name) {
     const std::string path = folder + platform::path_separator + "ZynBatch_Materials" + platform::path_separator +
                              file_of_material(name);
     const auto bytes = platform::read_file(path, most_bytes_of_a_file);
@@ -42,9 +43,37 @@ void batch_materials::declare(int number, std::string_view name) {
         look = read_material_look({reinterpret_cast<const char*>(bytes->data()), bytes->size()});
     if (!look)
         note("there is no material file " + path);
-    declared.look = look ? *std::move(look) : plain(std::string(name), 0xffffff);
+    return {.look = look ? *std::move(look) : plain(std::string(name), 0xffffff), .shown = {}};
+}
+
+// Nothing if there is no room for another one.
+std::optional<std::size_t> batch_materials::look_of(std::string_view name) {
+    const auto known = look_by_name.find(std::string(name));
+    if (known != look_by_name.end())
+        return known->second;
+    if (!room.keep(name.size()))
+        return std::nullopt;
+    file_look found = read_look(name);
+    const material_look& look = found.look;
+    if (!room.keep(look.basics.name.size() + look.basics.image_path.size() + look.display_name.size() +
+                   look.type.size()))
+        return std::nullopt;
+    look_by_name.emplace(name, looks.size());
+    looks.push_back(std::move(found));
+    return looks.size() - 1;
+}
+
+void batch_materials::declare(int number, std::string_view name) {
+    const std::optional<std::size_t> look = look_of(name);
+    const auto known = by_number.find(number);
+    if (look && known != by_number.end() && slots[known->second].look == *look)
+        return;
+    if (!look || !room.keep(0)) {
+        by_number.erase(number);
+        return;
+    }
     by_number[number] = slots.size();
-    slots.push_back(std::move(declared));
+    slots.push_back({.number = number, .look = *look});
 }
 
 std::size_t batch_materials::slot_of(int number) const {
@@ -65,7 +94,7 @@ batch_materials::shown_picture batch_materials::load(const std::string& path) {
     return {add_texture(writer, *picture, platform::utf8_from_own(last_component(path))), picture->covers};
 }
 
-void batch_materials::find_picture(slot& of) {
+void batch_materials::find_picture(file_look& of) {
     of.picture_known = true;
     const std::string& path = of.look.basics.image_path;
     if (path.empty())
@@ -73,15 +102,14 @@ void batch_materials::find_picture(slot& of) {
     const auto [entry, is_new] = by_path.try_emplace(path);
     if (is_new)
         entry->second = load(path);
-    of.texture = entry->second.texture;
-    of.covers = entry->second.covers;
+    of.shown = entry->second;
 }
 
 bool batch_materials::has_picture(std::size_t at) {
-    slot& asked = slots[at];
+    file_look& asked = look_at(at);
     if (!asked.picture_known)
         find_picture(asked);
-    return asked.texture.has_value();
+    return asked.shown.texture.has_value();
 }
 
 std::size_t batch_materials::material_of(std::size_t at, bool two_sided, bool with_picture) {
@@ -89,23 +117,25 @@ std::size_t batch_materials::material_of(std::size_t at, bool two_sided, bool wi
     const auto [entry, is_new] = made.try_emplace({at, which});
     if (!is_new)
         return entry->second;
-    const slot& from = slots[at];
-    gltf::json material = material_json(from.look, writer);
-    material["name"] = platform::utf8_from_own(from.look.display_name);
-    material["extras"] = {{"material_number", from.number}, {"name", platform::utf8_from_own(from.look.basics.name)}};
+    const file_look& from = look_at(at);
+    const material_look& look = from.look;
+    const shown_picture& shown = from.shown;
+    gltf::json material = material_json(look, writer);
+    material["name"] = platform::utf8_from_own(look.display_name);
+    material["extras"] = {{"material_number", slots[at].number}, {"name", platform::utf8_from_own(look.basics.name)}};
     if (two_sided)
         material["doubleSided"] = true;
-    if (with_picture && from.texture) {
+    if (with_picture && shown.texture) {
         gltf::json& base = material["pbrMetallicRoughness"];
         // The picture has the colour already; what shows through stays.
         base["baseColorFactor"] = {1, 1, 1, base["baseColorFactor"][3]};
-        base["baseColorTexture"] = {{"index", *from.texture}};
+        base["baseColorTexture"] = {{"index", *shown.texture}};
         if (material.contains("emissiveFactor")) {
             material["emissiveFactor"] = {1, 1, 1};
-            material["emissiveTexture"] = {{"index", *from.texture}};
+            material["emissiveTexture"] = {{"index", *shown.texture}};
         }
         if (!material.contains("alphaMode") && !material.contains("extensions"))
-            set_coverage(material, from.covers);
+            set_coverage(material, shown.covers);
     }
     entry->second = writer.add(gltf::list::materials, material);
     return entry->second;

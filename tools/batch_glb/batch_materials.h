@@ -3,6 +3,7 @@
 // The materials that a stream declares, and what becomes of them in a GLB.
 
 #include "tools/batch_glb/material_look.h"
+#include "tools/batch_reading/kept_records.h"
 #include "tools/glb_pictures/embedded_picture.h"
 
 #include <cstdint>
@@ -18,9 +19,11 @@ public:
     static constexpr int none = 0;
     static constexpr int of_edges = 1;
 
-    batch_materials(std::string batch_folder, gltf::glb_writer& to);
+    // kept: counts what is declared; it outlives this.
+    batch_materials(std::string batch_folder, gltf::glb_writer& to, kept_records& kept);
 
-    // "MATI;": from now on the number means the material of that file name. Its file is read; without one it is white.
+    // "MATI;": from now on the number means the material of that file name. Its file is read once; without one it is
+    // white. Where there is no room for more the number means none.
     void declare(int number, std::string_view name);
 
     // Where the material stands that a number means now; the same for all numbers that mean none.
@@ -44,24 +47,33 @@ private:
     static constexpr std::size_t first_declared = 2;
     static constexpr std::size_t most_notes = 20;
 
-    struct slot {
-        int number = 0;
-        material_look look;
-        bool picture_known = false;
-        std::optional<std::size_t> texture;
-        coverage covers = coverage::opaque;
-    };
     struct shown_picture {
         std::optional<std::size_t> texture;
         coverage covers = coverage::opaque;
     };
+    // A material file, and what came of its picture.
+    struct file_look {
+        material_look look;
+        bool picture_known = false;
+        shown_picture shown;
+    };
+    struct slot {
+        int number = 0;
+        std::size_t look = 0; // among the looks
+    };
 
-    void note(std::string text);
-    void find_picture(slot& of);
+    void note(const std::string& text);
+    file_look read_look(std::string_view name);
+    std::optional<std::size_t> look_of(std::string_view name);
+    file_look& look_at(std::size_t slot_number) { return looks[slots[slot_number].look]; }
+    void find_picture(file_look& of);
     shown_picture load(const std::string& path);
 
     std::string folder;
     gltf::glb_writer& writer;
+    kept_records& room;
+    std::vector<file_look> looks;
+    std::unordered_map<std::string, std::size_t> look_by_name;
     std::vector<slot> slots;
     std::unordered_map<int, std::size_t> by_number;
     std::unordered_map<std::string, shown_picture> by_path;

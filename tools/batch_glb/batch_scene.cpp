@@ -36,7 +36,7 @@ gltf::float3 normal_of(const gltf::float3& a, const gltf::float3& b, const gltf:
 } // namespace
 
 batch_scene::batch_scene(std::string batch_folder, gltf::glb_writer& to)
-    : writer(to), known(std::move(batch_folder), to), edges(to.spool(), false, false) {}
+    : writer(to), known(std::move(batch_folder), to, room), placed(room), edges(to.spool(), false, false) {}
 
 void batch_scene::block_begins() {
     ++found.blocks;
@@ -194,7 +194,7 @@ void batch_scene::record(std::string_view tag, std::string_view payload) {
 void batch_scene::set_state(std::string_view tag, std::string_view payload) {
     if (tag == "TLAY") {
         state.layer = payload;
-        if (lamp != nullptr && lamp->second.layer.empty())
+        if (lamp != nullptr && lamp->second.layer.empty() && !state.layer.empty() && room.keep(state.layer.size()))
             lamp->second.layer = state.layer;
     } else if (tag == "CULL")
         state.one_sided = payload == "1";
@@ -213,7 +213,8 @@ void batch_scene::begin_lamp(std::string_view payload) {
     const auto number = read_integer(payload);
     if (!number)
         return;
-    lamp = &*lamps_by_number.try_emplace(*number).first;
+    const bool is_known = lamps_by_number.contains(*number);
+    lamp = is_known || room.keep(0) ? &*lamps_by_number.try_emplace(*number).first : nullptr;
     current = {};
 }
 

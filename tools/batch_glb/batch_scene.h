@@ -51,6 +51,8 @@ public:
     batch_materials& materials() { return known; }
     const std::vector<std::string>& layers() const { return layer_names; }
     bool has_too_many_parts() const { return too_many; }
+    // What was left out because there was no room for it, in words; empty if nothing was.
+    std::string left_out() const { return room.note(); }
 
 private:
     // Triangles of one layer and one look.
@@ -95,6 +97,7 @@ private:
     std::size_t add_edges_node();
 
     gltf::glb_writer& writer;
+    kept_records room; // for materials, placed things and lamps
     batch_materials known;
     placed_things placed;
     block_vertices vertices;

@@ -94,9 +94,10 @@ bool placed_things::take_plant(std::string_view tag, std::string_view payload) {
         take_real(payload, plant.turn_degrees);
     else if (tag == "PLSC")
         take_real(payload, plant.scale);
-    else if (tag == "PLNT")
-        plants.push_back(plant);
-    else
+    else if (tag == "PLNT") {
+        if (room.keep(plant.library.size() + plant.name.size()))
+            plants.push_back(plant);
+    } else
         return false;
     return true;
 }
@@ -124,7 +125,8 @@ bool placed_things::take_object(std::string_view tag, std::string_view payload) 
         object.layer = payload;
     else if (tag == "RPCN") {
         object.type = payload;
-        objects.push_back(object);
+        if (room.keep(object.type.size() + object.layer.size()))
+            objects.push_back(object);
     } else
         return false;
     return true;
@@ -132,13 +134,14 @@ bool placed_things::take_object(std::string_view tag, std::string_view payload) 
 
 bool placed_things::take_plane(std::string_view tag, std::string_view payload) {
     if (tag == "CLPN") {
-        planes.emplace_back();
-        take_point(payload, planes.back().normal);
+        has_plane = room.keep(0);
+        if (has_plane)
+            take_point(payload, planes.emplace_back().normal);
         return true;
     }
     if (tag != "CLPP")
         return false;
-    if (!planes.empty())
+    if (has_plane)
         take_point(payload, planes.back().point_metres);
     return true;
 }

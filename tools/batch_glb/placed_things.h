@@ -2,6 +2,7 @@
 
 // What a stream places by single records: plants, outside objects, section planes.
 
+#include "tools/batch_reading/kept_records.h"
 #include "tools/gltf/node_placement.h"
 
 #include <optional>
@@ -32,6 +33,9 @@ struct cutting_plane {
 
 class placed_things {
 public:
+    // kept: counts what is placed; it outlives this. Where there is no room for more, things are left out.
+    explicit placed_things(kept_records& kept) : room(kept) {}
+
     // False for a record of another kind. A number that does not parse leaves what was there.
     bool take(std::string_view tag, std::string_view payload);
 
@@ -44,8 +48,10 @@ private:
     bool take_object(std::string_view tag, std::string_view payload);
     bool take_plane(std::string_view tag, std::string_view payload);
 
+    kept_records& room;
     placed_plant plant;
     outside_object object;
+    bool has_plane = false; // the last one that came was kept
 };
 
 // Nodes for all of them, with their sizes.
