@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
     stream_painter with(folder_of(argv[2]), picture);
     read_stream({reinterpret_cast<const char*>(bytes->data()), bytes->size()}, with);
     with.finish();
-    for (const std::string& name : with.missing())
-        std::fprintf(stderr, "draw_stream: cannot read %s\n", name.c_str());
+    for (const std::string& note : with.notes())
+        std::fprintf(stderr, "draw_stream: %s\n", note.c_str());
     return picture.write_png(argv[3]) ? 0 : 1;
 }

@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 program_result run(const std::string& program, const std::vector<std::string>& arguments) {
@@ -45,6 +47,27 @@ TEST(BatchView, pictures_of_a_batch_that_was_moved_are_found_in_it) {
     const program_result seen = run("batch-view", {batch, "--png", folder / "a.png", "--size", "30x20"});
     EXPECT_EQ(seen.status, 0);
     EXPECT_EQ(seen.errors, "");
+}
+
+TEST(BatchView, a_file_that_is_missing_is_told_of_once_however_often_it_is_asked_for) {
+    const temporary_folder folder;
+    std::string stream = "#;\r\nMATF;a.OrnMaterial\r\n";
+    for (int number = 10; number < 40; ++number)
+        stream += "MATI;" + std::to_string(number) + "\r\n";
+    folder.write("batch/batch_file.txt", stream + "END;\r\n");
+    const program_result seen = run("batch-view", {folder / "batch", "--png", folder / "a.png", "--size", "8x8"});
+    EXPECT_EQ(seen.status, 0);
+    EXPECT_THAT(seen.errors, testing::MatchesRegex("batch-view: cannot read [^\n]*a\\.qlobj\n"));
+}
+
+TEST(BatchView, of_files_that_are_missing_twenty_are_told_of) {
+    const temporary_folder folder;
+    std::string stream = "#;\r\n";
+    for (int number = 10; number < 40; ++number)
+        stream += "MATF;m" + std::to_string(number) + "\r\nMATI;" + std::to_string(number) + "\r\n";
+    folder.write("batch/batch_file.txt", stream + "END;\r\n");
+    const program_result seen = run("batch-view", {folder / "batch", "--png", folder / "a.png", "--size", "8x8"});
+    EXPECT_EQ(std::count(seen.errors.begin(), seen.errors.end(), '\n'), 20) << seen.errors;
 }
 
 TEST(SkpView, a_picture_without_background_is_clear_at_its_corner) {

@@ -90,7 +90,7 @@ drawn_batch draw_batch(const view_options& options) {
     stream_painter painter(options.input, picture);
     read_stream(text_of(*bytes), painter);
     painter.finish();
-    result.missing = painter.missing();
+    result.notes = painter.notes();
     result.failure = put_in_place(picture, options.picture_file);
     return result;
 }

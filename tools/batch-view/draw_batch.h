@@ -14,8 +14,8 @@ std::optional<view> start_of_batch(const std::string& batch_folder);
 
 struct drawn_batch {
     bool is_batch = false;
-    std::string failure;              // in words; empty if the picture was written
-    std::vector<std::string> missing; // files of materials and pictures that cannot be read
+    std::string failure;            // in words; empty if the picture was written
+    std::vector<std::string> notes; // what of the batch could not be shown, a line each
 };
 
 // Draws the batch into the picture file of the options, from its view, or all of it from a corner.

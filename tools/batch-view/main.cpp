@@ -55,8 +55,8 @@ ended make_page(const view_options& options) {
 
 ended make_picture(const view_options& options) {
     const drawn_batch drawn = draw_batch(options);
-    for (const std::string& name : drawn.missing)
-        say("cannot read " + name);
+    for (const std::string& note : drawn.notes)
+        say(note);
     return {drawn.is_batch ? (drawn.failure.empty() ? 0 : 3) : 1, drawn.failure};
 }
 

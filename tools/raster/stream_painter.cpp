@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::uint64_t most_bytes = std::uint64_t{1} << 30U; // of a material file or a picture
+constexpr std::uint64_t most_bytes = std::uint64_t{1} << 20U; // of a material file; real ones have two thousand
 constexpr color front_of_nothing = {1, 1, 1};                 // a side without a material
 constexpr color back_of_nothing = {0.72, 0.76, 0.88};
 
@@ -41,19 +41,25 @@ const image::picture* stream_painter::picture_of(const std::string& path) {
             entry->second =
                 image::decode_picture({reinterpret_cast<const std::uint8_t*>(bytes->data()), bytes->size()});
         if (!entry->second)
-            missing_files.push_back(path);
+            note_missing(path);
     }
     return entry->second ? &*entry->second : nullptr;
 }
 
-stream_painter::paint stream_painter::declared(const std::string& material_name) {
+void stream_painter::note_missing(const std::string& path) {
+    constexpr std::size_t longest_name = 1024; // names in a batch may be of any length
+    if (missing_files.size() < most_missing)
+        missing_files.push_back(path.substr(0, longest_name));
+}
+
+stream_painter::paint stream_painter::read_paint(const std::string& material_name) {
     paint result;
     const std::string path = folder + "/ZynBatch_Materials/" + file_of_material(material_name);
     const auto bytes = platform::read_file(path, most_bytes);
     const auto material = bytes ? read_material_file({reinterpret_cast<const char*>(bytes->data()), bytes->size()})
                                 : std::optional<read_material>();
     if (!material) {
-        missing_files.push_back(path);
+        note_missing(path);
         return result;
     }
     result.plain = color_from(material->color);
@@ -70,7 +76,27 @@ void stream_painter::record(std::string_view tag, std::string_view payload) {
         return;
     int number = 0;
     std::from_chars(payload.data(), payload.data() + payload.size(), number);
-    paints[number] = declared(last_name);
+    declare(number);
+}
+
+// Where there is no room for more the number means no material.
+void stream_painter::declare(int number) {
+    auto known = paints_by_name.find(last_name);
+    if (known == paints_by_name.end() && room.keep(last_name.size()))
+        known = paints_by_name.emplace(last_name, read_paint(last_name)).first;
+    if (known != paints_by_name.end() && (paints.contains(number) || room.keep(0)))
+        paints[number] = known->second;
+    else
+        paints.erase(number);
+}
+
+std::vector<std::string> stream_painter::notes() const {
+    std::vector<std::string> all;
+    for (const std::string& name : missing_files)
+        all.push_back("cannot read " + name);
+    if (!room.note().empty())
+        all.push_back(room.note());
+    return all;
 }
 
 stream_painter::paint stream_painter::paint_of(const stream_triangle& found, bool front) const {
@@ -103,6 +129,9 @@ void stream_painter::triangle(const stream_triangle& found) {
         clear.push_back(t);
     else
         draw(t);
+    // A stream that is clear throughout would else stand in memory many times as large as it is.
+    if (clear.size() >= most_waiting)
+        finish();
 }
 
 void stream_painter::draw(const clear_triangle& t) {

@@ -4,6 +4,7 @@
 // plain colours lightly shaded by the vertex normals.
 
 #include "image/picture.h"
+#include "tools/batch_reading/kept_records.h"
 #include "tools/batch_reading/stream_reader.h"
 #include "tools/raster/rasterizer.h"
 
@@ -21,10 +22,14 @@ public:
     void triangle(const stream_triangle& found) override;
     // Draws what is not opaque, which has waited until all else stands.
     void finish();
-    // Files of materials and pictures that cannot be read, in the order in which they were looked for.
-    const std::vector<std::string>& missing() const { return missing_files; }
+    // What could not be shown, in words, a line each: at most twenty files of materials and pictures that cannot be
+    // read, each once, in the order in which they were looked for, and how many materials found no room.
+    std::vector<std::string> notes() const;
 
 private:
+    static constexpr std::size_t most_missing = 20;
+    static constexpr std::size_t most_waiting = std::size_t{1} << 20U; // triangles
+
     struct paint {
         color plain = {1, 1, 1};
         const image::picture* picture = nullptr;
@@ -35,7 +40,9 @@ private:
         std::array<picture_point, 3> points;
         paint with;
     };
-    paint declared(const std::string& material_name);
+    void declare(int number);
+    void note_missing(const std::string& path);
+    paint read_paint(const std::string& material_name);
     const image::picture* picture_of(const std::string& path);
     paint paint_of(const stream_triangle& found, bool front) const;
     void draw(const clear_triangle& t);
@@ -43,7 +50,9 @@ private:
     std::string folder;
     rasterizer& picture;
     std::string last_name;                                         // of "MATF;"
+    kept_records room;                                             // for materials and their numbers
     std::map<int, paint> paints;                                   // by material number
+    std::map<std::string, paint> paints_by_name;                   // of material files that have been read
     std::map<std::string, std::optional<image::picture>> pictures; // by full name
     std::vector<clear_triangle> clear;
     std::vector<std::string> missing_files;
