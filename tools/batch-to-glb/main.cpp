@@ -2,6 +2,7 @@
 
 #include "tools/batch_glb/batch_glb.h"
 #include "tools/command_line/answers.h"
+#include "tools/command_line/within_memory.h"
 
 #include <cstdio>
 #include <string>
@@ -27,6 +28,15 @@ int status_of(batch_glb_outcome outcome) {
     return 3;
 }
 
+int convert(const std::string& batch_folder, const std::string& glb_file) {
+    const batch_glb_result result = write_batch_glb(batch_folder, glb_file);
+    for (const std::string& note : result.notes)
+        std::fprintf(stderr, "batch-to-glb: %s\n", note.c_str());
+    if (!result.failure.empty())
+        std::fprintf(stderr, "batch-to-glb: %s\n", result.failure.c_str());
+    return status_of(result.outcome);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -34,10 +44,5 @@ int main(int argc, char** argv) {
         return *status;
     if (argc != 3)
         return refuse_command_line(usage);
-    const batch_glb_result result = write_batch_glb(argv[1], argv[2]);
-    for (const std::string& note : result.notes)
-        std::fprintf(stderr, "batch-to-glb: %s\n", note.c_str());
-    if (!result.failure.empty())
-        std::fprintf(stderr, "batch-to-glb: %s\n", result.failure.c_str());
-    return status_of(result.outcome);
+    return within_memory("batch-to-glb", [argv] { return convert(argv[1], argv[2]); });
 }

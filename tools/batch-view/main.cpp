@@ -6,6 +6,7 @@
 #include "tools/batch-view/draw_batch.h"
 #include "tools/batch_glb/batch_glb.h"
 #include "tools/command_line/answers.h"
+#include "tools/command_line/within_memory.h"
 #include "tools/page/view_options.h"
 #include "tools/page/write_page.h"
 
@@ -60,6 +61,17 @@ ended make_picture(const view_options& options) {
     return {drawn.is_batch ? (drawn.failure.empty() ? 0 : 3) : 1, drawn.failure};
 }
 
+int show(const view_options& options) {
+    ended end;
+    if (!options.page_file.empty())
+        end = make_page(options);
+    if (end.status == 0 && !options.picture_file.empty())
+        end = make_picture(options);
+    if (end.status != 0)
+        say(end.failure);
+    return end.status;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -68,12 +80,5 @@ int main(int argc, char** argv) {
     const auto options = read_view_options(argc, argv);
     if (!options)
         return refuse_command_line(usage);
-    ended end;
-    if (!options->page_file.empty())
-        end = make_page(*options);
-    if (end.status == 0 && !options->picture_file.empty())
-        end = make_picture(*options);
-    if (end.status != 0)
-        say(end.failure);
-    return end.status;
+    return within_memory("batch-view", [&options] { return show(*options); });
 }

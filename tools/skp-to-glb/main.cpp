@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "text/path_end.h"
 #include "tools/command_line/answers.h"
+#include "tools/command_line/within_memory.h"
 #include "tools/model_opening/opened_model.h"
 #include "tools/skp_glb/skp_glb.h"
 
@@ -56,7 +57,7 @@ int main(int argc, char** argv) {
     if (files.size() != 2)
         return refuse_command_line(usage);
     SUInitialize();
-    const int status = convert(files[0], files[1], options);
+    const int status = within_memory("skp-to-glb", [&] { return convert(files[0], files[1], options); });
     SUTerminate();
     return status;
 }

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "text/path_end.h"
 #include "tools/command_line/answers.h"
+#include "tools/command_line/within_memory.h"
 #include "tools/model_opening/opened_model.h"
 #include "tools/page/draw_into_place.h"
 #include "tools/page/view_options.h"
@@ -97,7 +98,7 @@ int main(int argc, char** argv) {
     if (!options)
         return refuse_command_line(usage);
     SUInitialize();
-    const int status = show(*options);
+    const int status = within_memory("skp-view", [&options] { return show(*options); });
     SUTerminate();
     return status;
 }
