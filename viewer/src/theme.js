@@ -1,15 +1,18 @@
 // Light and dark: as the system wants it until somebody chooses.
 
+const system = window.matchMedia('(prefers-color-scheme: dark)');
+
+function followSystem() {
+  document.documentElement.dataset.theme = system.matches ? 'dark' : 'light';
+}
+
 export function followTheme() {
-  const system = window.matchMedia('(prefers-color-scheme: dark)');
-  const set = () => {
-    document.documentElement.dataset.theme = system.matches ? 'dark' : 'light';
-  };
-  set();
-  system.addEventListener('change', set);
+  followSystem();
+  system.addEventListener('change', followSystem);
 }
 
 export function switchTheme() {
+  system.removeEventListener('change', followSystem);
   const { dataset } = document.documentElement;
   dataset.theme = dataset.theme === 'dark' ? 'light' : 'dark';
 }

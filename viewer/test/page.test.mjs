@@ -266,8 +266,13 @@ test('light and dark follow the system until somebody chooses', async () => {
   const { page } = await openPage(example('room').page, 900, 600, { colorScheme: 'dark' });
   const theme = () => page.evaluate(() => document.documentElement.dataset.theme);
   assert.equal(await theme(), 'dark');
-  await page.getByRole('button', { name: 'Theme' }).click();
+  await page.emulateMedia({ colorScheme: 'light' });
   assert.equal(await theme(), 'light');
+  await page.getByRole('button', { name: 'Theme' }).click();
+  assert.equal(await theme(), 'dark');
+  await page.emulateMedia({ colorScheme: 'dark' });
+  await page.emulateMedia({ colorScheme: 'light' });
+  assert.equal(await theme(), 'dark');
   await page.close();
 });
 
