@@ -1,7 +1,7 @@
 // What the page carries: facts about the model, and the GLB as gzip in base64, in pieces.
 
-// The facts that the program wrote beside the model: title, kind ("batch" or "model"), start (a view), glb_bytes, pieces,
-// findings, skipped_findings. Null while the page is still being read.
+// The facts that the program wrote beside the model: title, kind ("batch" or "model"), program, start (a view), glb_bytes,
+// findings, skipped_findings. Null in a page that holds no model.
 export function facts() {
   const element = document.getElementById('facts');
   return element && JSON.parse(element.textContent);

@@ -10,7 +10,7 @@ import { cameraOf, setDepths, viewOfBox } from './views.js';
 const upwards = new Vector3(0, 1, 0);
 
 export class Stage {
-  // canvas: fills its parent. onError: is told in words if the browser cannot draw.
+  // canvas: fills its parent. Throws if the browser cannot draw.
   constructor(canvas) {
     this.canvas = canvas;
     this.renderer = new WebGLRenderer({ canvas, alpha: true, antialias: true, preserveDrawingBuffer: false });
