@@ -23,7 +23,7 @@ export function count(number) {
 // A switch with its words.
 export function switchRow(words, on, onchange, ...more) {
   const box = element('input', { type: 'checkbox', checked: on, onchange: () => onchange(box.checked) });
-  return { row: element('li', { class: 'row' }, element('label', {}, box, element('span', { class: 'name' }, words)), ...more), box };
+  return { row: element('div', { class: 'row' }, element('label', {}, box, element('span', { class: 'name' }, words)), ...more), box };
 }
 
 // A part of the panel that folds.

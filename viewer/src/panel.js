@@ -6,8 +6,8 @@ const rowsBeforeFilter = 12; // a shorter list needs no field to search it
 
 function layerRow(layer, model, switches) {
   const materials = [...layer.materials].sort((a, b) => b[1] - a[1]);
-  const branch = element('ul', { class: 'branch', role: 'group', hidden: true }, ...materials.map(([key, triangles]) =>
-    element('li', { role: 'treeitem' }, `${model.materials.get(key).name} `, element('span', { class: 'count' }, count(triangles)))));
+  const branch = element('ul', { class: 'branch', 'aria-label': `Materials of ${layer.name}`, hidden: true }, ...materials.map(([key, triangles]) =>
+    element('li', {}, `${model.materials.get(key).name} `, element('span', { class: 'count' }, count(triangles)))));
   const opener = button('▸', () => {
     branch.hidden = !branch.hidden;
     opener.textContent = branch.hidden ? '▸' : '▾';
@@ -16,12 +16,12 @@ function layerRow(layer, model, switches) {
   const { row, box } = switchRow(layer.name, layer.on, (on) => switches.setLayer(layer.name, on), element('span', { class: 'count' }, count(layer.triangles)));
   row.prepend(opener);
   layer.box = box;
-  return element('li', { role: 'treeitem', 'data-name': layer.name }, element('ul', { role: 'none' }, row), branch);
+  return element('li', { 'data-name': layer.name }, row, branch);
 }
 
 function layersSection(model, switches) {
   const layers = [...model.layers.values()];
-  const list = element('ul', { role: 'tree', 'aria-label': 'Layers' }, ...layers.map((layer) => layerRow(layer, model, switches)));
+  const list = element('ul', { 'aria-label': 'Layers' }, ...layers.map((layer) => layerRow(layer, model, switches)));
   const all = (on) => {
     switches.setAllLayers(on);
     for (const layer of layers)
@@ -93,9 +93,8 @@ function lampsSection(model, switches, stage) {
     const { row, box } = switchRow(lampWords(lamp), lamp.on, (on) => switches.setLamp(lamp, on), dot,
       button('Go', () => stage.lookAt(lamp.object.getWorldPosition(stage.sphere.center.clone()), stage.sphere.radius / 2),
         { class: 'small', 'aria-label': `Go to ${lampWords(lamp)}` }));
-    row.dataset.name = lampWords(lamp);
     boxes.push(box);
-    return row;
+    return element('li', { 'data-name': lampWords(lamp) }, row);
   }));
   const all = (on) => model.lamps.forEach((lamp, at) => {
     switches.setLamp(lamp, on);
@@ -115,7 +114,7 @@ function sectionsSection(model, switches) {
   if (model.sections.length === 0)
     return null;
   return section('sections', 'Section planes', model.sections.length, false, element('ul', { 'aria-label': 'Section planes' },
-    ...model.sections.map((each) => switchRow(each.name, each.on, (on) => switches.setSection(each, on)).row)));
+    ...model.sections.map((each) => element('li', {}, switchRow(each.name, each.on, (on) => switches.setSection(each, on)).row))));
 }
 
 // Lines of the stream lead to faces; other files have no place in the picture.

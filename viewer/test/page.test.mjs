@@ -262,6 +262,18 @@ test('all can be done with the keys', async () => {
   await page.close();
 });
 
+test('the materials of a layer are a list that a key opens', async () => {
+  const { page } = await openPage(example('room').page, 900, 600);
+  assert.equal(await page.locator('[role=tree], [role=treeitem]').count(), 0); // those would have to heed the arrows
+  const materials = page.getByRole('list', { name: 'Materials of Walls' });
+  assert.equal(await materials.isVisible(), false);
+  await page.getByRole('button', { name: 'Materials of Walls' }).focus();
+  await page.keyboard.press('Enter');
+  assert.ok(await materials.isVisible());
+  assert.ok(await materials.getByRole('listitem').count() > 0);
+  await page.close();
+});
+
 test('light and dark follow the system until somebody chooses', async () => {
   const { page } = await openPage(example('room').page, 900, 600, { colorScheme: 'dark' });
   const theme = () => page.evaluate(() => document.documentElement.dataset.theme);
