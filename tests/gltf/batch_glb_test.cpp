@@ -168,6 +168,29 @@ TEST(BatchGlb, embeds_a_jpeg_as_it_is_and_a_bmp_as_png) {
     }
 }
 
+TEST(BatchGlb, drops_a_picture_that_is_damaged_and_says_so) {
+    batch made(declaration("Oak", 10) + "MESH;\r\nTLAY;a\r\nCULL;1\r\nMPUV;1\r\nMATL;10\r\n" + square(true) +
+               "FACE;0,1,2\r\nEMSH;\r\n");
+    made.material("Oak", "Color: 255\r\nImage_Path: oak.PNG\r\n");
+    made.picture("oak.PNG");
+    std::string bytes = made.folder.read("in/Batch_SketchUp_Textures/oak.PNG");
+    bytes[bytes.find("IDAT") + 6] ^= 1; // the checksum of its pixels is wrong then
+    made.write("Batch_SketchUp_Textures/oak.PNG", bytes);
+    const read_glb glb = made.convert();
+    EXPECT_FALSE(glb.text.contains("images"));
+    EXPECT_EQ(made.result.notes, (std::vector<std::string>{"this is no picture that can be shown: oak.PNG"}));
+}
+
+TEST(BatchGlb, embeds_a_jpeg_that_was_cut_off_as_a_png_of_what_there_is) {
+    batch made(declaration("Oak", 10) + "MESH;\r\nTLAY;a\r\nCULL;1\r\nMPUV;1\r\nMATL;10\r\n" + square(true) +
+               "FACE;0,1,2\r\nEMSH;\r\n");
+    made.material("Oak", "Image_Path: oak.JPG\r\n");
+    made.picture("oak.JPG");
+    const std::string bytes = made.folder.read("in/Batch_SketchUp_Textures/oak.JPG");
+    made.write("Batch_SketchUp_Textures/oak.JPG", bytes.substr(0, bytes.size() - 2)); // without the mark of its end
+    EXPECT_EQ(made.convert().text["images"][0]["mimeType"], "image/png");
+}
+
 TEST(BatchGlb, says_which_picture_is_missing_and_shows_the_colour) {
     batch made(declaration("Oak", 10) + "MESH;\r\nTLAY;a\r\nCULL;1\r\nMPUV;1\r\nMATL;10\r\n" + square(true) +
                "FACE;0,1,2\r\nEMSH;\r\n");

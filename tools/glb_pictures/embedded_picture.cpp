@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -30,6 +31,33 @@ bool is_plain_png(bytes_view file) {
     return false;
 }
 
+// A JPEG that comes to its end: segments, each the byte 255, a name, and a length of 2 bytes that counts itself; behind
+// those that begin pixels, the pixels, in which 255 is followed by 0 or by the name of a restart. Decoders fill up what
+// has been cut off, but each in its own way.
+bool is_whole_jpeg(bytes_view file) {
+    constexpr std::uint8_t end = 0xd9;
+    constexpr std::uint8_t pixels = 0xda;
+    std::size_t at = 2;
+    while (at + 1 < file.size()) {
+        const std::uint8_t name = file[at + 1];
+        const bool is_marker = file[at] == 255 && name != 0 && name != 255 && (name < 0xd0 || name > 0xd7);
+        if (!is_marker) {
+            ++at;
+            continue;
+        }
+        if (name == end)
+            return true;
+        if (name == pixels) {
+            at += 2; // its own segment holds no 255
+            continue;
+        }
+        if (at + 3 >= file.size())
+            return false;
+        at += std::size_t{2} + (std::size_t{file[at + 2]} << 8U | file[at + 3]);
+    }
+    return false;
+}
+
 coverage coverage_of(const image::picture& shown) {
     if (!shown.has_alpha())
         return coverage::opaque;
@@ -46,29 +74,20 @@ coverage coverage_of(const image::picture& shown) {
 } // namespace
 
 std::optional<embedded_picture> picture_for_glb(bytes_view file) {
-    const auto extent = image::picture_size(file);
-    if (!extent || extent->width == 0 || extent->height == 0)
+    const std::optional<image::picture> shown = image::decode_picture(file);
+    if (!shown)
         return std::nullopt;
     embedded_picture result;
     const image::picture_format format = image::format_of_bytes(file);
-    if (format == image::picture_format::jpeg) {
-        result.bytes.assign(file.begin(), file.end());
+    const bool is_jpeg = format == image::picture_format::jpeg && is_whole_jpeg(file);
+    if (is_jpeg)
         result.mime_type = "image/jpeg";
-        return result;
-    }
-    const bool stays = format == image::picture_format::png && is_plain_png(file);
-    if (!stays || extent->bits_per_pixel == 32) {
-        const std::optional<image::picture> shown = image::decode_picture(file);
-        if (shown)
-            result.covers = coverage_of(*shown);
-        if (!stays && shown)
-            result.bytes = image::encode_picture(*shown, image::picture_format::png);
-        if (!stays && result.bytes.empty())
-            return std::nullopt;
-    }
-    if (stays)
+    if (is_jpeg || (format == image::picture_format::png && is_plain_png(file)))
         result.bytes.assign(file.begin(), file.end());
-    return result;
+    else
+        result.bytes = image::encode_picture(*shown, image::picture_format::png);
+    result.covers = coverage_of(*shown);
+    return result.bytes.empty() ? std::nullopt : std::optional(std::move(result));
 }
 
 std::size_t add_texture(gltf::glb_writer& to, const embedded_picture& picture, const std::string& name) {

@@ -23,9 +23,10 @@ struct embedded_picture {
     coverage covers = coverage::opaque;
 };
 
-// A picture file as it goes into a GLB: JPEG as it is; PNG as it is, unless it carries what viewers disagree about
-// (colour profiles, gamma, pixels that are not square, animation); all else as PNG. Nothing for bytes that are no
-// picture, or one of more than image::most_pixels that would have to be written anew.
+// A picture file as it goes into a GLB: JPEG as it is, unless it has been cut off; PNG as it is, unless it carries what
+// viewers disagree about (colour profiles, gamma, pixels that are not square, animation); all else as PNG. Every
+// picture is decoded once, for a viewer has to: nothing for bytes that are none, that are damaged, or that would be
+// more than image::most_pixels.
 std::optional<embedded_picture> picture_for_glb(std::span<const std::uint8_t> file);
 
 // Adds the picture and a texture that shows it; gives the number of the texture. name: for people.
