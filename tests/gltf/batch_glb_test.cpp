@@ -174,7 +174,8 @@ TEST(BatchGlb, drops_a_picture_that_is_damaged_and_says_so) {
     made.material("Oak", "Color: 255\r\nImage_Path: oak.PNG\r\n");
     made.picture("oak.PNG");
     std::string bytes = made.folder.read("in/Batch_SketchUp_Textures/oak.PNG");
-    bytes[bytes.find("IDAT") + 6] ^= 1; // the checksum of its pixels is wrong then
+    char& damaged = bytes.at(bytes.find("IDAT") + 6); // so that the checksum of the pixels is wrong
+    damaged = static_cast<char>(damaged ^ 1);
     made.write("Batch_SketchUp_Textures/oak.PNG", bytes);
     const read_glb glb = made.convert();
     EXPECT_FALSE(glb.text.contains("images"));

@@ -53,6 +53,42 @@ TEST(Rasterizer, a_line_is_as_wide_as_a_pixel_however_many_points_that_has) {
         EXPECT_EQ(picture.row(row)[4 * 2 + 3], row == 1 ? 255 : 0) << row;
 }
 
+// A square of 4x4 points takes 16 and one more, a triangle over all of it too.
+TEST(Rasterizer, what_would_take_too_long_is_left_out_and_it_says_so) {
+    constexpr std::array<vec, 3> whole = {{{-9, -9, 0}, {9, -9, 0}, {0, 9, 0}}};
+    constexpr std::array<vec, 3> nearer = {{{-9, -9, 1}, {9, -9, 1}, {0, 9, 1}}};
+    rasterizer enough(from_above(), 4, 4, 1, color{0, 0, 1}, 34);
+    enough.draw(whole, color{1, 0, 0});
+    enough.draw(nearer, color{0, 1, 0});
+    EXPECT_FALSE(enough.is_cut_short());
+    EXPECT_EQ(enough.drawn().row(1)[3 + 1], 255);
+    rasterizer short_one(from_above(), 4, 4, 1, color{0, 0, 1}, 33);
+    short_one.draw(whole, color{1, 0, 0});
+    short_one.draw(nearer, color{0, 1, 0});
+    EXPECT_TRUE(short_one.is_cut_short());
+    EXPECT_EQ(short_one.drawn().row(1)[3 + 2], 255); // still red
+}
+
+TEST(Rasterizer, what_lies_beside_the_picture_comes_to_an_end_too) {
+    rasterizer drawing(from_above(), 4, 4, 1, color{0, 0, 1}, 2);
+    for (int i = 0; i < 3; ++i)
+        drawing.draw(std::array<vec, 3>{{{99, 99, 0}, {101, 99, 0}, {99, 101, 0}}}, color{1, 0, 0});
+    EXPECT_TRUE(drawing.is_cut_short());
+}
+
+TEST(Rasterizer, a_picture_that_is_hidden_does_not_show_through) {
+    auto blue = image::picture::make({1, 1, 24});
+    ASSERT_TRUE(blue);
+    blue->row(0)[0] = 255;
+    rasterizer drawing(from_above(), 1, 1, 1, color{1, 1, 1});
+    constexpr std::array<picture_point, 3> points = {{{0, 0}, {1, 0}, {0, 1}}};
+    drawing.draw(std::array<vec, 3>{{{-9, -9, 1}, {9, -9, 1}, {0, 9, 1}}}, color{1, 0, 0});
+    drawing.draw(std::array<vec, 3>{{{-9, -9, 0}, {9, -9, 0}, {0, 9, 0}}}, points, *blue);
+    EXPECT_EQ(drawing.drawn().row(0)[0], 0);
+    drawing.draw(std::array<vec, 3>{{{-9, -9, 2}, {9, -9, 2}, {0, 9, 2}}}, points, *blue);
+    EXPECT_EQ(drawing.drawn().row(0)[0], 255);
+}
+
 TEST(ViewOfBox, the_ball_around_the_box_just_fits_the_picture) {
     const view seen = view_of_box({-3, -2, -6}, {3, 2, 6}, 1.5); // half the diagonal is 7
     EXPECT_TRUE(looks_somewhere(seen));

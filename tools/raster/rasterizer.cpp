@@ -62,9 +62,9 @@ std::size_t inside(double value, std::size_t size) {
 } // namespace
 
 rasterizer::rasterizer(const view& from, std::size_t width, std::size_t height, std::size_t samples,
-                       const std::optional<color>& background)
+                       const std::optional<color>& background, std::uint64_t most_work)
     : camera(from), samples_(samples), width_(width * samples), height_(height * samples),
-      depths(width_ * height_, std::numeric_limits<double>::infinity()), is_clear(!background),
+      depths(width_ * height_, std::numeric_limits<double>::infinity()), work_left(most_work), is_clear(!background),
       points(channels * width_ * height_) {
     const color behind = background.value_or(color{0, 0, 0});
     for (std::size_t i = 0; i < points.size(); i += channels) {
@@ -144,26 +144,56 @@ void rasterizer::fill(const std::array<screen_point, 3>& p, const surface& with)
         return;
     const auto [left, rightmost] = std::minmax({p[0].x, p[1].x, p[2].x});
     const auto [top, bottom] = std::minmax({p[0].y, p[1].y, p[2].y});
-    for (std::size_t y = inside(std::floor(top), height_); y < inside(std::ceil(bottom) + 1, height_); ++y)
-        for (std::size_t x = inside(std::floor(left), width_); x < inside(std::ceil(rightmost) + 1, width_); ++x) {
+    const std::size_t first_x = inside(std::floor(left), width_);
+    const std::size_t end_x = inside(std::ceil(rightmost) + 1, width_);
+    const std::size_t first_y = inside(std::floor(top), height_);
+    const std::size_t end_y = inside(std::ceil(bottom) + 1, height_);
+    if (!may_do(static_cast<double>(end_x - first_x) * static_cast<double>(end_y - first_y)))
+        return;
+    for (std::size_t y = first_y; y < end_y; ++y)
+        for (std::size_t x = first_x; x < end_x; ++x) {
             const double cx = static_cast<double>(x) + 0.5;
             const double cy = static_cast<double>(y) + 0.5;
             std::array<double, 3> share = {edge(p[1], p[2], cx, cy) / area, edge(p[2], p[0], cx, cy) / area, 0};
             share[2] = 1 - share[0] - share[1];
-            if (share[0] < 0 || share[1] < 0 || share[2] < 0)
-                continue;
-            double depth = 0;
-            picture_point at{0, 0, 0};
-            for (std::size_t i = 0; i < 3; ++i) {
-                const double weight = camera.perspective ? share[i] / p[i].depth : share[i];
-                depth += camera.perspective ? weight : weight * p[i].depth;
-                at.u += weight * p[i].point.u;
-                at.v += weight * p[i].point.v;
-                at.q += weight * p[i].point.q;
-            }
-            const texel seen = with.picture ? sample(*with.picture, at.u / at.q, at.v / at.q) : texel{with.paint};
-            put(x, y, camera.perspective ? 1 / depth : depth, seen.paint, seen.opacity * with.opacity);
+            if (share[0] >= 0 && share[1] >= 0 && share[2] >= 0)
+                fill_point(p, share, x, y, with);
         }
+}
+
+// The depth comes first: most points of a deep picture are hidden, and need no picture looked up.
+void rasterizer::fill_point(const std::array<screen_point, 3>& p, const std::array<double, 3>& share, std::size_t x,
+                            std::size_t y, const surface& with) {
+    std::array<double, 3> weights = share;
+    double depth = 0;
+    for (std::size_t i = 0; i < 3; ++i) {
+        weights[i] = camera.perspective ? share[i] / p[i].depth : share[i];
+        depth += camera.perspective ? weights[i] : weights[i] * p[i].depth;
+    }
+    depth = camera.perspective ? 1 / depth : depth;
+    if (is_hidden(x, y, depth))
+        return;
+    texel seen{with.paint};
+    if (with.picture) {
+        picture_point at{0, 0, 0};
+        for (std::size_t i = 0; i < 3; ++i) {
+            at.u += weights[i] * p[i].point.u;
+            at.v += weights[i] * p[i].point.v;
+            at.q += weights[i] * p[i].point.q;
+        }
+        seen = sample(*with.picture, at.u / at.q, at.v / at.q);
+    }
+    put(x, y, depth, seen.paint, seen.opacity * with.opacity);
+}
+
+// Whatever is drawn counts for one point at least, so that things beside the picture come to an end too.
+bool rasterizer::may_do(double work) {
+    const double wanted = work + 1;
+    cut_short = cut_short || wanted > static_cast<double>(work_left);
+    if (cut_short)
+        return false;
+    work_left -= static_cast<std::uint64_t>(wanted);
+    return true;
 }
 
 void rasterizer::draw_line(const vec& from, const vec& to, const color& paint) {
@@ -174,6 +204,8 @@ void rasterizer::draw_line(const vec& from, const vec& to, const color& paint) {
     const screen_point b = on_screen(line[1]);
     constexpr double most_steps = 1e5; // a line that runs far beyond the picture is drawn coarsely
     const double steps = std::clamp(std::ceil(std::hypot(b.x - a.x, b.y - a.y)), 1.0, most_steps);
+    if (!may_do(steps * static_cast<double>(samples_ * samples_)))
+        return;
     for (double i = 0; i <= steps; ++i) {
         const double x = between(a.x, b.x, i / steps);
         const double y = between(a.y, b.y, i / steps);
@@ -194,13 +226,16 @@ void rasterizer::put_pixel(std::size_t x, std::size_t y, double depth, const col
             put(at_x, at_y, depth, paint, 1);
 }
 
+bool rasterizer::is_hidden(std::size_t x, std::size_t y, double depth) const {
+    return depth >= depths[y * width_ + x] - same_depth * std::abs(depth);
+}
+
 void rasterizer::put(std::size_t x, std::size_t y, double depth, const color& paint, double opacity) {
     constexpr double least_opacity = 1.0 / 255;
-    double& standing = depths[y * width_ + x];
-    if (opacity < least_opacity || depth >= standing - same_depth * std::abs(depth))
+    if (opacity < least_opacity || is_hidden(x, y, depth))
         return;
     if (opacity > 1 - least_opacity)
-        standing = depth;
+        depths[y * width_ + x] = depth;
     std::uint8_t* point = &points[channels * (y * width_ + x)];
     for (const double channel : {paint.red, paint.green, paint.blue, 1.0}) {
         *point = byte_of(between(*point / 255.0, channel, opacity));

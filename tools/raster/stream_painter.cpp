@@ -96,6 +96,8 @@ std::vector<std::string> stream_painter::notes() const {
         all.push_back("cannot read " + name);
     if (!room.note().empty())
         all.push_back(room.note());
+    if (picture.is_cut_short())
+        all.emplace_back("the picture would take too long: not everything is drawn");
     return all;
 }
 

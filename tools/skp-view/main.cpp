@@ -69,6 +69,8 @@ std::string draw_picture(SUModelRef model, const view_options& options) {
         background = model_painter::option_color(model, "BackgroundColor", {1, 1, 1});
     rasterizer picture(seen, options.width, options.height, samples_for(options), background);
     model_painter(model, texture_source::material, options.picture_file + ".work.png", picture).draw();
+    if (picture.is_cut_short())
+        say("the picture would take too long: not everything is drawn");
     return put_in_place(picture, options.picture_file);
 }
 
