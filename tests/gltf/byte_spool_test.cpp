@@ -68,3 +68,19 @@ TEST(ByteSpool, says_so_if_its_file_cannot_be_made) {
     spool.append(strand, "c");
     EXPECT_TRUE(spool.has_failed());
 }
+
+TEST(ByteSpool, appends_a_strand_to_another_while_either_moves_into_the_file) {
+    for (const std::size_t memory : {std::size_t{1}, std::size_t{7}, std::size_t{9}, std::size_t{100}}) {
+        const temporary_folder folder;
+        gltf::byte_spool spool(folder / "spool", memory);
+        const auto from = spool.begin();
+        const auto to = spool.begin();
+        spool.append(to, "[");
+        for (const char* const part : {"ab", "cde", "f", "ghij"})
+            spool.append(from, part);
+        EXPECT_TRUE(spool.append_strand(to, from, 3)) << memory;
+        spool.append(to, "]");
+        EXPECT_EQ(all_of(spool, to), "[abcdefghij]") << memory;
+        EXPECT_EQ(all_of(spool, from), "abcdefghij") << memory;
+    }
+}

@@ -231,8 +231,8 @@ void batch_scene::end_of_line(std::string_view payload, bool is_second) {
         line_start = end;
 }
 
-// The list of lines may be long, so it goes into the text as it is.
-std::string batch_scene::primitive_text(const part_key& key, part& from) {
+// The list of lines may be as long as the stream, so it goes from strand to strand.
+void batch_scene::add_primitive(const part_key& key, part& from) {
     const std::size_t material = known.material_of(key.slot, key.two_sided, key.with_picture);
     gltf::json primitive = from.data.put(writer, gltf::primitive_mode::triangles);
     primitive["material"] = material;
@@ -241,23 +241,21 @@ std::string batch_scene::primitive_text(const part_key& key, part& from) {
     text += ",\"extras\":{";
     if (key.is_of_lamp)
         text += "\"lamp_number\":" + std::to_string(key.lamp_number) + ",";
-    text += "\"lines\":[";
-    writer.spool().read(from.lines, [&text](std::string_view bytes) {
-        text += bytes;
-        return true;
-    });
-    return text + "]}}";
+    writer.extend(gltf::list::meshes, text + "\"lines\":[");
+    writer.extend(gltf::list::meshes, from.lines);
+    writer.extend(gltf::list::meshes, "]}}");
 }
 
 std::size_t batch_scene::add_layer_node(std::size_t layer, const std::vector<std::pair<part_key, part*>>& parts_of_it) {
     const gltf::json name = platform::utf8_from_own(layer_names[layer]);
-    std::string mesh = "{\"name\":" + gltf::text_of(name) + ",\"primitives\":[";
+    const std::size_t number =
+        writer.add_text(gltf::list::meshes, "{\"name\":" + gltf::text_of(name) + ",\"primitives\":[");
     for (const auto& [key, each] : parts_of_it) {
-        if (mesh.back() == '}')
-            mesh += ',';
-        mesh += primitive_text(key, *each);
+        if (each != parts_of_it.front().second)
+            writer.extend(gltf::list::meshes, ",");
+        add_primitive(key, *each);
     }
-    const std::size_t number = writer.add_text(gltf::list::meshes, mesh + "]}");
+    writer.extend(gltf::list::meshes, "]}");
     return writer.add(gltf::list::nodes,
                       {{"name", name}, {"mesh", number}, {"extras", {{"layer", name}, {"visible", true}}}});
 }

@@ -93,7 +93,7 @@ private:
     std::uint32_t vertex_in(part& to, block_vertex& vertex, const gltf::float3& face_normal);
     void note_line(part& to, std::uint64_t line);
     std::size_t add_layer_node(std::size_t layer, const std::vector<std::pair<part_key, part*>>& parts);
-    std::string primitive_text(const part_key& key, part& from);
+    void add_primitive(const part_key& key, part& from);
     std::size_t add_edges_node();
 
     gltf::glb_writer& writer;

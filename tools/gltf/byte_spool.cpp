@@ -42,6 +42,42 @@ void byte_spool::move_to_file() {
     kept = 0;
 }
 
+bool byte_spool::open_for_reading() {
+    if (is_read)
+        return true;
+    is_read = file.close() && file.open(name, platform::open_mode::read);
+    return is_read;
+}
+
+// Fills the piece with what lies at that place of the strand, or makes it shorter at the end of a segment.
+bool byte_spool::read_piece(strand from, std::uint64_t at, std::string& piece) {
+    const strand_bytes& one = strands[from];
+    for (const segment& part : one.segments) {
+        if (at >= part.size) {
+            at -= part.size;
+            continue;
+        }
+        piece.resize(static_cast<std::size_t>(std::min<std::uint64_t>(piece.size(), part.size - at)));
+        return open_for_reading() && file.seek(part.offset + at) &&
+               file.read(piece.data(), piece.size()) == piece.size();
+    }
+    piece = one.tail.substr(static_cast<std::size_t>(at), piece.size());
+    return true;
+}
+
+// What is appended may move the rest of the other strand into the file, so each piece is looked for anew.
+bool byte_spool::append_strand(strand to, strand from, std::size_t piece) {
+    const std::uint64_t all = size(from);
+    std::string bytes;
+    for (std::uint64_t at = 0; at < all; at += bytes.size()) {
+        bytes.resize(piece);
+        if (!read_piece(from, at, bytes))
+            return false;
+        append(to, bytes);
+    }
+    return true;
+}
+
 bool byte_spool::read_segment(const segment& one, std::string& buffer,
                               const std::function<bool(std::string_view)>& to) {
     if (!file.seek(one.offset))
@@ -58,11 +94,8 @@ bool byte_spool::read_segment(const segment& one, std::string& buffer,
 bool byte_spool::read(strand from, const std::function<bool(std::string_view)>& to, std::size_t piece) {
     const strand_bytes& one = strands[from];
     if (!one.segments.empty()) {
-        if (!is_read) {
-            if (!file.close() || !file.open(name, platform::open_mode::read))
-                return false;
-            is_read = true;
-        }
+        if (!open_for_reading())
+            return false;
         std::string buffer(piece, '\0');
         for (const segment& part : one.segments)
             if (!read_segment(part, buffer, to))

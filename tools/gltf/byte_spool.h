@@ -42,6 +42,9 @@ public:
     // when `to` gives false.
     bool read(strand from, const std::function<bool(std::string_view)>& to, std::size_t piece = std::size_t{1} << 18U);
 
+    // Appends the bytes of another strand, piece by piece. False if they cannot be read.
+    bool append_strand(strand to, strand from, std::size_t piece = std::size_t{1} << 18U);
+
     // The file could not be written, as on a full disk: what is appended is lost.
     bool has_failed() const { return failed; }
 
@@ -57,6 +60,8 @@ private:
     };
 
     void move_to_file();
+    bool open_for_reading();
+    bool read_piece(strand from, std::uint64_t at, std::string& piece);
     bool read_segment(const segment& one, std::string& buffer, const std::function<bool(std::string_view)>& to);
 
     std::vector<strand_bytes> strands;

@@ -56,6 +56,14 @@ std::size_t glb_writer::add_text(list to, std::string_view element) {
     return one.count++;
 }
 
+void glb_writer::extend(list to, std::string_view more) {
+    spooled.append(lists[static_cast<std::size_t>(to)].text, more);
+}
+
+void glb_writer::extend(list to, byte_spool::strand more) {
+    is_torn = !spooled.append_strand(lists[static_cast<std::size_t>(to)].text, more) || is_torn;
+}
+
 std::uint64_t glb_writer::put(std::string_view bytes) {
     assert(parts.size() == 1);
     const std::uint64_t offset = buffer_size;
@@ -78,7 +86,7 @@ bool glb_writer::has_failed() const {
     const std::uint64_t text = size_of_lists();
     // The text counts the brackets of the lists, which are not spooled.
     const std::uint64_t numbers = spooled.size() - std::min(spooled.size(), text);
-    return spooled.has_failed() || text > std::min(most_bytes, text_limit) || numbers / 2 > most_bytes;
+    return spooled.has_failed() || is_torn || text > std::min(most_bytes, text_limit) || numbers / 2 > most_bytes;
 }
 
 // All but the lists and the closing brace.
@@ -117,7 +125,7 @@ std::string glb_writer::finish(const json& document) {
     if (total > most_bytes)
         return "a GLB file of more than the " + std::to_string(most_bytes) + " bytes of the format would be needed";
     const std::string part = target + ".part";
-    if (!spooled.has_failed() && write_parts(head, tail, json_bytes) && platform::rename_replacing(part, target))
+    if (!spooled.has_failed() && !is_torn && write_parts(head, tail, json_bytes) && platform::rename_replacing(part, target))
         return {};
     platform::delete_file(part);
     return "the file " + target + " cannot be written: the disk may be full, or the folder may not be written to";

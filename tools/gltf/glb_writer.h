@@ -34,6 +34,10 @@ public:
     std::size_t add(list to, const json& element);
     // The same with the JSON text of an element.
     std::size_t add_text(list to, std::string_view element);
+    // More text of the element that was added last to a list, for one that is too long to be held.
+    void extend(list to, std::string_view more);
+    // The same with all bytes of a strand.
+    void extend(list to, byte_spool::strand more);
     std::size_t count(list of) const { return lists[static_cast<std::size_t>(of)].count; }
 
     // For the list of the extensions that the file uses.
@@ -77,6 +81,7 @@ private:
     std::array<json_list, 9> lists;
     std::vector<buffer_part> parts; // the first holds what was put at once
     std::uint64_t buffer_size = 0;
+    bool is_torn = false; // a strand could not be read again
     std::set<std::string> extensions;
 };
 
