@@ -56,20 +56,24 @@ std::optional<std::array<int, 3>> parse_corners(std::string_view text) {
     return result;
 }
 
-class reader {
-public:
-    explicit reader(stream_visitor& to) : visitor(to) {}
+// The beginning of what was read, for people; a line may be of any length.
+std::string quoted(std::string_view text) {
+    constexpr std::size_t most_of_it = 200;
+    return std::string(text.substr(0, most_of_it));
+}
 
-    std::vector<stream_fault> read(std::string_view text) {
-        while (!text.empty()) {
-            const std::size_t end = text.find('\n');
-            std::string_view one = text.substr(0, end);
-            text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-            if (!one.empty() && one.back() == '\r')
-                one.remove_suffix(1);
-            ++line_number;
-            line(one);
-        }
+} // namespace
+
+class stream_line_reader::state {
+public:
+    explicit state(stream_visitor& to) : visitor(to) {}
+
+    void add(std::string_view text) {
+        ++line_number;
+        line(text);
+    }
+
+    std::vector<stream_fault> finish() {
         if (!ended)
             fault("the stream has no \"END;\"");
         return std::move(faults);
@@ -116,13 +120,13 @@ private:
 
     void state_or_other(std::string_view tag, std::string_view payload) {
         if (tag == "TLAY")
-            state.layer = payload;
+            standing.layer = payload;
         else if (tag == "CULL")
-            state.one_sided = payload == "1";
+            standing.one_sided = payload == "1";
         else if (tag == "MATL")
-            number(payload, state.material);
+            number(payload, standing.material);
         else if (tag == "MAT2")
-            number(payload, state.back_material);
+            number(payload, standing.back_material);
         else if (tag == "END")
             ended = true;
         visitor.record(tag, payload);
@@ -131,7 +135,7 @@ private:
     bool triple(std::string_view payload, std::array<double, 3>& into) {
         const auto parsed = parse_triple(payload);
         if (!parsed)
-            fault("three numbers expected: " + std::string(payload));
+            fault("three numbers expected: " + quoted(payload));
         else
             into = *parsed;
         return parsed.has_value();
@@ -140,7 +144,7 @@ private:
     void number(std::string_view payload, int& into) {
         const auto parsed = parse_int(payload);
         if (!parsed)
-            return fault("a number expected: " + std::string(payload));
+            return fault("a number expected: " + quoted(payload));
         into = *parsed;
     }
 
@@ -154,21 +158,21 @@ private:
     void face(std::string_view payload) {
         const auto numbers = parse_corners(payload);
         if (!numbers)
-            return fault("three vertex numbers expected: " + std::string(payload));
+            return fault("three vertex numbers expected: " + quoted(payload));
         for (std::size_t i = 0; i < 3; ++i) {
             const auto found = by_number.find((*numbers)[i]);
             if (found == by_number.end())
                 return fault("no vertex " + std::to_string((*numbers)[i]));
-            state.corners[i] = found->second;
+            standing.corners[i] = found->second;
         }
-        visitor.triangle(state);
+        visitor.triangle(standing);
     }
 
     void begin_block() {
         if (open)
             fault("a block inside a block");
         open = true;
-        state = {};
+        standing = {};
         visitor.block_begins();
     }
 
@@ -185,13 +189,31 @@ private:
     bool open = false;
     bool ended = false;
     stream_vertex pending;
-    stream_triangle state;
+    stream_triangle standing;
     std::deque<stream_vertex> vertices; // of the open block, at fixed addresses
     std::unordered_map<int, const stream_vertex*> by_number;
 };
 
-} // namespace
+stream_line_reader::stream_line_reader(stream_visitor& to) : reading(std::make_unique<state>(to)) {}
+stream_line_reader::~stream_line_reader() = default;
+
+void stream_line_reader::add(std::string_view line) {
+    reading->add(line);
+}
+
+std::vector<stream_fault> stream_line_reader::finish() {
+    return reading->finish();
+}
 
 std::vector<stream_fault> read_stream(std::string_view text, stream_visitor& visitor) {
-    return reader(visitor).read(text);
+    stream_line_reader reader(visitor);
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        if (line.ends_with('\r'))
+            line.remove_suffix(1);
+        reader.add(line);
+    }
+    return reader.finish();
 }

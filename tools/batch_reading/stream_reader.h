@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,24 @@ public:
 struct stream_fault {
     std::size_t line = 0; // from 1
     std::string reason;
+};
+
+// Reads a stream line by line, for one that does not fit into memory. Memory is that of the largest block.
+class stream_line_reader {
+public:
+    explicit stream_line_reader(stream_visitor& to);
+    ~stream_line_reader();
+    stream_line_reader(const stream_line_reader&) = delete;
+    stream_line_reader& operator=(const stream_line_reader&) = delete;
+
+    // line: without its end.
+    void add(std::string_view line);
+    // To be called behind the last line. Gives what is wrong, as read_stream does.
+    std::vector<stream_fault> finish();
+
+private:
+    class state;
+    std::unique_ptr<state> reading;
 };
 
 // Reads a whole stream. text: the bytes of the file, lines ended by CR LF or LF. Gives what is wrong with it: a line
