@@ -2,6 +2,7 @@
 
 // The picture of a batch, and from where it is seen.
 
+#include "tools/gltf/vertex_data.h"
 #include "tools/page/view_options.h"
 #include "tools/raster/view.h"
 
@@ -10,7 +11,8 @@
 #include <vector>
 
 // The view that the batch holds; metres. Nothing if it holds none, or one that looks nowhere.
-std::optional<view> start_of_batch(const std::string& batch_folder);
+// box: of what is to be seen, which tells the unit of the view (tools/batch_glb/batch_view.h).
+std::optional<view> start_of_batch(const std::string& batch_folder, const gltf::float_range& box);
 
 struct drawn_batch {
     bool is_batch = false;

@@ -47,7 +47,7 @@ ended make_page(const view_options& options) {
     facts.title = platform::utf8_from_own(last_component(options.input));
     facts.kind = "batch";
     facts.program = "batch-view";
-    facts.start = start_of_batch(options.input);
+    facts.start = start_of_batch(options.input, made.box);
     add_findings(options.input, facts);
     const std::string failure = write_page(facts, glb_file, options.page_file);
     platform::delete_file(glb_file);

@@ -114,6 +114,7 @@ public:
             result.outcome = batch_glb_outcome::not_written;
         result.notes = notes_of(reading, scene);
         result.counts = scene.counts();
+        result.box = scene.box();
         return result;
     }
 

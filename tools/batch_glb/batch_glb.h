@@ -19,6 +19,7 @@ struct batch_glb_result {
     std::string failure;            // in words; empty if all was done
     std::vector<std::string> notes; // what of the batch could not be shown, a line each
     batch_counts counts;
+    gltf::float_range box; // of what is in the file; metres, z up
 };
 
 // Writes the file; an old one is replaced when the new one is whole. What the batch lacks or what no number can be read
