@@ -112,7 +112,7 @@ TEST(SkpView, a_picture_without_background_is_clear_at_its_corner) {
     const image::picture picture = decoded(folder.read("a.png"));
     EXPECT_EQ(picture.extent(), (image::picture_extent{60, 40, 32}));
     EXPECT_EQ(picture.row(0)[3], 0);
-    EXPECT_FALSE(folder.has("a.png.work.png"));
+    EXPECT_FALSE(folder.has("a.png.1.png"));
 }
 
 TEST(ViewPrograms, the_page_holds_what_it_shows_and_nothing_else_is_left) {
@@ -127,7 +127,23 @@ TEST(ViewPrograms, the_page_holds_what_it_shows_and_nothing_else_is_left) {
         EXPECT_THAT(folder.read("a.html"), testing::HasSubstr("\"program\":\"" + program + " "));
         EXPECT_THAT(folder.read("a.html"), testing::EndsWith("</html>\n"));
         EXPECT_FALSE(folder.has("a.html.part"));
-        EXPECT_FALSE(folder.has("a.html.glb"));
+        EXPECT_FALSE(folder.has("a.html.1.glb"));
+    }
+}
+
+TEST(ViewPrograms, files_of_others_beside_the_page_stay) {
+    if (page_text().empty())
+        GTEST_SKIP() << "the page was not bundled, for there is no node";
+    const temporary_folder folder;
+    const std::vector<std::pair<std::string, std::string>> inputs = {{"batch-view", stages_batch},
+                                                                     {"skp-view", stages_model(folder)}};
+    folder.write("a.html.glb", "mine");
+    folder.write("a.html.1.glb", "mine too");
+    for (const auto& [program, input] : inputs) {
+        EXPECT_EQ(run(program, {input, "-o", folder / "a.html"}).status, 0);
+        EXPECT_EQ(folder.read("a.html.glb"), "mine");
+        EXPECT_EQ(folder.read("a.html.1.glb"), "mine too");
+        EXPECT_FALSE(folder.has("a.html.2.glb"));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "tools/command_line/answers.h"
 #include "tools/command_line/within_memory.h"
 #include "tools/page/view_options.h"
+#include "tools/page/work_file.h"
 #include "tools/page/write_page.h"
 
 #include <cstdio>
@@ -37,8 +38,8 @@ void say(const std::string& words) {
 }
 
 ended make_page(const view_options& options) {
-    const std::string glb_file = options.page_file + ".glb";
-    const batch_glb_result made = write_batch_glb(options.input, glb_file);
+    const work_file glb(options.page_file, ".glb");
+    const batch_glb_result made = write_batch_glb(options.input, glb.name());
     for (const std::string& note : made.notes)
         say(note);
     if (made.outcome != batch_glb_outcome::done)
@@ -49,8 +50,7 @@ ended make_page(const view_options& options) {
     facts.program = "batch-view";
     facts.start = start_of_batch(options.input, made.box);
     add_findings(options.input, facts);
-    const std::string failure = write_page(facts, glb_file, options.page_file);
-    platform::delete_file(glb_file);
+    const std::string failure = write_page(facts, glb.name(), options.page_file);
     return {failure.empty() ? 0 : 3, failure};
 }
 

@@ -44,14 +44,27 @@ std::string facts_element(const page_facts& facts, std::uint64_t glb_bytes) {
     return text + "</script>\n";
 }
 
-bool write_model(platform::file& glb, platform::file& page) {
+enum class model_written { whole, not_read, not_written };
+
+// size: of the file. A disk that fails in the midst of it gives no bytes, as its end does.
+model_written write_model(platform::file& glb, std::uint64_t size, platform::file& page) {
     constexpr std::size_t block = std::size_t{1} << 20U;
     std::vector<char> bytes(block);
     packed_pieces pieces(page);
-    for (std::size_t count = glb.read(bytes.data(), block); count > 0; count = glb.read(bytes.data(), block))
+    std::uint64_t all = 0;
+    for (std::size_t count = glb.read(bytes.data(), block); count > 0; count = glb.read(bytes.data(), block)) {
+        all += count;
         if (!pieces.add({bytes.data(), count}))
-            return false;
-    return pieces.finish();
+            return model_written::not_written;
+    }
+    if (all != size)
+        return model_written::not_read;
+    return pieces.finish() ? model_written::whole : model_written::not_written;
+}
+
+// Why something that was open could not be written to its end.
+std::string cause_of(const platform::file& file) {
+    return file.failure().empty() ? "cannot be written" : "cannot be written: " + file.failure();
 }
 
 } // namespace
@@ -71,12 +84,15 @@ std::string write_page(const page_facts& facts, const std::string& glb_file, con
     platform::file page;
     if (!page.open(part, platform::open_mode::write))
         return page_file + ": " + page.failure();
-    const bool is_written = page.write_all(page_text().substr(0, place)) &&
-                            page.write_all(facts_element(facts, *size)) && write_model(glb, page) &&
+    const bool has_head =
+        page.write_all(page_text().substr(0, place)) && page.write_all(facts_element(facts, *size));
+    const model_written model = has_head ? write_model(glb, *size, page) : model_written::not_written;
+    const bool is_written = model == model_written::whole &&
                             page.write_all(page_text().substr(place + place_of_data.size())) && page.close();
     if (is_written && platform::rename_replacing(part, page_file))
         return {};
+    const std::string cause = is_written ? "cannot be written" : cause_of(page);
     page.close();
     platform::delete_file(part);
-    return page_file + ": cannot be written";
+    return model == model_written::not_read ? glb_file + ": cannot be read to its end" : page_file + ": " + cause;
 }

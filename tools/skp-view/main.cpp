@@ -7,6 +7,7 @@
 #include "tools/model_opening/opened_model.h"
 #include "tools/page/draw_into_place.h"
 #include "tools/page/view_options.h"
+#include "tools/page/work_file.h"
 #include "tools/page/write_page.h"
 #include "tools/raster/model_box.h"
 #include "tools/raster/model_camera.h"
@@ -37,9 +38,9 @@ void say(const std::string& words) {
 }
 
 std::string make_page(SUModelRef model, const view_options& options) {
-    const std::string glb_file = options.page_file + ".glb";
+    const work_file glb(options.page_file, ".glb");
     const std::string name = platform::utf8_from_own(last_component(options.input));
-    const skp_glb_result made = write_skp_glb(model, name, glb_file);
+    const skp_glb_result made = write_skp_glb(model, name, glb.name());
     for (const std::string& note : made.notes)
         say(note);
     std::string failure = made.failure;
@@ -51,9 +52,8 @@ std::string make_page(SUModelRef model, const view_options& options) {
         const view seen = camera_of(model, metres_in_an_inch);
         if (looks_somewhere(seen))
             facts.start = seen;
-        failure = write_page(facts, glb_file, options.page_file);
+        failure = write_page(facts, glb.name(), options.page_file);
     }
-    platform::delete_file(glb_file);
     return failure;
 }
 
@@ -68,7 +68,8 @@ std::string draw_picture(SUModelRef model, const view_options& options) {
     if (!options.is_clear)
         background = model_painter::option_color(model, "BackgroundColor", {1, 1, 1});
     rasterizer picture(seen, options.width, options.height, samples_for(options), background);
-    model_painter(model, texture_source::material, options.picture_file + ".work.png", picture).draw();
+    const work_file fetched(options.picture_file, ".png");
+    model_painter(model, texture_source::material, fetched.name(), picture).draw();
     if (picture.is_cut_short())
         say("the picture would take too long: not everything is drawn");
     return put_in_place(picture, options.picture_file);
