@@ -1,33 +1,14 @@
 #include "tools/raster/model_painter.h"
 
 #include "sketchup/model/vector_math.h"
+#include "tools/model_opening/placed_image.h"
+#include "tools/model_opening/su_lists.h"
 
 #include <algorithm>
 
 namespace {
 
 constexpr color edge_color = {0.1, 0.1, 0.1};
-
-template<class Item, class Owner>
-std::vector<Item> all_of(SUResult (*number)(Owner, std::size_t*),
-                         SUResult (*get)(Owner, std::size_t, Item*, std::size_t*), Owner owner) {
-    std::size_t count = 0;
-    number(owner, &count);
-    std::vector<Item> items(count);
-    get(owner, items.size(), items.data(), &count);
-    items.resize(count);
-    return items;
-}
-
-bool is_shown(SUDrawingElementRef element) {
-    bool hidden = false;
-    bool layer_shows = true;
-    SULayerRef layer = SU_INVALID;
-    SUDrawingElementGetHidden(element, &hidden);
-    if (SUDrawingElementGetLayer(element, &layer) == SU_ERROR_NONE)
-        SULayerGetVisibility(layer, &layer_shows);
-    return !hidden && layer_shows;
-}
 
 color color_from(const SUColor& c) {
     return {c.red / 255.0, c.green / 255.0, c.blue / 255.0};
@@ -58,25 +39,11 @@ color model_painter::option_color(SUModelRef model, const char* key, const color
     return known ? color_from(found) : otherwise;
 }
 
-bool model_painter::option_is_on(SUModelRef model, const char* key) {
-    SURenderingOptionsRef options = SU_INVALID;
-    SUTypedValueRef value = SU_INVALID;
-    bool is_on = false;
-    SUModelGetRenderingOptions(model, &options);
-    SUTypedValueCreate(&value);
-    if (SURenderingOptionsGetValue(options, key, &value) == SU_ERROR_NONE)
-        SUTypedValueGetBool(value, &is_on);
-    SUTypedValueRelease(&value);
-    return is_on;
-}
-
 model_painter::model_painter(SUModelRef model, texture_source from, std::string work_file, rasterizer& into)
-    : model_(model), source(from), picture(into), pictures(std::move(work_file)),
+    : model_(model), source(from), picture(into), rules(model, false), pictures(std::move(work_file)),
       front_color(option_color(model, "FaceFrontColor", {1, 1, 1})),
-      back_color(option_color(model, "FaceBackColor", {0.65, 0.67, 0.78})),
-      color_by_layer(option_is_on(model, "DisplayColorByLayer")) {
+      back_color(option_color(model, "FaceBackColor", {0.65, 0.67, 0.78})) {
     SUTextureWriterCreate(&writer);
-    SUModelGetDefaultLayer(model, &default_layer);
 }
 
 model_painter::~model_painter() {
@@ -86,7 +53,7 @@ model_painter::~model_painter() {
 void model_painter::draw() {
     SUEntitiesRef root = SU_INVALID;
     SUModelGetEntities(model_, &root);
-    draw_list(root, {sketchup::identity_transform, SU_INVALID, default_layer});
+    draw_list(root, {sketchup::identity_transform, {}});
     for (const clear_triangle& t : clear)
         if (t.with.picture)
             picture.draw(t.corners, t.points, *t.with.picture, t.with.opacity);
@@ -96,27 +63,23 @@ void model_painter::draw() {
 }
 
 void model_painter::draw_list(SUEntitiesRef list, const place& at) {
-    for (const SUImageRef image : all_of(SUEntitiesGetNumImages, SUEntitiesGetImages, list))
-        if (is_shown(SUImageToDrawingElement(image)))
+    for (const SUImageRef image : su_list(list, SUEntitiesGetNumImages, SUEntitiesGetImages))
+        if (!rules.is_left_out(SUImageToDrawingElement(image), at.inherited))
             draw_image(image, at);
-    for (const SUFaceRef face : all_of(SUEntitiesGetNumFaces, SUEntitiesGetFaces, list))
-        if (is_shown(SUFaceToDrawingElement(face)))
+    for (const SUFaceRef face : su_list(list, SUEntitiesGetNumFaces, SUEntitiesGetFaces))
+        if (!rules.is_left_out(SUFaceToDrawingElement(face), at.inherited))
             draw_face(face, at);
-    std::size_t count = 0;
-    SUEntitiesGetNumEdges(list, false, &count);
-    std::vector<SUEdgeRef> edges(count);
-    SUEntitiesGetEdges(list, false, edges.size(), edges.data(), &count);
-    for (const SUEdgeRef edge : edges)
+    for (const SUEdgeRef edge : su_edges(list))
         draw_edge(edge, at);
-    for (const SUComponentInstanceRef instance : all_of(SUEntitiesGetNumInstances, SUEntitiesGetInstances, list))
+    for (const SUComponentInstanceRef instance : su_list(list, SUEntitiesGetNumInstances, SUEntitiesGetInstances))
         draw_placement(instance, at);
-    for (const SUGroupRef group : all_of(SUEntitiesGetNumGroups, SUEntitiesGetGroups, list))
+    for (const SUGroupRef group : su_list(list, SUEntitiesGetNumGroups, SUEntitiesGetGroups))
         draw_placement(SUGroupToComponentInstance(group), at);
 }
 
 void model_painter::draw_placement(SUComponentInstanceRef instance, const place& at) {
     const SUDrawingElementRef element = SUComponentInstanceToDrawingElement(instance);
-    if (!is_shown(element))
+    if (rules.is_left_out(element, at.inherited))
         return;
     SUTransformation own{};
     SUComponentDefinitionRef definition = SU_INVALID;
@@ -124,9 +87,7 @@ void model_painter::draw_placement(SUComponentInstanceRef instance, const place&
     SUComponentInstanceGetTransform(instance, &own);
     SUComponentInstanceGetDefinition(instance, &definition);
     SUComponentDefinitionGetEntities(definition, &list);
-    place inner = {in_place(at.transform, own), at.material, layer_of(element, at)};
-    SUDrawingElementGetMaterial(element, &inner.material);
-    draw_list(list, inner);
+    draw_list(list, {in_place(at.transform, own), rules.inside(element, at.inherited)});
 }
 
 model_painter::paint model_painter::paint_of(SUMaterialRef material, SUFaceRef face, bool front, bool is_own) {
@@ -155,20 +116,15 @@ model_painter::paint model_painter::paint_of(SUMaterialRef material, SUFaceRef f
     return result;
 }
 
-SULayerRef model_painter::layer_of(SUDrawingElementRef element, const place& at) const {
-    SULayerRef own = default_layer;
-    SUDrawingElementGetLayer(element, &own);
-    return SUAreEqual(own, default_layer) ? at.layer : own;
-}
-
 model_painter::paint model_painter::paint_of(SUFaceRef face, bool front, const place& at) {
     SUMaterialRef own = SU_INVALID;
-    if (color_by_layer && SULayerGetMaterial(layer_of(SUFaceToDrawingElement(face), at), &own) == SU_ERROR_NONE)
+    const SUDrawingElementRef element = SUFaceToDrawingElement(face);
+    if (rules.colors_by_layer() && SULayerGetMaterial(rules.layer_of(element, at.inherited), &own) == SU_ERROR_NONE)
         return paint_of(own, face, front, false);
     if ((front ? SUFaceGetFrontMaterial : SUFaceGetBackMaterial)(face, &own) == SU_ERROR_NONE)
         return paint_of(own, face, front, true);
-    if (SUIsValid(at.material))
-        return paint_of(at.material, face, front, false);
+    if (SUIsValid(at.inherited.material))
+        return paint_of(at.inherited.material, face, front, false);
     paint result;
     result.plain = front ? front_color : back_color;
     return result;
@@ -181,10 +137,10 @@ void model_painter::draw_face(SUFaceRef face, const place& at) {
     SUTextureWriterRef none = SU_INVALID;
     SUFaceGetUVHelper(face, true, true, source == texture_source::writer ? writer : none, &helper);
     SUMeshHelperCreateWithUVHelper(&mesh, face, helper);
-    const auto vertices = all_of(SUMeshHelperGetNumVertices, SUMeshHelperGetVertices, mesh);
+    const auto vertices = su_list(mesh, SUMeshHelperGetNumVertices, SUMeshHelperGetVertices);
     const std::array<std::vector<SUPoint3D>, 2> coordinates = {
-        all_of(SUMeshHelperGetNumVertices, SUMeshHelperGetFrontSTQCoords, mesh),
-        all_of(SUMeshHelperGetNumVertices, SUMeshHelperGetBackSTQCoords, mesh)};
+        su_list(mesh, SUMeshHelperGetNumVertices, SUMeshHelperGetFrontSTQCoords),
+        su_list(mesh, SUMeshHelperGetNumVertices, SUMeshHelperGetBackSTQCoords)};
     std::size_t count = 0;
     SUMeshHelperGetNumTriangles(mesh, &count);
     std::vector<std::size_t> indices(3 * count);
@@ -225,7 +181,7 @@ void model_painter::draw_edge(SUEdgeRef edge, const place& at) {
     SUPoint3D from{};
     SUPoint3D to{};
     SUEdgeGetSoft(edge, &soft);
-    if (soft || !is_shown(SUEdgeToDrawingElement(edge)))
+    if (soft || rules.is_left_out(SUEdgeToDrawingElement(edge), at.inherited))
         return;
     SUEdgeGetStartVertex(edge, &start);
     SUEdgeGetEndVertex(edge, &end);
@@ -237,17 +193,14 @@ void model_painter::draw_edge(SUEdgeRef edge, const place& at) {
 void model_painter::draw_image(SUImageRef image, const place& at) {
     paint with;
     with.picture = pictures.of(image);
-    std::size_t width = 0;
-    std::size_t height = 0;
-    SUTransformation own{};
-    if (!with.picture || SUImageGetPixelDimensions(image, &width, &height) != SU_ERROR_NONE)
+    if (!with.picture)
         return;
+    SUTransformation own{};
     SUImageGetTransform(image, &own);
     const sketchup::transform t = in_place(at.transform, own);
-    const double w = static_cast<double>(width);
-    const double h = static_cast<double>(height);
-    const std::array<vec, 4> c = {placed(t, {0, 0, 0}), placed(t, {w, 0, 0}), placed(t, {w, h, 0}),
-                                  placed(t, {0, h, 0})};
+    const auto [low, high] = rectangle_of(image);
+    const std::array<vec, 4> c = {placed(t, low), placed(t, {high.x, low.y, 0}), placed(t, high),
+                                  placed(t, {low.x, high.y, 0})};
     draw_triangle({c[0], c[1], c[2]}, {{{0, 0}, {1, 0}, {1, 1}}}, with);
     draw_triangle({c[0], c[2], c[3]}, {{{0, 0}, {1, 1}, {0, 1}}}, with);
 }

@@ -5,6 +5,7 @@
 
 #include "sketchup/model/values.h"
 #include "sketchup/SketchUpAPI.h"
+#include "tools/model_opening/walked_place.h"
 #include "tools/raster/model_pictures.h"
 #include "tools/raster/rasterizer.h"
 
@@ -29,14 +30,11 @@ public:
 
     // The colour of an option like "BackgroundColor"; `otherwise` if the model does not hold it.
     static color option_color(SUModelRef model, const char* key, const color& otherwise);
-    // Whether an option like "DisplayColorByLayer" is on.
-    static bool option_is_on(SUModelRef model, const char* key);
 
 private:
     struct place {
         sketchup::transform transform;
-        SUMaterialRef material; // of the nearest painted object around; may be invalid
-        SULayerRef layer; // of the nearest object around that is not on the default layer; that one if there is none
+        walked_place inherited;
     };
     struct paint {
         color plain;
@@ -58,17 +56,15 @@ private:
     void draw_image(SUImageRef image, const place& at);
     void draw_triangle(const std::array<vec, 3>& corners, const std::array<picture_point, 3>& points,
                        const paint& with);
-    SULayerRef layer_of(SUDrawingElementRef element, const place& at) const;
     paint paint_of(SUFaceRef face, bool front, const place& at);
     paint paint_of(SUMaterialRef material, SUFaceRef face, bool front, bool is_own);
 
     SUModelRef model_;
     texture_source source;
     rasterizer& picture;
+    walk_rules rules;
     SUTextureWriterRef writer = SU_INVALID;
     model_pictures pictures;
     color front_color, back_color;
-    bool color_by_layer;
-    SULayerRef default_layer = SU_INVALID;
     std::vector<clear_triangle> clear; // drawn when all that is opaque stands
 };

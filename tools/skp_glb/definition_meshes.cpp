@@ -1,5 +1,6 @@
 #include "tools/skp_glb/definition_meshes.h"
 
+#include "tools/model_opening/placed_image.h"
 #include "tools/model_opening/su_lists.h"
 #include "tools/skp_glb/mesh_parts.h"
 
@@ -13,30 +14,8 @@ bool is_bare(SUFaceRef face) {
            SUFaceGetBackMaterial(face, &material) != SU_ERROR_NONE;
 }
 
-struct rectangle {
-    gltf::float2 low{};
-    gltf::float2 high{};
-};
-
 float in_metres(double inches) {
     return static_cast<float>(inches * metres_in_an_inch);
-}
-
-// Where an image lies in its own space, whose plane is z = 0: over the face that its definition holds, or, where none
-// is to be had, over its pixels from the origin.
-rectangle rectangle_of(SUImageRef image) {
-    SUComponentDefinitionRef definition = SU_INVALID;
-    SUEntitiesRef inside = SU_INVALID;
-    SUBoundingBox3D box{};
-    SUImageGetDefinition(image, &definition);
-    if (SUComponentDefinitionGetEntities(definition, &inside) == SU_ERROR_NONE &&
-        SUEntitiesGetBoundingBox(inside, &box) == SU_ERROR_NONE && box.min_point.x < box.max_point.x)
-        return {{in_metres(box.min_point.x), in_metres(box.min_point.y)},
-                {in_metres(box.max_point.x), in_metres(box.max_point.y)}};
-    std::size_t wide = 0;
-    std::size_t high = 0;
-    SUImageGetPixelDimensions(image, &wide, &high);
-    return {{}, {in_metres(static_cast<double>(wide)), in_metres(static_cast<double>(high))}};
 }
 
 } // namespace
@@ -84,8 +63,12 @@ const model_mesh& definition_meshes::mesh_of(SUImageRef image) {
     if (!is_new)
         return result;
     const auto [low, high] = rectangle_of(image);
+    const float left = in_metres(low.x);
+    const float right = in_metres(high.x);
+    const float bottom = in_metres(low.y);
+    const float top = in_metres(high.y);
     gltf::primitive_data quad;
-    quad.positions = {{low[0], low[1], 0}, {high[0], low[1], 0}, {high[0], high[1], 0}, {low[0], high[1], 0}};
+    quad.positions = {{left, bottom, 0}, {right, bottom, 0}, {right, top, 0}, {left, top, 0}};
     quad.normals.assign(4, {0, 0, 1});
     quad.coordinates = {{0, 1}, {1, 1}, {1, 0}, {0, 0}};
     quad.indices = {0, 1, 2, 0, 2, 3};

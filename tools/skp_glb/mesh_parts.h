@@ -4,7 +4,7 @@
 
 #include "tools/gltf/vertex_data.h"
 #include "tools/skp_glb/model_materials.h"
-#include "tools/skp_glb/walked_place.h"
+#include "tools/model_opening/walked_place.h"
 
 #include <compare>
 #include <map>

@@ -3,9 +3,8 @@
 #include "image/encode_picture.h"
 #include "platform/platform.h"
 #include "tools/gltf/numbers.h"
+#include "tools/model_opening/placed_image.h"
 #include "tools/model_opening/su_lists.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -132,28 +131,6 @@ std::size_t model_materials::material_of_edges() {
     return *edges;
 }
 
-// The pixels, for images whose picture is stored in a way that a texture does not give.
-std::optional<embedded_picture> model_materials::pixels_of(SUImageRef image) {
-    std::size_t width = 0;
-    std::size_t height = 0;
-    std::size_t size = 0;
-    std::size_t bits = 0;
-    if (SUImageGetPixelDimensions(image, &width, &height) != SU_ERROR_NONE ||
-        SUImageGetDataSize(image, &size, &bits) != SU_ERROR_NONE)
-        return std::nullopt;
-    auto picture = image::picture::make(
-        {static_cast<std::uint32_t>(width), static_cast<std::uint32_t>(height), static_cast<int>(bits)});
-    if (!picture)
-        return std::nullopt;
-    std::vector<SUByte> data(size);
-    if (SUImageGetData(image, data.size(), data.data()) != SU_ERROR_NONE)
-        return std::nullopt;
-    const std::size_t padded_row = size / height;
-    for (std::uint32_t y = 0; y < picture->height(); ++y)
-        std::copy_n(&data[y * padded_row], picture->bytes_per_row(), picture->row(y));
-    return picture_for_glb(image::encode_picture(*picture, image::picture_format::png));
-}
-
 SUTextureRef model_materials::texture_of(SUImageRef image) {
     SUComponentDefinitionRef definition = SU_INVALID;
     SUEntitiesRef inside = SU_INVALID;
@@ -182,8 +159,9 @@ std::size_t model_materials::material_of(SUImageRef image) {
     const SUTextureRef texture = texture_of(image);
     if (SUIsValid(texture))
         picture = fetch(texture, false);
-    if (!picture)
-        picture = pixels_of(image);
+    if (!picture) // some are stored in a way that a texture does not give
+        if (const auto pixels = pixels_of(image))
+            picture = picture_for_glb(image::encode_picture(*pixels, image::picture_format::png));
     if (picture) {
         ++embedded;
         show_picture(material, add_texture(writer, *picture, name), picture->covers);

@@ -45,7 +45,6 @@ private:
     const shown_picture& picture_behind(SUTextureRef texture, const std::string& material, bool is_recoloured);
     std::optional<embedded_picture> fetch(SUTextureRef texture, bool is_recoloured);
     std::optional<embedded_picture> taken(SUResult written, const std::string& file);
-    std::optional<embedded_picture> pixels_of(SUImageRef image);
     SUTextureRef texture_of(SUImageRef image);
     void note(std::string text);
 

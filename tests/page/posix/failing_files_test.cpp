@@ -39,7 +39,7 @@ TEST(FullDisk, leaves_no_page) {
 // The system announces 4096 bytes for a file that has a few.
 TEST(WritePage, a_model_that_ends_before_its_size_leaves_no_page) {
     const std::string short_file = "/sys/devices/system/cpu/online";
-    if (page_text().empty() || platform::file_size(short_file) != 4096)
+    if (page_text().empty() || platform::file_size(short_file) != 4096U)
         GTEST_SKIP() << "there is no page, or no such file";
     const temporary_folder folder;
     page_facts facts;

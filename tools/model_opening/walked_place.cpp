@@ -1,4 +1,4 @@
-#include "tools/skp_glb/walked_place.h"
+#include "tools/model_opening/walked_place.h"
 
 walk_rules::walk_rules(SUModelRef model, bool keeps_hidden) : keep_hidden(keeps_hidden) {
     bool visible = true;
