@@ -137,6 +137,16 @@ TEST(BatchGlb, tells_what_belongs_to_a_lamp_from_other_things_of_its_material) {
     EXPECT_EQ(parts[0]["material"], parts[1]["material"]);
 }
 
+TEST(BatchGlb, says_which_lamp_has_no_file) {
+    batch made("MESH;\r\nLITE;4\r\nEMSH;\r\nMESH;\r\nLITE;3\r\nEMSH;\r\nMESH;\r\nLITE;5\r\nEMSH;\r\n");
+    made.write("ZynBatch_Lights/light_3.txt", "type;bulb\r\n");
+    const read_glb glb = made.convert();
+    EXPECT_FALSE(glb.node("lamp 3").is_null());
+    EXPECT_TRUE(glb.node("lamp 4").is_null());
+    EXPECT_EQ(made.result.notes, (std::vector<std::string>{"lamps of the stream without a file that can be read: 2, "
+                                                           "the first of them lamp 4"}));
+}
+
 TEST(BatchGlb, turns_v_round_and_embeds_the_picture_once) {
     batch made(declaration("Oak", 10) + "MESH;\r\nTLAY;a\r\nCULL;1\r\nMPUV;1\r\nMATL;10\r\n" + square(true) +
                "FACE;0,1,2\r\nFACE;0,2,3\r\nEMSH;\r\n");

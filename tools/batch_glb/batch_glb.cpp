@@ -113,6 +113,10 @@ public:
         if (!result.failure.empty())
             result.outcome = batch_glb_outcome::not_written;
         result.notes = notes_of(reading, scene);
+        if (!lamps_without_file.empty())
+            result.notes.push_back("lamps of the stream without a file that can be read: " +
+                                   std::to_string(lamps_without_file.size()) + ", the first of them lamp " +
+                                   std::to_string(lamps_without_file.front()));
         result.counts = scene.counts();
         result.box = scene.box();
         return result;
@@ -124,6 +128,8 @@ private:
         for (const auto& [number, seen] : scene.lamps())
             if (const auto lamp = lamp_of(folder, number))
                 nodes.push_back(add_lamp(writer, number, *lamp, seen));
+            else
+                lamps_without_file.push_back(number);
         append(nodes, add_placed_things(writer, scene.things()));
         gltf::json views = gltf::json::array();
         if (const auto view = add_view(writer, folder, scene.box())) {
@@ -155,6 +161,7 @@ private:
     const std::string& folder;
     gltf::glb_writer writer;
     batch_scene scene;
+    std::vector<int> lamps_without_file;
 };
 
 } // namespace
