@@ -1,6 +1,8 @@
 // What batch-view and skp-view leave and how they end.
 
 #include "image/decode_picture.h"
+#include "sketchup/builder/model_builder.h"
+#include "sketchup/skp/writer/classic_writer.h"
 #include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/page/page_text.h"
@@ -113,6 +115,18 @@ TEST(SkpView, a_picture_without_background_is_clear_at_its_corner) {
     EXPECT_EQ(picture.extent(), (image::picture_extent{60, 40, 32}));
     EXPECT_EQ(picture.row(0)[3], 0);
     EXPECT_FALSE(folder.has("a.png.1.png"));
+}
+
+TEST(SkpView, a_picture_that_cannot_be_shown_is_told_of) {
+    const temporary_folder folder;
+    sketchup::model_builder builder;
+    builder.face(builder.root().square(10)).material =
+        builder.textured_material("Oak", {1, 2, 3, 4}, "oak.png", 5, 5);
+    const auto bytes = skp::write_classic(*builder.finish(), skp::classic_version::v17);
+    folder.write("a.skp", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    const program_result seen = run("skp-view", {folder / "a.skp", "--png", folder / "a.png", "--size", "8x8"});
+    EXPECT_EQ(seen.status, 0);
+    EXPECT_EQ(seen.errors, "skp-view: pictures of the model that cannot be shown: 1\n");
 }
 
 TEST(ViewPrograms, the_page_holds_what_it_shows_and_nothing_else_is_left) {

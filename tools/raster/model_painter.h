@@ -28,6 +28,9 @@ public:
 
     void draw();
 
+    // How many pictures that the model shows could not be drawn.
+    std::size_t missing_pictures() const { return pictures.missing(); }
+
     // The colour of an option like "BackgroundColor"; `otherwise` if the model does not hold it.
     static color option_color(SUModelRef model, const char* key, const color& otherwise);
 

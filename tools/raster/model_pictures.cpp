@@ -4,6 +4,8 @@
 #include "platform/platform.h"
 #include "tools/model_opening/placed_image.h"
 
+#include <algorithm>
+
 model_pictures::~model_pictures() {
     platform::delete_file(file);
 }
@@ -37,4 +39,9 @@ const image::picture* model_pictures::of(SUImageRef image) {
     if (is_new)
         at->second = pixels_of(image);
     return at->second ? &*at->second : nullptr;
+}
+
+std::size_t model_pictures::missing() const {
+    return static_cast<std::size_t>(
+        std::count_if(found.begin(), found.end(), [](const auto& entry) { return !entry.second; }));
 }

@@ -27,6 +27,9 @@ public:
     // The pixels of a placed image; null if it has none.
     const image::picture* of(SUImageRef image);
 
+    // How many of those that were asked for cannot be shown.
+    std::size_t missing() const;
+
 private:
     const image::picture* written_to(const void* key, SUResult result);
 

@@ -69,7 +69,10 @@ std::string draw_picture(SUModelRef model, const view_options& options) {
         background = model_painter::option_color(model, "BackgroundColor", {1, 1, 1});
     rasterizer picture(seen, options.width, options.height, samples_for(options), background);
     const work_file fetched(options.picture_file, ".png");
-    model_painter(model, texture_source::material, fetched.name(), picture).draw();
+    model_painter painter(model, texture_source::material, fetched.name(), picture);
+    painter.draw();
+    if (painter.missing_pictures() > 0)
+        say("pictures of the model that cannot be shown: " + std::to_string(painter.missing_pictures()));
     if (picture.is_cut_short())
         say("the picture would take too long: not everything is drawn");
     return put_in_place(picture, options.picture_file);

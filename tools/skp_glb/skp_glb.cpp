@@ -24,7 +24,8 @@ public:
     skp_glb_result run(const std::string& name) {
         skp_glb_result result;
         result.failure = writer.finish(document(name));
-        result.notes = materials.notes();
+        if (result.failure.empty()) // a disk that is full takes no picture either, which is no fault of the picture
+            result.notes = materials.notes();
         for (const model_mesh& mesh : meshes.made())
             result.triangles += mesh.triangles;
         result.placements = nodes.placed().placements;
