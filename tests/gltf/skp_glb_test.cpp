@@ -291,6 +291,22 @@ TEST(SkpGlb, stands_a_node_in_each_section_plane) {
     EXPECT_EQ(glb.extras()["section_planes"], json({{{"name", "section plane 1"}, {"plane", {0, 0, 1, -2.54}}}}));
 }
 
+TEST(SkpGlb, lists_section_planes_where_they_are_placed_and_none_that_is_hidden) {
+    made_model made;
+    list_builder group = made.builder.root().group("inner", sketchup::moved({0, 0, 50}));
+    group.section_plane({0, 0, 1, -100}, false);
+    list_builder mirrored = made.builder.root().group("mirrored", sketchup::scaled(1, 1, -2));
+    mirrored.section_plane({0, 0, 1, -100}, false);
+    list_builder hidden = made.builder.root().group("hidden");
+    hidden.section_plane({1, 0, 0, 0}, false);
+    made.builder.placement(hidden.placement()).hidden = true;
+    const read_glb glb = made.convert();
+    // z = 150 inches are 3.81 m; z = 100 mirrored and twice as far is z = -200, 5.08 m, and it looks down.
+    EXPECT_EQ(glb.extras()["section_planes"], json({{{"name", "section plane 1"}, {"plane", {0, 0, 1, -3.81}}},
+                                                    {{"name", "section plane 2"}, {"plane", {0, 0, -1, -5.08}}}}));
+    EXPECT_EQ(glb.node("section plane 1")["translation"], json({0, 0, 2.54})); // within its group
+}
+
 TEST(SkpGlb, places_an_image_as_a_rectangle_of_it) {
     made_model made;
     const sketchup::index image =

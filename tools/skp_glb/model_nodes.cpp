@@ -4,11 +4,55 @@
 #include "tools/model_opening/su_lists.h"
 #include "tools/skp_glb/attributes_json.h"
 
+#include <array>
 #include <cmath>
+#include <optional>
 
 namespace {
 
 constexpr double metres_in_an_inch = 0.0254; // exact by definition
+
+gltf::double3 turned(const gltf::frame& by, const gltf::double3& v) {
+    gltf::double3 result{};
+    for (std::size_t i = 0; i < 3; ++i)
+        result[i] = by.axes[0][i] * v[0] + by.axes[1][i] * v[1] + by.axes[2][i] * v[2];
+    return result;
+}
+
+gltf::double3 moved(const gltf::frame& by, const gltf::double3& p) {
+    const gltf::double3 t = turned(by, p);
+    return {t[0] + by.origin[0], t[1] + by.origin[1], t[2] + by.origin[2]};
+}
+
+gltf::frame within(const gltf::frame& outer, const gltf::frame& inner) {
+    gltf::frame result;
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        result.axes[axis] = turned(outer, inner.axes[axis]);
+    result.origin = moved(outer, inner.origin);
+    return result;
+}
+
+gltf::double3 cross(const gltf::double3& a, const gltf::double3& b) {
+    return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
+
+double dot(const gltf::double3& a, const gltf::double3& b) {
+    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+}
+
+// A plane in another space, a, b, c, d with a unit normal. Normals go by the cross products of the axes, turned round
+// where the map mirrors. Nothing if the map leaves no plane.
+std::optional<std::array<double, 4>> placed_plane(const gltf::frame& by, const gltf::double3& normal,
+                                                  const gltf::double3& point) {
+    const auto& [x, y, z] = by.axes;
+    const gltf::frame normals{{cross(y, z), cross(z, x), cross(x, y)}, {}};
+    const gltf::double3 n = turned(normals, normal);
+    const double length = std::sqrt(dot(n, n)) * (dot(x, cross(y, z)) < 0 ? -1 : 1);
+    if (length == 0 || !std::isfinite(length))
+        return std::nullopt;
+    const gltf::double3 unit = {n[0] / length, n[1] / length, n[2] / length};
+    return std::array<double, 4>{unit[0], unit[1], unit[2], -dot(unit, moved(by, point))};
+}
 
 } // namespace
 
@@ -22,10 +66,6 @@ gltf::frame frame_of(const SUTransformation& transform) {
     for (std::size_t i = 0; i < 3; ++i)
         result.origin[i] = m[12 + i] / weight * metres_in_an_inch;
     return result;
-}
-
-std::string section_plane_name(std::size_t number) {
-    return "section plane " + std::to_string(number);
 }
 
 const model_nodes::definition_facts& model_nodes::facts_of(SUComponentDefinitionRef definition) {
@@ -81,7 +121,8 @@ std::size_t model_nodes::add_placed(gltf::json node, const gltf::frame& where, c
     return writer.add(gltf::list::nodes, node);
 }
 
-void model_nodes::add_instance(SUComponentInstanceRef instance, const walked_place& at, std::vector<std::size_t>& to) {
+void model_nodes::add_instance(SUComponentInstanceRef instance, const walked_place& at, const gltf::frame& world,
+                               std::vector<std::size_t>& to) {
     const SUDrawingElementRef element = SUComponentInstanceToDrawingElement(instance);
     if (rules.is_left_out(element, at))
         return;
@@ -91,10 +132,11 @@ void model_nodes::add_instance(SUComponentInstanceRef instance, const walked_pla
     SUComponentInstanceGetTransform(instance, &transform);
     const definition_facts& facts = facts_of(definition);
     const walked_place inner = rules.inside(element, at);
-    const std::vector<std::size_t> children = add_content(facts.inside, inner);
+    const gltf::frame own_place = frame_of(transform);
+    const std::vector<std::size_t> children = add_content(facts.inside, inner, within(world, own_place));
     const std::string own = su_text(instance, SUComponentInstanceGetName);
     ++counts.placements;
-    to.push_back(add_placed(node_for(element, own.empty() ? facts.name : own, at), frame_of(transform),
+    to.push_back(add_placed(node_for(element, own.empty() ? facts.name : own, at), own_place,
                             meshes.mesh_of(facts.inside, inner, facts.name, facts.extras), children));
 }
 
@@ -109,39 +151,50 @@ void model_nodes::add_image(SUImageRef image, const walked_place& at, std::vecto
                             meshes.mesh_of(image), {}));
 }
 
-// The node lies in the plane, its z axis along the normal.
-void model_nodes::add_plane(SUSectionPlaneRef plane, std::size_t number, std::vector<std::size_t>& to) {
+// The node lies in the plane, its z axis along the normal. The host's calls have no word for what a plane is called.
+void model_nodes::add_plane(SUSectionPlaneRef plane, const gltf::frame& world, std::vector<std::size_t>& to) {
     SUPlane3D p{};
     bool active = false;
     SUSectionPlaneGetPlane(plane, &p);
     SUSectionPlaneIsActive(plane, &active);
-    const std::string name = section_plane_name(number);
+    const gltf::double3 normal = {p.a, p.b, p.c};
+    gltf::double3 point{};
+    for (std::size_t i = 0; i < 3; ++i)
+        point[i] = -p.d * normal[i] * metres_in_an_inch;
+    const auto placed = placed_plane(world, normal, point);
+    if (!placed)
+        return;
+    const std::string name = "section plane " + std::to_string(planes.size() + 1);
+    gltf::json numbers = gltf::json::array();
+    for (const double each : *placed)
+        numbers.push_back(gltf::short_number(each));
+    planes.push_back({{"name", name}, {"plane", numbers}});
     gltf::json node = {{"name", name}, {"extras", {{"section_plane", true}, {"name", name}, {"active", active}}}};
     gltf::node_placement where;
     for (std::size_t i = 0; i < 3; ++i)
-        where.translation[i] = gltf::short_number(-p.d * (i == 0 ? p.a : i == 1 ? p.b : p.c) * metres_in_an_inch);
+        where.translation[i] = gltf::short_number(point[i]);
     where.rotation = gltf::rotation_looking({-p.a, -p.b, -p.c}, {0, 0, 1});
     gltf::place(node, where);
     to.push_back(writer.add(gltf::list::nodes, node));
 }
 
-std::vector<std::size_t> model_nodes::add_content(SUEntitiesRef list, const walked_place& at) {
+std::vector<std::size_t> model_nodes::add_content(SUEntitiesRef list, const walked_place& at,
+                                                  const gltf::frame& world) {
     std::vector<std::size_t> nodes;
+    for (const SUSectionPlaneRef plane : su_list(list, SUEntitiesGetNumSectionPlanes, SUEntitiesGetSectionPlanes))
+        if (!rules.is_left_out(SUSectionPlaneToDrawingElement(plane), at))
+            add_plane(plane, world, nodes);
     for (const SUGroupRef group : su_list(list, SUEntitiesGetNumGroups, SUEntitiesGetGroups)) {
         if (writer.has_failed())
             return nodes;
-        add_instance(SUGroupToComponentInstance(group), at, nodes);
+        add_instance(SUGroupToComponentInstance(group), at, world, nodes);
     }
     for (const SUComponentInstanceRef instance : su_list(list, SUEntitiesGetNumInstances, SUEntitiesGetInstances)) {
         if (writer.has_failed())
             return nodes;
-        add_instance(instance, at, nodes);
+        add_instance(instance, at, world, nodes);
     }
     for (const SUImageRef image : su_list(list, SUEntitiesGetNumImages, SUEntitiesGetImages))
         add_image(image, at, nodes);
-    std::size_t number = 0;
-    for (const SUSectionPlaneRef plane : su_list(list, SUEntitiesGetNumSectionPlanes, SUEntitiesGetSectionPlanes))
-        if (++number; !rules.is_left_out(SUSectionPlaneToDrawingElement(plane), at))
-            add_plane(plane, number, nodes);
     return nodes;
 }

@@ -22,7 +22,12 @@ public:
         : writer(to), rules(by), meshes(from), attributes(with_attributes) {}
 
     // Adds the nodes of everything that a list places, and its section planes. Gives those at the top.
-    std::vector<std::size_t> add_content(SUEntitiesRef list, const walked_place& at);
+    // world: where the list stands in the model; metres.
+    std::vector<std::size_t> add_content(SUEntitiesRef list, const walked_place& at, const gltf::frame& world = {});
+
+    // The section planes that have nodes, wherever they are placed: "name" and "plane", whose a x + b y + c z + d is 0
+    // in metres in the space of the model.
+    const gltf::json& section_planes() const { return planes; }
 
     // Counts the triangles of a mesh that is placed once more.
     void count(const model_mesh& mesh) { counts.triangles += mesh.triangles; }
@@ -37,9 +42,10 @@ private:
 
     const definition_facts& facts_of(SUComponentDefinitionRef definition);
     const std::string& layer_name(SULayerRef layer);
-    void add_instance(SUComponentInstanceRef instance, const walked_place& at, std::vector<std::size_t>& to);
+    void add_instance(SUComponentInstanceRef instance, const walked_place& at, const gltf::frame& world,
+                      std::vector<std::size_t>& to);
     void add_image(SUImageRef image, const walked_place& at, std::vector<std::size_t>& to);
-    void add_plane(SUSectionPlaneRef plane, std::size_t number, std::vector<std::size_t>& to);
+    void add_plane(SUSectionPlaneRef plane, const gltf::frame& world, std::vector<std::size_t>& to);
     gltf::json node_for(SUDrawingElementRef element, const std::string& name, const walked_place& at);
     std::size_t add_placed(gltf::json node, const gltf::frame& where, const model_mesh& mesh,
                            const std::vector<std::size_t>& children);
@@ -51,10 +57,8 @@ private:
     std::unordered_map<const void*, definition_facts> definitions;
     std::unordered_map<const void*, std::string> layers;
     placed_counts counts;
+    gltf::json planes = gltf::json::array();
 };
 
 // The transform of a placement, in metres.
 gltf::frame frame_of(const SUTransformation& transform);
-
-// What a section plane is called: the host's calls have no word for it.
-std::string section_plane_name(std::size_t number);

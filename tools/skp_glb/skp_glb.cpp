@@ -60,20 +60,6 @@ private:
         return layers;
     }
 
-    json section_planes_json(SUEntitiesRef root) const {
-        json planes = json::array();
-        std::size_t number = 0;
-        for (const SUSectionPlaneRef plane : su_list(root, SUEntitiesGetNumSectionPlanes, SUEntitiesGetSectionPlanes)) {
-            SUPlane3D p{};
-            SUSectionPlaneGetPlane(plane, &p);
-            planes.push_back({{"name", section_plane_name(++number)},
-                              {"plane",
-                               {gltf::short_number(p.a), gltf::short_number(p.b), gltf::short_number(p.c),
-                                gltf::short_number(p.d * metres_in_an_inch)}}});
-        }
-        return planes;
-    }
-
     // The camera of the model, and of each scene that keeps one. Gives their names.
     json add_cameras(std::vector<std::size_t>& to, double reach) {
         json names = json::array();
@@ -131,7 +117,7 @@ private:
                        {"box_metres", box},
                        {"layers", layers_json()},
                        {"views", views},
-                       {"section_planes", section_planes_json(root)}};
+                       {"section_planes", nodes.section_planes()}};
         if (asked.with_attributes) {
             const json found = attributes_json(model);
             if (!found.is_null())
