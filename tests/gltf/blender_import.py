@@ -1,5 +1,5 @@
-"""Imports GLB files into Blender and compares what it has then with what the files say: triangles, lines, pictures and
-the box of all. Status 0 if all agree.
+"""Imports GLB files into Blender and compares what it has then with what the files say: triangles, lines, pictures,
+materials and the box of all. Status 0 if all agree.
 
     blender -b --factory-startup --python-exit-code 1 --python blender_import.py -- FILE...
 """
@@ -34,7 +34,8 @@ class Glb:
         return found.reshape(-1, width) if width > 1 else found
 
     def figures(self):
-        """Triangles and lines of the meshes, pictures in use, and the two corners of the placed whole, z up."""
+        """Triangles and lines of the meshes, pictures in use, materials in use, and the two corners of the placed whole,
+        z up."""
         triangles = lines = 0
         for mesh in self.json.get("meshes", []):
             for primitive in mesh["primitives"]:
@@ -46,7 +47,10 @@ class Glb:
         points = []
         self.place(self.json["scenes"][0]["nodes"][0], Matrix(((1, 0, 0, 0), (0, 0, -1, 0), (0, 1, 0, 0), (0, 0, 0, 1))), points)
         pictures = {texture["source"] for texture in self.json.get("textures", [])}
-        return triangles, lines, len(pictures), box_of(points)
+        # A material of lines alone is none for Blender's importer, which gives loose edges no material.
+        materials = {primitive["material"] for mesh in self.json.get("meshes", []) for primitive in mesh["primitives"]
+                     if primitive.get("mode", 4) == 4}
+        return triangles, lines, len(pictures), len(materials), box_of(points)
 
     def place(self, at, parent, points):
         node = self.json["nodes"][at]
@@ -88,21 +92,24 @@ def seen_by_blender(name):
             thing.data.vertices.foreach_get("co", flat)
             points.append(placed(flat.reshape(-1, 3), thing.matrix_world))
     pictures = [image for image in bpy.data.images if image.source == "FILE" and image.users > 0]
-    return triangles, lines, len(pictures), box_of(points)
+    materials = {mesh.materials[polygon.material_index].name for mesh in bpy.data.meshes for polygon in mesh.polygons}
+    return triangles, lines, len(pictures), len(materials), box_of(points)
 
 
 def agree(file, blender):
-    if file[:3] != blender[:3]:
+    *counts, box = file
+    *found, seen = blender
+    if counts != found:
         return False
-    if file[3] is None or blender[3] is None:
-        return file[3] is None and blender[3] is None
-    size = max(numpy.abs(file[3]).max(), 1)
-    return numpy.abs(numpy.array(file[3]) - numpy.array(blender[3])).max() <= 1e-5 * size
+    if box is None or seen is None:
+        return box is None and seen is None
+    size = max(numpy.abs(box).max(), 1)
+    return numpy.abs(numpy.array(box) - numpy.array(seen)).max() <= 1e-5 * size
 
 
 def main():
-    faults = 0
     names = sys.argv[sys.argv.index("--") + 1:]
+    faults = 0 if names else 1
     for name in names:
         file, blender = Glb(name).figures(), seen_by_blender(name)
         if not agree(file, blender):
