@@ -217,16 +217,27 @@ async function checkSample(file) {
     return true;
 }
 
+// What must be there: a folder that is empty or half read would else pass.
+const expected = { examples: 3, models: 139, open: 134 };
+
 fs.mkdirSync(output, { recursive: true });
 let models = 0;
+let open = 0;
+let exampleCount = 0;
 for (const example of fs.readdirSync(examples).filter((name) => fs.existsSync(path.join(examples, name, 'expected')))) {
     await checkBatch(example, path.join(examples, example, 'expected'));
     const model = path.join(output, `${example}.skp`);
     run(`example_${example}`, [model]);
     await checkModel(example, model, [], JSON.parse(run('skp-dump', ['--json', model]).stdout).written);
+    ++exampleCount;
 }
-for (const file of samples ? fs.readdirSync(samples).filter((name) => name.endsWith('.skp')).sort() : [])
-    if (await checkSample(path.join(samples, file))) ++models;
+for (const file of samples ? fs.readdirSync(samples).filter((name) => name.endsWith('.skp')).sort() : []) {
+    ++models;
+    if (await checkSample(path.join(samples, file))) ++open;
+}
+if (exampleCount !== expected.examples) fault('examples', `there are ${exampleCount}, not ${expected.examples}`);
+if (samples && (models !== expected.models || open !== expected.open))
+    fault('models', `of ${models} models ${open} open, not ${expected.open} of ${expected.models}`);
 for (const text of faults) console.log(text);
-console.log(`${models} models and the examples, both ways: ${faults.length} faults`);
+console.log(`${open} models and ${exampleCount} examples, both ways: ${faults.length} faults`);
 process.exitCode = faults.length > 0 ? 1 : 0;
