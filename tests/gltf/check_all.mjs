@@ -191,6 +191,14 @@ async function checkModel(name, model, options, figures) {
     const glb = readGlb(file);
     const shown = flattened(glb);
     lookWithAssimp(`model ${name}`, file, glb, shown);
+    const { counts } = glb.json.scenes[0].extras;
+    if (counts.images !== figures.images) fault(name, `${options} skp-dump finds ${figures.images} images, the file has ${counts.images}`);
+    if (figures.placements) {
+        const placements = (figures.placements.group ?? 0) + (figures.placements.instance ?? 0);
+        if (counts.placements !== placements) fault(name, `${options} skp-dump finds ${placements} placements, the file has ${counts.placements}`);
+        const named = (glb.json.nodes ?? []).filter((node) => node.extras?.layer !== undefined).length;
+        if (named !== placements + figures.images) fault(name, `${options} there are ${named} nodes for ${placements} placements and ${figures.images} images`);
+    }
     if (figures.faces + figures.images === 0) return;
     if (!sameBox(turned(inMetres(figures.box)), shown.triangles))
         fault(name, `${options} skp-dump's box is ${JSON.stringify(turned(inMetres(figures.box)))}, not ${JSON.stringify(shown.triangles)}`);
