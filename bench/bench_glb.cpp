@@ -1,6 +1,7 @@
 // What a GLB file costs: a stream of half a million triangles as one, beside splitting the lines of that stream alone,
 // which any reader has to do; with memory for all of it and with little; and a model of 100,000 placements of one
-// definition. "bytes a placement" is what the file grows by for each.
+// definition. "bytes a placement" is what the file grows by for each, at most 200. A stream shall become a GLB file at
+// 0.12 of the speed of splitting its lines or faster, whatever the memory: split_lines by stream_to_glb, in one run.
 
 #include "platform/platform.h"
 #include "sketchup/builder/model_builder.h"
@@ -57,7 +58,7 @@ const batch_folder& batch() {
 void count_bytes(benchmark::State& state) {
     const auto size = static_cast<std::int64_t>(std::filesystem::file_size(batch().folder / "batch_file.txt"));
     state.SetBytesProcessed(state.iterations() * size);
-    state.counters["peak_MB"] = static_cast<double>(platform::working_set_bytes()) * 1e-6;
+    state.counters["resident_MB"] = static_cast<double>(platform::working_set_bytes()) * 1e-6;
 }
 
 void split_lines(benchmark::State& state) {
