@@ -2,12 +2,13 @@
 
 #include "platform/platform.h"
 #include "tools/batch_glb/stream_numbers.h"
+#include "tools/gltf/numbers.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 constexpr int corners_of_a_beam = 16;        // four sides of four; of each two at its start and then two at its end
 constexpr double corners_of_an_end = 8;
 

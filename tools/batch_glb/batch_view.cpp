@@ -15,7 +15,7 @@ namespace {
 using gltf::double3;
 
 constexpr double pi = std::numbers::pi;
-constexpr double metres_in_an_inch = 0.0254;   // exact by definition
+using gltf::metres_in_an_inch;
 constexpr double nearest = 0.01;               // metres in front of the eye from which on things are seen
 constexpr double usual_field_of_view = pi / 5; // where the view says none
 constexpr double daylight_lux = 3;             // bright, in viewers that set no exposure

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 
 void take_real(std::string_view text, double& into, double factor = 1) {
     const auto number = read_real(text);

@@ -6,6 +6,8 @@
 
 namespace gltf {
 
+inline constexpr double metres_in_an_inch = 0.0254; // exact by definition
+
 // The number that the shortest decimal text of its nearest single-precision number means: nine digits at most in JSON.
 // What is not finite, or beyond single precision, becomes 0, for JSON has no word for it.
 double short_number(double number);

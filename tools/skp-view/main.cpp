@@ -4,6 +4,7 @@
 #include "text/path_end.h"
 #include "tools/command_line/answers.h"
 #include "tools/command_line/within_memory.h"
+#include "tools/gltf/numbers.h"
 #include "tools/model_opening/opened_model.h"
 #include "tools/page/draw_into_place.h"
 #include "tools/page/view_options.h"
@@ -31,7 +32,7 @@ constexpr std::string_view usage =
     "be\n"
     "written. What of the model could not be shown is said on standard error.\n";
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 
 void say(const std::string& words) {
     std::fprintf(stderr, "skp-view: %s\n", words.c_str());

@@ -1,12 +1,13 @@
 #include "tools/skp_glb/definition_meshes.h"
 
+#include "tools/gltf/numbers.h"
 #include "tools/model_opening/placed_image.h"
 #include "tools/model_opening/su_lists.h"
 #include "tools/skp_glb/mesh_parts.h"
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 
 bool is_bare(SUFaceRef face) {
     SUMaterialRef material = SU_INVALID;

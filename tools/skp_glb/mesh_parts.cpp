@@ -1,12 +1,13 @@
 #include "tools/skp_glb/mesh_parts.h"
 
+#include "tools/gltf/numbers.h"
 #include "tools/model_opening/su_lists.h"
 
 #include <cmath>
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 
 gltf::float3 in_metres(const SUPoint3D& p) {
     return {static_cast<float>(p.x * metres_in_an_inch), static_cast<float>(p.y * metres_in_an_inch),

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 constexpr double nearest = 0.01;             // metres in front of the eye from which on things are seen
 constexpr double usual_aspect = 16.0 / 9.0;  // of a window, where the camera has none of its own
 

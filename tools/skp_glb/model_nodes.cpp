@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 
 gltf::double3 turned(const gltf::frame& by, const gltf::double3& v) {
     gltf::double3 result{};

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254; // exact by definition
+using gltf::metres_in_an_inch;
 
 using gltf::json;
 
