@@ -1,6 +1,7 @@
 #include "tools/batch_glb/lamp_light.h"
 
 #include "tools/batch_glb/stream_numbers.h"
+#include "tools/batch_reading/text_lines.h"
 #include "tools/gltf/numbers.h"
 
 #include <algorithm>
@@ -14,12 +15,6 @@ constexpr double pi = std::numbers::pi;
 constexpr double lumens_of_a_watt = 17;
 constexpr double widest_cone = pi / 2; // half of it, which is how the format counts
 constexpr double usual_cone = pi / 4;  // where a lamp says none
-
-void take_real(std::string_view value, double& into) {
-    const auto number = read_real(value);
-    if (number && std::isfinite(*number))
-        into = *number;
-}
 
 void take_triple(std::string_view value, gltf::double3& into) {
     const auto triple = read_triple(value);
@@ -38,7 +33,7 @@ void take_color(std::string_view value, std::array<double, 3>& into) {
     into = {(color >> 16U & 255) / 255.0, (color >> 8U & 255) / 255.0, (color & 255) / 255.0};
 }
 
-void take_line(std::string_view key, std::string_view value, lamp_file& lamp) {
+void take_value(std::string_view key, std::string_view value, lamp_file& lamp) {
     if (key == "location")
         take_triple(value, lamp.location);
     else if (key == "direction")
@@ -74,14 +69,10 @@ double half_in_radians(double degrees) {
 lamp_file read_lamp_file(std::string_view text) {
     lamp_file lamp;
     while (!text.empty()) {
-        const std::size_t feed = text.find('\n');
-        std::string_view line = text.substr(0, feed);
-        text.remove_prefix(feed == std::string_view::npos ? text.size() : feed + 1);
-        if (line.ends_with('\r'))
-            line.remove_suffix(1);
+        const std::string_view line = take_line(text);
         const std::size_t semicolon = line.find(';');
         if (semicolon != std::string_view::npos)
-            take_line(line.substr(0, semicolon), line.substr(semicolon + 1), lamp);
+            take_value(line.substr(0, semicolon), line.substr(semicolon + 1), lamp);
     }
     return lamp;
 }

@@ -2,6 +2,7 @@
 
 #include "text/letter_case.h"
 #include "tools/batch_glb/stream_numbers.h"
+#include "tools/batch_reading/text_lines.h"
 #include "tools/gltf/numbers.h"
 
 #include <algorithm>
@@ -17,22 +18,7 @@ constexpr double least_refraction = 1; // what the format allows; less, in a fil
 constexpr double most_refraction = 100;
 constexpr double brightest_glow = 1e6; // a hundred megawatts; what is beyond single precision would not glow at all
 
-std::string_view next_line(std::string_view& text) {
-    const std::size_t feed = text.find('\n');
-    std::string_view line = text.substr(0, feed);
-    text.remove_prefix(feed == std::string_view::npos ? text.size() : feed + 1);
-    if (line.ends_with('\r'))
-        line.remove_suffix(1);
-    return line;
-}
-
-void take_real(std::string_view value, double& into) {
-    const std::optional<double> number = read_real(value);
-    if (number && std::isfinite(*number))
-        into = *number;
-}
-
-void take_line(std::string_view key, std::string_view value, material_look& look) {
+void take_value(std::string_view key, std::string_view value, material_look& look) {
     if (key == "Disp")
         look.display_name = value;
     else if (key == "OrnMaterial Type")
@@ -90,10 +76,10 @@ std::optional<material_look> read_material_look(std::string_view text) {
     material_look look;
     look.basics = std::move(*basics);
     while (!text.empty()) {
-        const std::string_view line = next_line(text);
+        const std::string_view line = take_line(text);
         const std::size_t colon = line.find(": ");
         if (colon != std::string_view::npos)
-            take_line(line.substr(0, colon), line.substr(colon + 2), look);
+            take_value(line.substr(0, colon), line.substr(colon + 2), look);
     }
     return look;
 }

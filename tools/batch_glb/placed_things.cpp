@@ -14,11 +14,6 @@ namespace {
 
 using gltf::metres_in_an_inch;
 
-void take_real(std::string_view text, double& into, double factor = 1) {
-    const auto number = read_real(text);
-    into = number && std::isfinite(*number) ? *number * factor : into;
-}
-
 void take_point(std::string_view text, gltf::double3& into, double factor = 1) {
     const auto triple = read_triple(text);
     if (!triple)

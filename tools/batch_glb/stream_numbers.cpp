@@ -1,6 +1,7 @@
 #include "tools/batch_glb/stream_numbers.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 
 namespace {
@@ -84,6 +85,12 @@ std::optional<int> read_integer(std::string_view text) {
 std::optional<double> read_real(std::string_view text) {
     double result = 0;
     return take_number(text, result) && text.empty() ? std::optional(result) : std::nullopt;
+}
+
+void take_real(std::string_view text, double& into, double factor) {
+    const auto number = read_real(text);
+    if (number && std::isfinite(*number))
+        into = *number * factor;
 }
 
 std::optional<std::array<int, 3>> read_corners(std::string_view text) {

@@ -19,5 +19,9 @@ std::optional<int> read_integer(std::string_view text);
 // A number with nothing behind it.
 std::optional<double> read_real(std::string_view text);
 
+// Puts a number with nothing behind it, times the factor, in place of another; one that does not parse, or is not
+// finite, leaves that.
+void take_real(std::string_view text, double& into, double factor = 1);
+
 // Three whole numbers between commas, with or without blanks behind those.
 std::optional<std::array<int, 3>> read_corners(std::string_view text);

@@ -1,17 +1,10 @@
 #include "tools/batch_reading/material_reader.h"
 
+#include "tools/batch_reading/text_lines.h"
+
 #include <cstdlib>
 
 namespace {
-
-std::string_view next_line(std::string_view& text) {
-    const std::size_t feed = text.find('\n');
-    std::string_view line = text.substr(0, feed);
-    text.remove_prefix(feed == std::string_view::npos ? text.size() : feed + 1);
-    if (line.ends_with('\r'))
-        line.remove_suffix(1);
-    return line;
-}
 
 // What stands behind the key; nothing if the line has another one.
 std::optional<std::string> value_of(std::string_view line, std::string_view key) {
@@ -23,13 +16,13 @@ std::optional<std::string> value_of(std::string_view line, std::string_view key)
 } // namespace
 
 std::optional<read_material> read_material_file(std::string_view text) {
-    const std::optional<std::string> name = value_of(next_line(text), "Matl: ");
+    const std::optional<std::string> name = value_of(take_line(text), "Matl: ");
     if (!name)
         return std::nullopt;
     read_material found;
     found.name = *name;
     while (!text.empty()) {
-        const std::string_view line = next_line(text);
+        const std::string_view line = take_line(text);
         if (const auto color = value_of(line, "Color: "))
             found.color = static_cast<std::uint32_t>(std::strtoul(color->c_str(), nullptr, 10));
         else if (const auto transparency = value_of(line, "Trans: "))
