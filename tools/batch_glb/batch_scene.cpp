@@ -12,26 +12,14 @@ using gltf::metres_in_an_inch;
 constexpr int corners_of_a_beam = 16;        // four sides of four; of each two at its start and then two at its end
 constexpr double corners_of_an_end = 8;
 
-bool is_finite(const gltf::float3& v) {
-    return std::isfinite(v[0]) && std::isfinite(v[1]) && std::isfinite(v[2]);
-}
-
 double square_length(const gltf::float3& v) {
     return double{v[0]} * v[0] + double{v[1]} * v[1] + double{v[2]} * v[2];
-}
-
-// Unit; up for what has no length.
-gltf::float3 unit(const std::array<double, 3>& v) {
-    const double size = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
-    if (!(size > 0) || !std::isfinite(size))
-        return {0, 0, 1};
-    return {static_cast<float>(v[0] / size), static_cast<float>(v[1] / size), static_cast<float>(v[2] / size)};
 }
 
 gltf::float3 normal_of(const gltf::float3& a, const gltf::float3& b, const gltf::float3& c) {
     const std::array<double, 3> u = {double{b[0]} - a[0], double{b[1]} - a[1], double{b[2]} - a[2]};
     const std::array<double, 3> v = {double{c[0]} - a[0], double{c[1]} - a[1], double{c[2]} - a[2]};
-    return unit({u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2], u[0] * v[1] - u[1] * v[0]});
+    return gltf::unit_vector(u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2], u[0] * v[1] - u[1] * v[0]);
 }
 
 } // namespace
@@ -128,7 +116,7 @@ std::uint32_t batch_scene::vertex_in(part& to, block_vertex& vertex, const gltf:
     gltf::float3 normal = corner.normal;
     const double square = square_length(normal);
     if (!(std::abs(square - 1) < 1e-5)) // nine digits leave less
-        normal = square > 0 && std::isfinite(square) ? unit({normal[0], normal[1], normal[2]}) : face_normal;
+        normal = square > 0 && std::isfinite(square) ? gltf::unit_vector(normal[0], normal[1], normal[2]) : face_normal;
     gltf::float2 at{};
     if (std::isfinite(corner.coordinates[0]) && std::isfinite(corner.coordinates[1]))
         at = {corner.coordinates[0], 1 - corner.coordinates[1]};

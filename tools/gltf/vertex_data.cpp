@@ -1,6 +1,7 @@
 #include "tools/gltf/vertex_data.h"
 
 #include <algorithm>
+#include <cmath>
 #include <bit>
 
 namespace gltf {
@@ -60,6 +61,17 @@ json primitive_of(json attributes, std::size_t indices, primitive_mode mode) {
 }
 
 } // namespace
+
+bool is_finite(const float3& v) {
+    return std::isfinite(v[0]) && std::isfinite(v[1]) && std::isfinite(v[2]);
+}
+
+float3 unit_vector(double x, double y, double z) {
+    const double size = std::sqrt(x * x + y * y + z * z);
+    if (!(size > 0) || !std::isfinite(size))
+        return {0, 0, 1};
+    return {static_cast<float>(x / size), static_cast<float>(y / size), static_cast<float>(z / size)};
+}
 
 void float_range::include(const float3& point) {
     if (is_empty)

@@ -14,6 +14,11 @@ namespace gltf {
 using float3 = std::array<float, 3>;
 using float2 = std::array<float, 2>;
 
+bool is_finite(const float3& v);
+
+// A vector of length 1; up, along z, for what has no length or is not finite.
+float3 unit_vector(double x, double y, double z);
+
 // The least and the greatest of each component: what a file must say of positions, to the bit.
 struct float_range {
     float3 low{};

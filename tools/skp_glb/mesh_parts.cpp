@@ -14,19 +14,6 @@ gltf::float3 in_metres(const SUPoint3D& p) {
             static_cast<float>(p.z * metres_in_an_inch)};
 }
 
-bool is_finite(const gltf::float3& v) {
-    return std::isfinite(v[0]) && std::isfinite(v[1]) && std::isfinite(v[2]);
-}
-
-// Unit, turned round for the back; up for what has no length.
-gltf::float3 unit(const SUVector3D& v, double side) {
-    const double size = std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z);
-    if (!(size > 0) || !std::isfinite(size))
-        return {0, 0, 1};
-    const double factor = side / size;
-    return {static_cast<float>(v.x * factor), static_cast<float>(v.y * factor), static_cast<float>(v.z * factor)};
-}
-
 // Pictures are looked up at u / q, v / q from the upper left corner.
 gltf::float2 place_in_picture(const SUPoint3D& uvq, const model_materials::picture_scale& scale) {
     const double q = uvq.z != 0 ? uvq.z : 1;
@@ -111,7 +98,8 @@ void mesh_parts::add_side(SUFaceRef face, const face_mesh& mesh, bool front, con
     // A face with a front and a back of its own has its back's triangles the other way round.
     const bool turned = !front && !two_sided;
     for (const SUVector3D& normal : mesh.normals)
-        to.data.normals.push_back(unit(normal, turned ? -1 : 1));
+        to.data.normals.push_back(turned ? gltf::unit_vector(-normal.x, -normal.y, -normal.z)
+                                         : gltf::unit_vector(normal.x, normal.y, normal.z));
     if (picture)
         for (const SUPoint3D& uvq : mesh.coordinates(front))
             to.data.coordinates.push_back(place_in_picture(uvq, *picture));
