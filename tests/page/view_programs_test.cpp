@@ -84,8 +84,8 @@ TEST(BatchView, a_triangle_beyond_single_precision_does_not_take_the_view_away_f
     };
     std::array<std::string, 2> pictures;
     for (const bool with_far_one : {false, true}) {
-        folder.write("batch/batch_file.txt", "#;\r\n" + begins + triangle("1") +
-                                                 (with_far_one ? begins + triangle("1e300") : "") + "END;\r\n");
+        folder.write("batch/batch_file.txt",
+                     "#;\r\n" + begins + triangle("1") + (with_far_one ? begins + triangle("1e300") : "") + "END;\r\n");
         const program_result seen = run("batch-view", {folder / "batch", "--png", folder / "a.png", "--size", "40x40"});
         EXPECT_EQ(seen.status, 0) << seen.errors;
         pictures[with_far_one ? 1 : 0] = folder.read("a.png");
@@ -120,8 +120,7 @@ TEST(SkpView, a_picture_without_background_is_clear_at_its_corner) {
 TEST(SkpView, a_picture_that_cannot_be_shown_is_told_of) {
     const temporary_folder folder;
     sketchup::model_builder builder;
-    builder.face(builder.root().square(10)).material =
-        builder.textured_material("Oak", {1, 2, 3, 4}, "oak.png", 5, 5);
+    builder.face(builder.root().square(10)).material = builder.textured_material("Oak", {1, 2, 3, 4}, "oak.png", 5, 5);
     const auto bytes = skp::write_classic(*builder.finish(), skp::classic_version::v17);
     folder.write("a.skp", {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     const program_result seen = run("skp-view", {folder / "a.skp", "--png", folder / "a.png", "--size", "8x8"});

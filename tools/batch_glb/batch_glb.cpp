@@ -114,9 +114,9 @@ public:
             result.outcome = batch_glb_outcome::not_written;
         result.notes = notes_of(reading, scene);
         if (!lamps_without_file.empty())
-            result.notes.push_back("lamps of the stream without a file that can be read: " +
-                                   std::to_string(lamps_without_file.size()) + ", the first of them lamp " +
-                                   std::to_string(lamps_without_file.front()));
+            result.notes.push_back(
+                "lamps of the stream without a file that can be read: " + std::to_string(lamps_without_file.size()) +
+                ", the first of them lamp " + std::to_string(lamps_without_file.front()));
         result.counts = scene.counts();
         result.box = scene.box();
         return result;

@@ -35,8 +35,8 @@ void batch_materials::note(const std::string& text) {
 }
 
 batch_materials::file_look batch_materials::read_look(std::string_view name) {
-    const std::string path = folder + platform::path_separator + "ZynBatch_Materials" + platform::path_separator +
-                             file_of_material(name);
+    const std::string path =
+        folder + platform::path_separator + "ZynBatch_Materials" + platform::path_separator + file_of_material(name);
     const auto bytes = platform::read_file(path, most_bytes_of_a_file);
     std::optional<material_look> look;
     if (bytes)

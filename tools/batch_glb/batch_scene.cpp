@@ -9,7 +9,7 @@
 namespace {
 
 using gltf::metres_in_an_inch;
-constexpr int corners_of_a_beam = 16;        // four sides of four; of each two at its start and then two at its end
+constexpr int corners_of_a_beam = 16; // four sides of four; of each two at its start and then two at its end
 constexpr double corners_of_an_end = 8;
 
 double square_length(const gltf::float3& v) {

@@ -125,7 +125,8 @@ std::string glb_writer::finish(const json& document) {
     if (total > most_bytes)
         return "a GLB file of more than the " + std::to_string(most_bytes) + " bytes of the format would be needed";
     const std::string part = target + ".part";
-    if (!spooled.has_failed() && !is_torn && write_parts(head, tail, json_bytes) && platform::rename_replacing(part, target))
+    if (!spooled.has_failed() && !is_torn && write_parts(head, tail, json_bytes) &&
+        platform::rename_replacing(part, target))
         return {};
     platform::delete_file(part);
     return "the file " + target + " cannot be written: the disk may be full, or the folder may not be written to";

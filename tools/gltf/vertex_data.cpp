@@ -1,8 +1,8 @@
 #include "tools/gltf/vertex_data.h"
 
 #include <algorithm>
-#include <cmath>
 #include <bit>
+#include <cmath>
 
 namespace gltf {
 

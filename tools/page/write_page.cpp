@@ -84,8 +84,7 @@ std::string write_page(const page_facts& facts, const std::string& glb_file, con
     platform::file page;
     if (!page.open(part, platform::open_mode::write))
         return page_file + ": " + page.failure();
-    const bool has_head =
-        page.write_all(page_text().substr(0, place)) && page.write_all(facts_element(facts, *size));
+    const bool has_head = page.write_all(page_text().substr(0, place)) && page.write_all(facts_element(facts, *size));
     const model_written model = has_head ? write_model(glb, *size, page) : model_written::not_written;
     const bool is_written = model == model_written::whole &&
                             page.write_all(page_text().substr(place + place_of_data.size())) && page.close();

@@ -23,8 +23,8 @@ public:
     // Draws what is not opaque, which has waited until all else stands.
     void finish();
     // What could not be shown, in words, a line each: at most twenty files of materials and pictures that cannot be
-    // read, each once, in the order in which they were looked for; how many materials found no room; whether the picture
-    // is cut short.
+    // read, each once, in the order in which they were looked for; how many materials found no room; whether the
+    // picture is cut short.
     std::vector<std::string> notes() const;
 
 private:

@@ -4,8 +4,8 @@
 // changes its looks.
 
 #include "tools/gltf/vertex_data.h"
-#include "tools/skp_glb/model_materials.h"
 #include "tools/model_opening/walked_place.h"
+#include "tools/skp_glb/model_materials.h"
 
 #include <map>
 #include <optional>

@@ -3,8 +3,8 @@
 // The faces and edges of one list as primitives: one for each material, layer and sidedness.
 
 #include "tools/gltf/vertex_data.h"
-#include "tools/skp_glb/model_materials.h"
 #include "tools/model_opening/walked_place.h"
+#include "tools/skp_glb/model_materials.h"
 
 #include <compare>
 #include <map>

@@ -10,8 +10,8 @@
 namespace {
 
 using gltf::metres_in_an_inch;
-constexpr double nearest = 0.01;             // metres in front of the eye from which on things are seen
-constexpr double usual_aspect = 16.0 / 9.0;  // of a window, where the camera has none of its own
+constexpr double nearest = 0.01;            // metres in front of the eye from which on things are seen
+constexpr double usual_aspect = 16.0 / 9.0; // of a window, where the camera has none of its own
 
 gltf::json perspective_of(SUCameraRef camera, double aspect) {
     double degrees = 35;
