@@ -69,7 +69,7 @@ void batch_scene::add_beam_corner(const gltf::float3& position) {
 }
 
 void batch_scene::add_line(const gltf::float3& from, const gltf::float3& to) {
-    if (!is_finite(from) || !is_finite(to))
+    if (!gltf::is_finite(from) || !gltf::is_finite(to))
         return;
     const std::uint32_t first = edges.add_vertex(from, {}, {});
     const std::array<std::uint32_t, 2> both = {first, edges.add_vertex(to, {}, {})};
@@ -140,7 +140,7 @@ void batch_scene::triangle(const std::array<int, 3>& corners, std::uint64_t line
     std::array<block_vertex*, 3> at{};
     for (std::size_t i = 0; i < 3; ++i) {
         at[i] = vertices.find(corners[i]);
-        if (at[i] == nullptr || !is_finite(at[i]->corner.position)) {
+        if (at[i] == nullptr || !gltf::is_finite(at[i]->corner.position)) {
             ++found.triangles_left_out;
             return;
         }

@@ -38,7 +38,7 @@ struct mesh_parts::face_mesh {
         SUMeshHelperGetVertexIndices(mesh, indices.size(), indices.data(), &count);
         indices.resize(count);
         for (const SUPoint3D& vertex : vertices)
-            sound = sound && is_finite(in_metres(vertex));
+            sound = sound && gltf::is_finite(in_metres(vertex));
     }
     ~face_mesh() {
         SUMeshHelperRelease(&mesh);
@@ -133,7 +133,7 @@ std::uint32_t mesh_parts::end_of_line(part& to, SUVertexRef vertex) {
         SUPoint3D position{};
         SUVertexGetPosition(vertex, &position);
         gltf::float3 place = in_metres(position);
-        if (!is_finite(place))
+        if (!gltf::is_finite(place))
             place = {};
         entry->second = static_cast<std::uint32_t>(to.data.positions.size());
         to.data.positions.push_back(place);
