@@ -82,8 +82,9 @@ TEST(MaterialLook, is_sound_whatever_the_numbers_are) {
         ASSERT_TRUE(glass["extensions"].contains("KHR_materials_transmission")) << refraction;
         const bool says_it = glass["extensions"].contains("KHR_materials_ior");
         EXPECT_EQ(says_it, std::string(refraction) == "1e300"); // the others are below what the format allows
-        if (says_it)
+        if (says_it) {
             EXPECT_EQ(glass["extensions"]["KHR_materials_ior"]["ior"], 100);
+        }
     }
     EXPECT_FALSE(read_material_look("no material"));
 }
