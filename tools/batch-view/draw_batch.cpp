@@ -8,25 +8,19 @@
 #include "tools/raster/rasterizer.h"
 #include "tools/raster/stream_painter.h"
 
-#include <cmath>
-#include <limits>
 #include <numbers>
 #include <string_view>
 
 namespace {
 
-// Of corners that single precision can hold: others show nothing, in no viewer.
 struct box_finder : public stream_visitor {
     void triangle(const stream_triangle& found) override {
-        gltf::float_range of_one;
+        if (found.unseen || !lies_somewhere(found))
+            return;
         for (const stream_vertex* corner : found.corners) {
-            for (const double part : corner->position)
-                if (!(std::abs(part) <= double{std::numeric_limits<float>::max()}))
-                    return;
             const auto& [x, y, z] = corner->position;
-            of_one.include(gltf::float3{static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)});
+            box.include(gltf::float3{static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)});
         }
-        box.include(of_one);
     }
     gltf::float_range box;
 };

@@ -123,6 +123,8 @@ private:
             standing.layer = payload;
         else if (tag == "CULL")
             standing.one_sided = payload == "1";
+        else if (tag == "INVS")
+            standing.unseen = payload == "1";
         else if (tag == "MATL")
             number(payload, standing.material);
         else if (tag == "MAT2")

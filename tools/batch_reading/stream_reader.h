@@ -24,6 +24,7 @@ struct stream_triangle {
     int material = 0;      // number of "MATL;", 0 if none was given
     int back_material = 0; // number of "MAT2;", 0 if none was given
     bool one_sided = false;
+    bool unseen = false; // by the camera
     std::string_view layer;
 };
 

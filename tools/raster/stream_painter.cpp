@@ -5,7 +5,10 @@
 #include "tools/batch_reading/batch_pictures.h"
 #include "tools/batch_reading/material_reader.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -30,6 +33,13 @@ color shaded(const color& paint, const stream_triangle& found, bool front) {
 }
 
 } // namespace
+
+bool lies_somewhere(const stream_triangle& found) {
+    constexpr double most = std::numeric_limits<float>::max();
+    return std::ranges::all_of(found.corners, [](const stream_vertex* corner) {
+        return std::ranges::all_of(corner->position, [](double part) { return std::abs(part) <= most; });
+    });
+}
 
 stream_painter::stream_painter(std::string batch_folder, rasterizer& into)
     : folder(std::move(batch_folder)), picture(into) {}
@@ -96,6 +106,8 @@ std::vector<std::string> stream_painter::notes() const {
         all.push_back("cannot read " + name);
     if (!room.note().empty())
         all.push_back(room.note());
+    if (left_out > 0)
+        all.push_back(std::to_string(left_out) + " triangles have corners that lie nowhere");
     if (picture.is_cut_short())
         all.emplace_back("the picture would take too long: not everything is drawn");
     return all;
@@ -118,6 +130,12 @@ stream_painter::paint stream_painter::paint_of(const stream_triangle& found, boo
 }
 
 void stream_painter::triangle(const stream_triangle& found) {
+    if (found.unseen)
+        return;
+    if (!lies_somewhere(found)) {
+        ++left_out;
+        return;
+    }
     clear_triangle t;
     for (std::size_t i = 0; i < t.corners.size(); ++i) {
         t.corners[i] = found.corners[i]->position;

@@ -8,10 +8,14 @@
 #include "tools/batch_reading/stream_reader.h"
 #include "tools/raster/rasterizer.h"
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
+
+// Whether single precision can hold its corners: others lie nowhere, in any viewer, and are not drawn.
+bool lies_somewhere(const stream_triangle& found);
 
 class stream_painter : public stream_visitor {
 public:
@@ -57,4 +61,5 @@ private:
     std::map<std::string, std::optional<image::picture>> pictures; // by full name
     std::vector<clear_triangle> clear;
     std::vector<std::string> missing_files;
+    std::uint64_t left_out = 0; // triangles
 };
