@@ -31,13 +31,14 @@ function example(name) {
   return made[name];
 }
 
+// Till the browser has drawn what changed, and told the page what it tells with a picture.
+const drawnAnew = (page) => page.evaluate(() => new Promise((resume) => requestAnimationFrame(() => requestAnimationFrame(resume))));
+
 // Opened with the panel away, so that the canvas is as large as the picture of the program.
 async function bare(file) {
   const opened = await openPage(file, width, height);
-  await opened.page.evaluate(() => {
-    document.getElementById('panel').hidden = true;
-    return new Promise((resume) => requestAnimationFrame(() => requestAnimationFrame(resume)));
-  });
+  await opened.page.evaluate(() => { document.getElementById('panel').hidden = true; });
+  await drawnAnew(opened.page);
   return opened;
 }
 
@@ -277,13 +278,17 @@ test('the materials of a layer are a list that a key opens', async () => {
 test('light and dark follow the system until somebody chooses', async () => {
   const { page } = await openPage(example('room').page, 900, 600, { colorScheme: 'dark' });
   const theme = () => page.evaluate(() => document.documentElement.dataset.theme);
+  const systemBecomes = async (colorScheme) => {
+    await page.emulateMedia({ colorScheme });
+    await drawnAnew(page);
+  };
   assert.equal(await theme(), 'dark');
-  await page.emulateMedia({ colorScheme: 'light' });
+  await systemBecomes('light');
   assert.equal(await theme(), 'light');
   await page.getByRole('button', { name: 'Theme' }).click();
   assert.equal(await theme(), 'dark');
-  await page.emulateMedia({ colorScheme: 'dark' });
-  await page.emulateMedia({ colorScheme: 'light' });
+  await systemBecomes('dark');
+  await systemBecomes('light');
   assert.equal(await theme(), 'dark');
   await page.close();
 });
