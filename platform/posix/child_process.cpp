@@ -133,6 +133,13 @@ public:
         sigaction(SIGCHLD, &old_action, nullptr);
     }
 
+    // Handles the signals that have come by now. A wait leaves them where they are when there is something to read.
+    void take_signals() const {
+        sigset_t blocked;
+        sigprocmask(SIG_SETMASK, &waiting_mask, &blocked);
+        sigprocmask(SIG_SETMASK, &blocked, nullptr);
+    }
+
     const sigset_t& mask_of_children() const { return old_mask; }
     const sigset_t& mask_while_waiting() const { return waiting_mask; }
 
@@ -272,6 +279,7 @@ public:
     child_end watch() {
         child_fate fate = child_fate::ended;
         while (fate == child_fate::ended && !has_ended()) {
+            waker.take_signals();
             if (!end_request().empty())
                 fate = child_fate::called_off;
             else if (deadline && clock::now() >= *deadline)
