@@ -42,7 +42,7 @@ TEST(BatchFindings, quotes_are_short_and_name_no_place_of_the_disk) {
     EXPECT_EQ(in_quotes("C:\\batch\\Plants\\Oak"), "\".../Oak\"");
     EXPECT_EQ(in_quotes("\\\\server\\share\\Oak"), "\".../Oak\"");
     EXPECT_EQ(in_quotes("Oak/Ash"), "\"Oak/Ash\"");
-    EXPECT_EQ(in_quotes(std::string("a\0b\n", 4)), "\"a?b?\"");
+    EXPECT_EQ(in_quotes(std::string("a\0b\n", 4)), "\"a\\x00b\\x0a\"");
     EXPECT_EQ(in_quotes(std::string(100, 'x')), '"' + std::string(80, 'x') + "...\"");
     EXPECT_EQ(in_quotes("MATF;" + std::string(500, 'x') + " /home/somebody").size(), 85U);
 }
@@ -54,7 +54,7 @@ TEST(BatchFindings, quotes_know_a_full_name_behind_every_sign_that_separates) {
     EXPECT_EQ(in_quotes("'/home/secret/x"), "\"'.../x\"");
     EXPECT_EQ(in_quotes("foo:/home/secret/x"), "\"foo:.../x\"");
     EXPECT_EQ(in_quotes("1,/home/secret/x"), "\"1,.../x\"");
-    EXPECT_EQ(in_quotes("foo\t/home/secret/x"), "\"foo?.../x\"");
+    EXPECT_EQ(in_quotes("foo\t/home/secret/x"), "\"foo\\x09.../x\"");
     EXPECT_EQ(in_quotes("foo=C:\\secret\\x"), "\"foo=.../x\"");
     EXPECT_EQ(in_quotes("foo:\\\\server\\secret\\x"), "\"foo:.../x\"");
 }

@@ -42,6 +42,7 @@ TEST_P(ProgramsBeside, an_unknown_option_is_one_line_and_status_2_wherever_it_st
         EXPECT_EQ(seen.errors.find('\n'), seen.errors.size() - 1) << seen.errors;
     }
     EXPECT_EQ(run({"--bogus"}).errors, GetParam() + ": unknown option --bogus\n");
+    EXPECT_EQ(run({"-\x1b[2J"}).errors, GetParam() + ": unknown option -\\x1b[2J\n"); // nothing for a terminal
 }
 
 TEST_P(ProgramsBeside, nothing_on_the_command_line_is_the_usage_and_status_2) {

@@ -1,6 +1,7 @@
 // Says whether batch folders are whole and well-formed, and what they hold.
 
 #include "platform/platform.h"
+#include "text/one_line.h"
 #include "tools/batch_check/check_batch.h"
 #include "tools/batch_check/codes.h"
 #include "tools/batch_check/first_screen.h"
@@ -57,8 +58,7 @@ std::string reason_of(const batch_report& report) {
 int told_status(const request& asked, const std::string& folder, const batch_report& report) {
     if (report.is_sound(asked.is_strict))
         return status_sound;
-    platform::write_standard_error("batch-check: " + without_control_characters(folder) + ": " + reason_of(report) +
-                                   "\n");
+    platform::write_standard_error("batch-check: " + on_one_line(folder) + ": " + reason_of(report) + "\n");
     return report.is_batch ? status_findings : status_no_batch;
 }
 
@@ -82,7 +82,7 @@ int check_all(const request& asked) {
     if (asked.prints_json)
         is_printed &= platform::write_standard_output(json);
     if (!asked.json_file.empty() && !write_file(asked.json_file, json))
-        return refuse("cannot write " + without_control_characters(asked.json_file));
+        return refuse("cannot write " + on_one_line(asked.json_file));
     return is_printed ? status : refuse(refused_output);
 }
 

@@ -1,5 +1,7 @@
 #include "tools/batch_check/findings.h"
 
+#include "text/one_line.h"
+
 #include <algorithm>
 
 namespace batch_check {
@@ -42,13 +44,6 @@ std::size_t start_of_full_name(std::string_view text) {
 
 } // namespace
 
-std::string without_control_characters(std::string_view text) {
-    const auto controls = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 127; };
-    std::string shown(text);
-    std::replace_if(shown.begin(), shown.end(), controls, '?');
-    return shown;
-}
-
 std::string in_quotes(std::string_view text) {
     constexpr std::size_t most_bytes = 80;
     const std::size_t start = start_of_full_name(text);
@@ -58,7 +53,7 @@ std::string in_quotes(std::string_view text) {
         shown.append(".../").append(text.substr(separator + 1, most_bytes + 1));
     if (shown.size() > most_bytes)
         shown = shown.substr(0, most_bytes) + "...";
-    return '"' + without_control_characters(shown) + '"';
+    return '"' + on_one_line(shown) + '"';
 }
 
 } // namespace batch_check

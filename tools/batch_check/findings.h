@@ -42,12 +42,8 @@ private:
     std::array<std::uint64_t, static_cast<std::size_t>(code::option_order) + 1> counts{};
 };
 
-// A text that somebody else has chosen, such as the name of a file, as it may stand in a line that is printed: each
-// control character becomes "?", so that none ends the line, or speaks to the terminal.
-std::string without_control_characters(std::string_view text);
-
-// A text as a finding quotes it: in quotation marks, without control characters, cut to some 80 bytes, and with the
-// last part alone of what is a full name, so that a report does not depend on where a folder lies.
+// A text as a finding quotes it: in quotation marks, on one line (text/one_line.h), cut to some 80 bytes, and with
+// the last part alone of what is a full name, so that a report does not depend on where a folder lies.
 std::string in_quotes(std::string_view text);
 
 } // namespace batch_check

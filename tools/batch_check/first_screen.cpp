@@ -1,5 +1,6 @@
 #include "tools/batch_check/first_screen.h"
 
+#include "text/one_line.h"
 #include "tools/batch_check/largest_materials.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ std::string lamps_of(const batch_report& report) {
     const char* between = ": ";
     for (const auto& [type, count] : report.lamps_by_type) {
         text.append(between).append(std::to_string(count)).append(" ");
-        text.append(type.empty() ? "without type" : without_control_characters(type));
+        text.append(type.empty() ? "without type" : on_one_line(type));
         between = ", ";
     }
     return text;
@@ -90,7 +91,7 @@ std::string why_is_it_large(const batch_report& report) {
         what = "";
     }
     for (const shown_material& material : largest_materials(stream, shown_materials)) {
-        text += line(what, std::to_string(material.triangles) + " of " + without_control_characters(material.name));
+        text += line(what, std::to_string(material.triangles) + " of " + on_one_line(material.name));
         what = "";
     }
     return text;
@@ -99,7 +100,7 @@ std::string why_is_it_large(const batch_report& report) {
 } // namespace
 
 std::string first_screen(const std::string& folder, const batch_report& report) {
-    const std::string name = without_control_characters(folder);
+    const std::string name = on_one_line(folder);
     if (!report.is_batch)
         return name + ": not a batch\n";
     return name + "\n" + is_it_all_there(report) + why_is_it_black(report) + why_is_it_large(report);
@@ -113,7 +114,7 @@ std::string finding_lines(const findings& found) {
             continue;
         text.append(name_of(entry.weight)).append(" ").append(entry.name).append(": ");
         if (!one.file.empty())
-            text.append(without_control_characters(one.file))
+            text.append(on_one_line(one.file))
                 .append(one.line > 0 ? ", line " + std::to_string(one.line) : "")
                 .append(": ");
         text.append(one.text).append("\n");

@@ -1,5 +1,7 @@
 #include "tools/command_line/answers.h"
 
+#include "text/one_line.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <string>
@@ -32,7 +34,7 @@ std::optional<int> answer_at_once(int argc, const char* const* argv, std::string
     }
     for (int i = 1; i < argc; ++i)
         if (is_unknown(argv[i], options)) {
-            print(stderr, std::string(name) + ": unknown option " + argv[i] + "\n");
+            print(stderr, std::string(name) + ": unknown option " + on_one_line(argv[i]) + "\n");
             return 2;
         }
     return std::nullopt;

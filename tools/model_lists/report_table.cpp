@@ -1,6 +1,6 @@
 #include "tools/model_lists/report_table.h"
 
-#include "tools/command_line/one_line.h"
+#include "text/one_line.h"
 #include "tools/json_reading/json_reading.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "tools/single_run/run_once.h"
 
 #include "platform/platform.h"
-#include "tools/command_line/one_line.h"
+#include "text/one_line.h"
 #include "tools/single_run/batch_place.h"
 #include "tools/single_run/beside.h"
 #include "tools/single_run/check_batch.h"

@@ -1,7 +1,7 @@
 #include "tools/single_run/run_progress.h"
 
 #include "platform/platform.h"
-#include "tools/command_line/one_line.h"
+#include "text/one_line.h"
 
 void run_progress::tell_status(std::string_view text) const {
     if (wanted)

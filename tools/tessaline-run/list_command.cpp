@@ -2,7 +2,7 @@
 
 #include "platform/platform.h"
 #include "tools/command_line/answers.h"
-#include "tools/command_line/one_line.h"
+#include "text/one_line.h"
 #include "tools/single_run/run_options.h"
 #include "tools/single_run/run_status.h"
 #include "tools/tessaline-run/list_run.h"

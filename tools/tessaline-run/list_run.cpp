@@ -2,7 +2,7 @@
 
 #include "platform/child_process.h"
 #include "platform/platform.h"
-#include "tools/command_line/one_line.h"
+#include "text/one_line.h"
 #include "tools/json_reading/json_reading.h"
 #include "tools/model_lists/model_list.h"
 #include "tools/model_lists/report_table.h"

@@ -2,8 +2,8 @@
 
 #include "platform/child_process.h"
 #include "platform/platform.h"
+#include "text/one_line.h"
 #include "tools/command_line/answers.h"
-#include "tools/command_line/one_line.h"
 #include "tools/single_run/report_file.h"
 #include "tools/single_run/run_inputs.h"
 #include "tools/single_run/run_once.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-// Texts that hold names of files, which may hold anything.
+// Texts that somebody else has chosen, such as names of files, which may hold anything.
 
 #include <string>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "tools/command_line/one_line.h"
+#include "text/one_line.h"
 
 #include <array>
 #include <cstdio>
