@@ -2,7 +2,7 @@
 
 #include "tessaline/start/usage.h"
 #include "tests/batch/batch_runner.h"
-#include "tests/batch/posix/terminal_run.h"
+#include "tests/support/posix/terminal_run.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "platform/posix/progress_bar.h"
 
 #include "platform/platform.h"
-#include "tests/support/posix/terminal_run.h"
+#include "tests/support/posix/terminal_screen.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

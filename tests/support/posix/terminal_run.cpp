@@ -1,4 +1,6 @@
-#include "tests/batch/posix/terminal_run.h"
+#include "tests/support/posix/terminal_run.h"
+
+#include "tests/support/posix/terminal_screen.h"
 
 #include <array>
 #include <csignal>
@@ -64,20 +66,18 @@ std::string talk_on(int terminal, const std::vector<terminal_exchange>& talk) {
     for (std::string& word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
-    if (chdir(start.folder.c_str()) == 0)
+    if (start.folder.empty() || chdir(start.folder.c_str()) == 0)
         execv(start.program.c_str(), pointers.data());
     _exit(127);
 }
 
-} // namespace
-
-terminal_outcome run_on_terminal(const program_start& start, const std::vector<terminal_exchange>& talk) {
-    const termios settings = plain_terminal();
+// settings, size: of the terminal; null for those of the system.
+terminal_outcome run(const program_start& start, const std::vector<terminal_exchange>& talk, const termios* settings,
+                     const winsize* size) {
     int terminal = -1;
-    const pid_t program = forkpty(&terminal, nullptr, &settings, nullptr);
-    if (program == 0) {
+    const pid_t program = forkpty(&terminal, nullptr, settings, size);
+    if (program == 0)
         become(start);
-    }
     terminal_outcome outcome;
     if (program < 0) {
         ADD_FAILURE() << "there is no terminal to be had";
@@ -91,4 +91,28 @@ terminal_outcome run_on_terminal(const program_start& start, const std::vector<t
     waitpid(program, &status, 0);
     outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return outcome;
+}
+
+} // namespace
+
+terminal_outcome run_on_terminal(const program_start& start, const std::vector<terminal_exchange>& talk) {
+    const termios settings = plain_terminal();
+    return run(start, talk, &settings, nullptr);
+}
+
+std::vector<std::string> rows_left_on_terminal(const std::string& command, const std::string& keys) {
+    const winsize size{24, 100, 0, 0};
+    std::vector<terminal_exchange> talk;
+    if (!keys.empty())
+        talk.push_back({"", keys});
+    terminal_screen screen(size.ws_col);
+    screen.show(run({"/bin/sh", {"-c", command}}, talk, nullptr, &size).shown);
+    return screen.rows();
+}
+
+std::string shell_quoted(const std::string& argument) {
+    std::string quoted = "'";
+    for (const char c : argument)
+        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return quoted + "'";
 }
