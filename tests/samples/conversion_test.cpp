@@ -60,7 +60,7 @@ void expect_corner(double found, double expected) {
 class SampleConversion : public testing::TestWithParam<std::string> {};
 
 TEST_P(SampleConversion, gives_a_stream_with_the_area_of_all_that_is_visible) {
-    const json expected = expected_figures()[GetParam()];
+    const json& expected = expected_figures()[GetParam()];
     const temporary_folder batch;
     batch.write("option_globals.txt", "ivl_2_sided_faces; 0\r\n"); // every face once, however its sides are painted
     const std::string stream = convert(GetParam(), batch);

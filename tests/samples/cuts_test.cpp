@@ -4,7 +4,9 @@
 #include "sketchup/model/face_cuts.h"
 #include "sketchup/model/vector_math.h"
 #include "sketchup/skp/read_model.h"
-#include "tests/samples/expected_openings.h"
+#include "tests/samples/expected_figures.h"
+#include "tests/samples/list_named.h"
+#include "tests/samples_folder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -68,7 +70,7 @@ void expect_cut(const model& m, const face& f, const std::vector<opening>& openi
 class SampleCuts : public testing::TestWithParam<std::string> {};
 
 TEST_P(SampleCuts, leave_what_an_independent_reader_found) {
-    const json expected = expected_openings()[GetParam()]["faces"];
+    const json& expected = expected_openings()[GetParam()]["faces"];
     const auto m = skp::read_model(file_bytes(samples_folder() + GetParam()));
     face_openings openings(*m);
     for (const json& one : expected) {

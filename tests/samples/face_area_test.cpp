@@ -8,6 +8,7 @@
 #include "sketchup/skp/format_error.h"
 #include "sketchup/skp/read_model.h"
 #include "tests/samples/expected_figures.h"
+#include "tests/samples_folder.h"
 
 #include <algorithm>
 #include <cmath>

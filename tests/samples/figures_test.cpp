@@ -3,6 +3,7 @@
 #include "tests/samples/expected_figures.h"
 #include "tests/samples/known_exceptions.h"
 #include "tests/samples/removed_by_openings.h"
+#include "tests/samples_folder.h"
 #include "tests/support/run_program.h"
 
 #include <algorithm>

@@ -124,7 +124,7 @@ void expect_a_material_for_each_image(const converted_materials& found, const js
 class SampleMaterials : public testing::TestWithParam<std::string> {};
 
 TEST_P(SampleMaterials, have_their_files_and_pictures) {
-    const json figures = expected_figures()[GetParam()];
+    const json& figures = expected_figures()[GetParam()];
     const converted_materials found(GetParam());
     if (!figures["opens"].get<bool>())
         return;

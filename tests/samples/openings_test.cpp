@@ -6,7 +6,9 @@
 #include "sketchup/model/loop_corners.h"
 #include "sketchup/model/opening_tolerance.h"
 #include "sketchup/skp/read_model.h"
-#include "tests/samples/expected_openings.h"
+#include "tests/samples/expected_figures.h"
+#include "tests/samples/list_named.h"
+#include "tests/samples_folder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -165,7 +167,7 @@ void expect_face(const model& m, face_openings& openings, const face& f, const j
 class SampleOpenings : public testing::TestWithParam<std::string> {};
 
 TEST_P(SampleOpenings, agree_with_those_of_an_independent_reader) {
-    const json expected = expected_openings()[GetParam()];
+    const json& expected = expected_openings()[GetParam()];
     const auto m = skp::read_model(file_bytes(samples_folder() + GetParam()));
     std::size_t glued = 0, cutting = 0, cut_faces = 0;
     face_openings openings(*m);

@@ -2,6 +2,7 @@
 
 #include "sketchup/SketchUpAPI.h"
 #include "tests/samples/expected_figures.h"
+#include "tests/samples_folder.h"
 #include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 

@@ -6,7 +6,9 @@
 #include "sketchup/model/opening_outlines.h"
 #include "sketchup/model/vector_math.h"
 #include "sketchup/skp/read_model.h"
-#include "tests/samples/expected_openings.h"
+#include "tests/samples/expected_figures.h"
+#include "tests/samples/list_named.h"
+#include "tests/samples_folder.h"
 
 // Square inches in the space of the model, once for each placement of a face's list and scaled with it.
 struct removed_area {
@@ -34,7 +36,7 @@ inline void add_removed_areas(const sketchup::model& m, const sketchup::entity_l
 
 inline removed_area removed_by_openings(const std::string& sample) {
     removed_area sum;
-    const nlohmann::json expected = expected_openings();
+    const nlohmann::json& expected = expected_openings();
     if (expected.contains(sample) && !expected[sample]["faces"].empty()) {
         const auto m = skp::read_model(file_bytes(samples_folder() + sample));
         add_removed_areas(*m, m->root, expected[sample]["faces"], sketchup::identity_transform, true, sum);
