@@ -25,6 +25,10 @@ constexpr double unit_tolerance = 2e-6; // of the square: the text has nine digi
 
 } // namespace
 
+std::span<const std::string_view> known_records() {
+    return known_tags;
+}
+
 std::string stream_lines::take_text(std::string_view tag) {
     std::string text(payload(tag));
     lines.advance();

@@ -8,12 +8,16 @@
 #include "tools/batch_check/number_forms.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace batch_check {
 
 struct out_of_order {};
+
+// The tags of all records, without their semicolons, ascending.
+std::span<const std::string_view> known_records();
 
 class stream_lines {
 public:
