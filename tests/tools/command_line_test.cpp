@@ -1,11 +1,11 @@
 // What every program beside the converter answers to "--help", "--version" and what it does not know.
 
 #include "tests/support/run_program.h"
+#include "tests/tools/programs_beside.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 namespace {
@@ -52,15 +52,7 @@ TEST_P(ProgramsBeside, nothing_on_the_command_line_is_the_usage_and_status_2) {
     EXPECT_THAT(seen.errors, testing::StartsWith("usage: " + GetParam() + " "));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ProgramsBeside,
-                         testing::Values("skp-dump", "batch-check", "tessaline-run", "example_garden", "example_room",
-                                         "example_stages", "draw_model", "draw_stream", "damage_samples", "make_seeds",
-                                         "batch-view", "skp-view", "batch-to-glb", "skp-to-glb"),
-                         [](const auto& program) {
-                             std::string name = program.param;
-                             std::replace(name.begin(), name.end(), '-', '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(All, ProgramsBeside, programs_beside(), name_in_test);
 
 TEST(SkpDumpProgram, an_option_that_lacks_its_folder_is_the_usage_and_status_2) {
     EXPECT_EQ(run_program({SKP_DUMP_PROGRAM, {"a.skp", "--textures"}}).status, 2);

@@ -8,8 +8,17 @@
 
 namespace {
 
-void print(std::FILE* to, std::string_view text) {
-    std::fwrite(text.data(), 1, text.size(), to);
+void complain(std::string_view text) {
+    std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
+// The status of a program that has answered: 0, or that of an output which takes nothing.
+int answer(std::string_view name, std::string_view text, int status_of_full_output) {
+    const bool is_written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    if (std::fflush(stdout) == 0 && is_written)
+        return 0;
+    complain(std::string(name) + ": standard output takes nothing\n");
+    return status_of_full_output;
 }
 
 bool is_unknown(std::string_view argument, std::initializer_list<std::string_view> options) {
@@ -22,25 +31,21 @@ bool is_unknown(std::string_view argument, std::initializer_list<std::string_vie
 } // namespace
 
 std::optional<int> answer_at_once(int argc, const char* const* argv, std::string_view name, std::string_view usage,
-                                  std::initializer_list<std::string_view> options) {
+                                  std::initializer_list<std::string_view> options, int status_of_full_output) {
     const std::string_view only = argc == 2 ? argv[1] : "";
-    if (only == "--help") {
-        print(stdout, usage);
-        return 0;
-    }
-    if (only == "--version") {
-        print(stdout, std::string(name) + " " TESSALINE_VERSION "\n");
-        return 0;
-    }
+    if (only == "--help")
+        return answer(name, usage, status_of_full_output);
+    if (only == "--version")
+        return answer(name, std::string(name) + " " TESSALINE_VERSION "\n", status_of_full_output);
     for (int i = 1; i < argc; ++i)
         if (is_unknown(argv[i], options)) {
-            print(stderr, std::string(name) + ": unknown option " + on_one_line(argv[i]) + "\n");
+            complain(std::string(name) + ": unknown option " + on_one_line(argv[i]) + "\n");
             return 2;
         }
     return std::nullopt;
 }
 
 int refuse_command_line(std::string_view usage) {
-    print(stderr, usage);
+    complain(usage);
     return 2;
 }

@@ -80,7 +80,8 @@ int main(int argc, char** argv) {
         return *status;
     if (const auto status =
             answer_at_once(argc, argv, "tessaline-run", usage_text,
-                           {"--with", "--option", "--force", "--seconds", "--memory", "--json", "--progress"}))
+                           {"--with", "--option", "--force", "--seconds", "--memory", "--json", "--progress"},
+                           static_cast<int>(run_status::not_written)))
         return *status;
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (arguments.empty())

@@ -1,6 +1,6 @@
 // The checker where what it has to say finds no place, and where a picture is larger than memory.
 
-#include "tests/support/run_program.h"
+#include "tests/tools/posix/into_full_disk.h"
 #include "tests/tools/small_batch_on_disk.h"
 
 #include <filesystem>
@@ -12,21 +12,12 @@ namespace {
 using testing::EndsWith;
 using testing::HasSubstr;
 
-const std::string checker = std::string(PROGRAMS) + "/batch-check";
-
-// Standard output is a disk that is full.
-program_result check_into_full_disk(const std::vector<std::string>& arguments) {
-    std::vector<std::string> words = {"-c", "exec \"$0\" \"$@\" >/dev/full", checker};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    return run_program({"/bin/sh", words});
-}
-
 class FullOutput : public testing::Test {
 protected:
     void SetUp() override { put_small_batch(disk, "room"); }
 
     void expect_refused(const std::vector<std::string>& arguments) const {
-        const program_result seen = check_into_full_disk(arguments);
+        const program_result seen = run_into_full_disk("batch-check", arguments);
         EXPECT_EQ(seen.status, 2) << seen.end;
         EXPECT_THAT(seen.errors, EndsWith("batch-check: standard output takes nothing\n"));
     }
@@ -61,7 +52,8 @@ TEST(LargePicture, of_3_GiB_is_noted_and_takes_no_memory) {
     const temporary_folder disk;
     put_small_batch(disk, "room");
     std::filesystem::resize_file(disk / "room/ZynBatch_Images/Tree_88.png", std::uintmax_t{3} << 30U);
-    const program_result seen = run_program({checker, {"--json", "--strict", disk / "room"}});
+    const program_result seen =
+        run_program({std::string(PROGRAMS) + "/batch-check", {"--json", "--strict", disk / "room"}});
     EXPECT_EQ(seen.status, 0) << seen.output << seen.errors;
     EXPECT_THAT(seen.output, HasSubstr("\"picture-large\""));
     EXPECT_LT(seen.most_bytes, std::uint64_t{1} << 30U); // what the test itself takes may count
