@@ -180,6 +180,7 @@ std::vector<damage> damage_to_options() {
     const auto value = code::option_value;
     return {
         {"the_option_file_has_a_bare_line_feed", code::option_line_end, with_bare_line_feed(options, "ivl_resy; 600")},
+        {"the_option_file_has_more_than_a_million_lines", line, overwritten(options, std::string(1000001, '\n'))},
         {"the_option_file_has_a_comment", line, put_ahead(options, "ivl_resy; 600", "# height")},
         {"the_option_file_has_an_empty_line", line, put_ahead(options, "ivl_resy; 600", "")},
         {"an_option_has_no_blank", line, replaced(options, "ivl_resy; 600", "ivl_resy;600")},

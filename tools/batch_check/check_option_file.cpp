@@ -68,8 +68,11 @@ bool is_value(char type, std::string_view text) {
 void check_option_file(const batch_files& files, findings& found) {
     const std::string file = option_file_name;
     const auto text = small_text::read(files, file, code::option_line_end, found);
-    if (!text)
+    if (!text) {
+        if (files.size(file))
+            found.add(code::option_line, file, 0, "the file cannot be read");
         return;
+    }
     constexpr std::string_view types = "birpcs";
     std::string_view name_before;
     for (std::size_t i = 0; i < text->line_count(); ++i) {

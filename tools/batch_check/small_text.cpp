@@ -12,6 +12,8 @@ std::optional<small_text> small_text::read(const batch_files& files, const std::
     std::size_t first_wrong = 0;
     std::size_t wrong = 0;
     for (std::size_t start = 0; start < text.bytes.size();) {
+        if (text.starts.size() == most_lines)
+            return std::nullopt;
         text.starts.push_back(start);
         const std::size_t feed = text.bytes.find('\n', start);
         const bool is_right = feed != std::string::npos && feed > start && text.bytes[feed - 1] == '\r';

@@ -14,8 +14,9 @@ namespace batch_check {
 
 class small_text {
 public:
-    // Larger files count as not readable.
+    // Files with more of either count as not readable.
     static constexpr std::uint64_t most_bytes = std::uint64_t{64} << 20U;
+    static constexpr std::size_t most_lines = 1'000'000;
 
     // Nothing if the file cannot be read. Lines with another end than CR LF are one finding of that code, and count.
     static std::optional<small_text> read(const batch_files& files, const std::string& file, code wrong_end,
