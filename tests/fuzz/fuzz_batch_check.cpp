@@ -21,9 +21,9 @@ bool is_slow(const std::string& bytes) {
 }
 
 std::string printed(const batch_check::batch_report& report) {
-    const batch_check::named_report named = {"batch", report};
-    return batch_check::first_screen("batch", report) + batch_check::finding_lines(report.found) +
-           batch_check::json_of({&named, 1}, true);
+    batch_check::json_document document(true);
+    document.add("batch", report);
+    return batch_check::first_screen("batch", report) + batch_check::finding_lines(report.found) + document.text();
 }
 
 } // namespace

@@ -13,17 +13,15 @@ namespace {
 using namespace batch_check;
 using nlohmann::json;
 
-json batch_in(const batch_report& report) {
-    const named_report named = {"room", report};
-    return json::parse(json_of({&named, 1}, false))["batches"][0];
+json batch_in(const batch_report& report, const std::string& folder = "room") {
+    json_document document(false);
+    document.add(folder, report);
+    return json::parse(document.text())["batches"][0];
 }
 
 // Three separators end a name as one does; "." stands for the folder that it leads to.
 TEST(ReportJson, a_batch_is_named_by_the_last_part_of_its_folder) {
-    const auto named = [](const std::string& folder) {
-        const named_report report = {folder, batch_report()};
-        return json::parse(json_of({&report, 1}, false))["batches"][0]["batch"];
-    };
+    const auto named = [](const std::string& folder) { return batch_in(batch_report(), folder)["batch"]; };
     EXPECT_EQ(named("room"), "room");
     EXPECT_EQ(named("batches/room"), "room");
     EXPECT_EQ(named("batches/room///"), "room");
@@ -62,6 +60,30 @@ TEST(ReportJson, lists_the_hundred_materials_with_the_most_triangles) {
     ASSERT_EQ(listed.size(), 100U);
     EXPECT_EQ(listed[0], json({{"material", "m149"}, {"triangles", 149}}));
     EXPECT_EQ(listed[99], json({{"material", "m50"}, {"triangles", 50}}));
+}
+
+TEST(ReportJson, cuts_the_names_of_materials_that_are_longer_than_those_of_files) {
+    batch_report report;
+    report.stream.materials = {{std::string(255, 'a') + ".OrnMaterial", 1, 2, true},
+                               {std::string(256, 'b') + ".OrnMaterial", 4, 1, true}};
+    const json listed = batch_in(report)["triangles_by_material"];
+    EXPECT_EQ(listed[0]["material"], std::string(255, 'a'));
+    EXPECT_EQ(listed[1]["material"], std::string(255, 'b') + "...");
+}
+
+TEST(ReportJson, lists_batches_in_the_order_in_which_they_were_checked) {
+    json_document document(true);
+    batch_report warned;
+    warned.is_batch = true;
+    warned.found.add(code::orphan, "a", 0, "left over");
+    document.add("room", warned);
+    document.add("garden", batch_report());
+    const json batches = json::parse(document.text())["batches"];
+    ASSERT_EQ(batches.size(), 2U);
+    EXPECT_EQ(batches[0]["batch"], "room");
+    EXPECT_EQ(batches[0]["status"], "findings"); // since warnings count here
+    EXPECT_EQ(batches[1]["batch"], "garden");
+    EXPECT_EQ(batches[1]["status"], "not a batch");
 }
 
 TEST(ReportJson, lists_materials_of_one_name_by_themselves_and_those_on_no_triangle_not_at_all) {

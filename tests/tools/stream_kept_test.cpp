@@ -26,10 +26,11 @@ void expect_kept(std::uint64_t bytes, std::initializer_list<lines> parts) {
     EXPECT_FALSE(beyond.facts.is_whole);
 }
 
-constexpr std::uint64_t of_wall = 64 + 27; // "COL%3a0012_Wall.OrnMaterial"
+constexpr std::uint64_t of_entry = 64 + 27;     // "COL%3a0012_Wall.OrnMaterial"
+constexpr std::uint64_t of_wall = 2 * of_entry; // as a material, and among the names
 constexpr std::uint64_t of_lamp = 64;
 
-TEST(StreamKept, a_declaration_counts_with_its_name) {
+TEST(StreamKept, a_declaration_counts_with_its_name_in_both_places_where_that_is_kept) {
     expect_kept(of_wall, {head, pass, wall, end});
     expect_first(checked(of_wall - 1, {head, pass, wall, end}).found, code::stream_given_up, 11);
 }
@@ -40,7 +41,7 @@ TEST(StreamKept, a_lamp_counts_of_either_kind) {
 }
 
 TEST(StreamKept, what_is_passed_over_counts_as_well) {
-    expect_kept(of_lamp + of_wall, {head, pass, lamp_head, {"CULL;0"}, wall, end_of_lamp, end});
+    expect_kept(of_lamp + of_entry, {head, pass, lamp_head, {"CULL;0"}, wall, end_of_lamp, end});
     expect_kept(3 * of_lamp, {head, pass, lamp_head, {"CULL;0", "LITE;1", "LGHT;2"}, end_of_lamp, end});
 }
 
@@ -51,7 +52,7 @@ TEST(StreamKept, nothing_more_is_kept_within_a_block_when_the_check_has_given_up
         checked(of_lamp + of_wall, {head, pass, lamp_head, wall, second, third, end_of_lamp, end});
     EXPECT_EQ(result.facts.materials.size(), 1U);
     const checked_stream passed_over =
-        checked(of_lamp + of_wall, {head, pass, lamp_head, {"CULL;0"}, wall, second, third, end_of_lamp, end});
+        checked(of_lamp + of_entry, {head, pass, lamp_head, {"CULL;0"}, wall, second, third, end_of_lamp, end});
     EXPECT_EQ(passed_over.facts.materials.size(), 1U);
 }
 

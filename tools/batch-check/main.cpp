@@ -68,17 +68,17 @@ bool write_file(const std::string& name, std::string_view bytes) {
 }
 
 int check_all(const request& asked) {
-    std::vector<named_report> reports;
+    json_document document(asked.is_strict);
     int status = status_sound;
     bool is_printed = true;
     for (const std::string& folder : asked.folders) {
-        reports.push_back({folder, batch_check::check_batch(*folder_on_disk(folder), asked.ignored)});
-        const batch_report& report = reports.back().report;
+        const batch_report report = batch_check::check_batch(*folder_on_disk(folder), asked.ignored);
+        document.add(folder, report);
         if (!asked.prints_json)
             is_printed &= platform::write_standard_output(first_screen(folder, report) + finding_lines(report.found));
         status = std::max(status, told_status(asked, folder, report));
     }
-    const std::string json = json_of(reports, asked.is_strict);
+    const std::string json = document.text();
     if (asked.prints_json)
         is_printed &= platform::write_standard_output(json);
     if (!asked.json_file.empty() && !write_file(asked.json_file, json))

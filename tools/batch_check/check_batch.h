@@ -28,6 +28,7 @@ struct batch_report {
     std::uint64_t files = 0; // their number
     picture_statistics pictures;
     std::uint64_t equal_materials = 0; // files that say what another says
+    // A type of more than 80 bytes as these and "..."; the lamps of types beyond the hundredth as "...".
     std::map<std::string, std::uint64_t> lamps_by_type;
     std::uint64_t lamps_without_power = 0;
     findings found;

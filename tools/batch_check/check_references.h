@@ -24,6 +24,7 @@ private:
     void check_material_of(const declared_material& material);
     void check_picture_of(const std::string& material_file, const std::string& path, std::size_t line);
     void compare_picture(const std::string& file);
+    void count_lamp_type(const std::string& type);
     // Says so if a full name leads to another folder than this one.
     void warn_of_other_folder(const batch_contents::place& place, const std::string& file, std::size_t line);
     // The first file of equal content; this one if there is none before it.

@@ -12,7 +12,8 @@
 
 namespace batch_check {
 
-// What is kept of a stream, in bytes: the names of layers, materials and files, and 64 for each of them and each lamp.
+// What is kept of a stream, in bytes: the names of layers, materials and files, those of materials twice, and 64 for
+// each of them and each lamp.
 inline constexpr std::uint64_t most_kept_of_a_stream = std::uint64_t{128} << 20U;
 
 // Reads a stream to its end, in memory of its longest line and of what is kept of it. file: how findings name it.

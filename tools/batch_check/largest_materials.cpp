@@ -10,7 +10,8 @@ std::string name_of(const declared_material& material) {
     std::string name = material.name;
     if (name.ends_with(ending))
         name.resize(name.size() - ending.size());
-    return name;
+    constexpr std::size_t most_bytes = 255; // a longer name is that of no file
+    return name.size() > most_bytes ? name.substr(0, most_bytes) + "..." : name;
 }
 
 } // namespace

@@ -12,7 +12,7 @@
 namespace batch_check {
 
 struct shown_material {
-    std::string name; // without the ending that all have
+    std::string name; // without the ending that all have; its first 255 bytes and "..." if it has more
     std::uint64_t triangles = 0;
 };
 

@@ -83,12 +83,11 @@ std::string name_of_batch(const std::string& folder) {
     return part(platform::real_name(folder).value_or(platform::absolute_name(folder)));
 }
 
-json batch_of(const named_report& named, bool is_strict) {
-    const batch_report& report = named.report;
+json batch_of(const std::string& folder, const batch_report& report, bool is_strict) {
     json types = json::object();
     for (const auto& [type, count] : report.lamps_by_type)
         types[utf8(type)] = count;
-    return {{"batch", utf8(name_of_batch(named.folder))},
+    return {{"batch", utf8(name_of_batch(folder))},
             {"status", status_of(report, is_strict)},
             {"counts", counts_of(report)},
             {"box_metres", box_of(report.stream)},
@@ -106,12 +105,21 @@ std::string_view status_of(const batch_report& report, bool is_strict) {
     return !report.is_batch ? "not a batch" : report.is_sound(is_strict) ? "sound" : "findings";
 }
 
-std::string json_of(std::span<const named_report> reports, bool is_strict) {
+struct json_document::content {
     json batches = json::array();
-    for (const named_report& one : reports)
-        batches.push_back(batch_of(one, is_strict));
+};
+
+json_document::json_document(bool is_strict) : all(std::make_unique<content>()), warnings_count(is_strict) {}
+
+json_document::~json_document() = default;
+
+void json_document::add(const std::string& folder, const batch_report& report) {
+    all->batches.push_back(batch_of(folder, report, warnings_count));
+}
+
+std::string json_document::text() const {
     const json document = {
-        {"format", 1}, {"program", "batch-check"}, {"version", TESSALINE_VERSION}, {"batches", batches}};
+        {"format", 1}, {"program", "batch-check"}, {"version", TESSALINE_VERSION}, {"batches", all->batches}};
     return document.dump(1, ' ', false, json::error_handler_t::replace) + "\n";
 }
 

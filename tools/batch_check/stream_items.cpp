@@ -43,7 +43,8 @@ void stream_check::take_material() {
     if (!material_names.insert(name).second)
         lines.report(code::stream_declaration, "the name is declared already");
     lines.skip();
-    count_kept(name.size());
+    count_kept(name.size()); // among the names
+    count_kept(name.size()); // as a material
     lines.take("MTX2;1");
     const int number = first_material + static_cast<int>(facts.materials.size());
     lines.take_this_number("MATI;", number, code::stream_declaration);
