@@ -64,6 +64,22 @@ TEST(StreamKept, the_layers_of_a_table_count_and_the_rest_of_it_is_not_read) {
     EXPECT_EQ(beyond.found.kept().size(), 1U) << batch_check::finding_lines(beyond.found);
 }
 
+TEST(StreamKept, the_file_that_a_plant_brings_counts_and_that_of_a_library_does_not) {
+    const auto plant = [](const std::string& library) {
+        return lines{"#;PLANT", "PLLB;" + library, "PLNM;/a/Oak",   "PLLC;(0,0,1)", "PLDM;1.000000",
+                     "PLSN;1",  "PLRT;0.000000",   "PLSC;1.000000", "PLNT;1",       "#"};
+    };
+    expect_kept(64 + 6, {head, pass, plant("OrnPlant"), end}); // "/a/Oak"
+    EXPECT_EQ(checked(0, {head, pass, plant("Trees"), end}).found.count(code::stream_given_up), 0U);
+}
+
+TEST(StreamKept, the_file_of_a_ground_cover_counts_once_for_faces_that_follow_one_another) {
+    const lines face = joined({face_head, {"GCOR;-1", "GNDC;/a/Meadow"}, state, triangle(0), close});
+    const std::uint64_t of_cover = 64 + 9;
+    const std::uint64_t of_layer = 64 + 6;
+    expect_kept(of_cover + of_layer, {head, pass, face, {"EMSH; Face"}, face, end});
+}
+
 TEST(StreamKept, the_layer_of_a_face_counts_once) {
     expect_kept(64 + 6, {head, pass, face_block, {"EMSH; Face"}, face_block, end});
 }

@@ -3,6 +3,7 @@
 #include "tests/tools/posix/into_full_disk.h"
 #include "tests/tools/small_batch_on_disk.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -45,6 +46,18 @@ TEST_F(FullOutput, is_status_2_for_the_list_of_codes) {
 TEST_F(FullOutput, keeps_no_document_from_its_file) {
     expect_refused({"--json=" + disk / "report.json", disk / "room"});
     EXPECT_THAT(disk.read("report.json"), HasSubstr("\"status\": \"sound\""));
+}
+
+TEST(NamesThatAreGiven, make_no_line_of_their_own_on_standard_error) {
+    const temporary_folder disk;
+    const std::string checker = std::string(PROGRAMS) + "/batch-check";
+    const std::string folder = run_program({checker, {disk / "no\nbatch"}}).errors;
+    EXPECT_THAT(folder, EndsWith("batch: the folder cannot be read\n"));
+    EXPECT_EQ(std::count(folder.begin(), folder.end(), '\n'), 1);
+    put_small_batch(disk, "room");
+    const std::string file = run_program({checker, {"--json=" + disk / "none/a\nb", disk / "room"}}).errors;
+    EXPECT_THAT(file, HasSubstr("batch-check: cannot write "));
+    EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 1);
 }
 
 // A file without blocks on the disk, so that it costs nothing but what the checker takes for it.
