@@ -1,7 +1,7 @@
 // The pages show the options that the programs have: no others, and all of them.
 
 #include "tests/docs/pages.h"
-#include "tests/support/run_program.h"
+#include "tests/docs/program_help.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,42 +9,19 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <regex>
 #include <set>
 
 namespace {
 
+using namespace program_help;
+
 const std::string script = "convert-list"; // its usage stands in it
-
-const std::vector<std::string>& programs() {
-    static const std::vector<std::string> names = {"tessaline",  "tessaline-run", "batch-check", "batch-to-glb",
-                                                   "batch-view", "skp-dump",      "skp-to-glb",  "skp-view"};
-    return names;
-}
-
-// The option at the beginning of a word, without what stands around it: "--json" of "[--json=FILE]"; empty for none.
-std::string option_in(const std::string& word) {
-    static const std::regex form(R"re(^\[?(--?[a-z][a-z_-]*))re");
-    std::smatch found;
-    return std::regex_search(word, found, form) ? found[1].str() : "";
-}
-
-std::set<std::string> options_in(const std::string& text) {
-    std::set<std::string> options;
-    std::istringstream words(text);
-    for (std::string word; words >> word;)
-        if (const std::string option = option_in(word); !option.empty())
-            options.insert(option);
-    return options;
-}
 
 // Of each program, as it tells them.
 std::map<std::string, std::set<std::string>> all_options() {
     std::map<std::string, std::set<std::string>> options;
-    for (const std::string& program : programs()) {
-        options[program] = options_in(run_program({PROGRAMS "/" + program + PROGRAM_ENDING, {"--help"}}).output);
-        options[program].insert({"--help", "--version"});
-    }
+    for (const std::string& program : programs())
+        options[program] = options_of(program);
     options[script] = options_in(pages::text_of("deploy/slurm/convert-list"));
     return options;
 }
