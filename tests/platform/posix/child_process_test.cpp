@@ -5,6 +5,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <fstream>
+#include <string>
+#include <thread>
 
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -96,15 +99,28 @@ TEST(ChildProcess, what_a_program_has_started_and_left_ends_with_it) {
     EXPECT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 0), 0);
 }
 
-// The program prints faster than what it prints is taken.
+// How the system describes what a process does, such as R for running and S for waiting; nothing if there is none.
+char state_of(const std::string& process) {
+    std::string text;
+    std::ifstream file("/proc/" + process + "/stat");
+    std::getline(file, text);
+    const std::size_t name_end = text.rfind(") ");
+    return name_end == std::string::npos ? '\0' : text[name_end + 2];
+}
+
+// Whenever a piece was taken, the next one stands in the pipe, which is full before anybody looks at it.
 TEST(ChildProcess, one_that_never_stops_printing_is_called_off_all_the_same) {
     const platform::end_requests noted;
-    child_start start = shell("exec head -c 300000000 /dev/zero");
+    child_start start = shell("echo $$; exec head -c 300000000 /dev/zero");
+    std::string process;
     int pieces = 0;
-    start.on_output = [&pieces](std::string_view) {
+    start.on_output = [&](std::string_view bytes) {
+        if (process.empty())
+            process = bytes.substr(0, bytes.find('\n'));
         raise(SIGTERM);
         ++pieces;
-        usleep(1000);
+        for (char state = 'R'; state == 'R' || state == 'D'; state = state_of(process))
+            std::this_thread::yield();
     };
     EXPECT_EQ(platform::run_child(start).fate, child_fate::called_off);
     EXPECT_LT(pieces, 1000); // one, and what a pipe holds; of all it would be 4000
