@@ -19,13 +19,12 @@ void reference_check::check_materials() {
 
 void reference_check::check_material_of(const declared_material& material) {
     const std::string file = in_folder(materials_folder, file_of_material(material.name));
-    const auto facts = contents.has(file) ? check_material(files, file, material.name, report.found) : std::nullopt;
+    const auto facts = refers_to(file) ? check_material(files, file, material.name, report.found) : std::nullopt;
     if (!facts) {
         report.found.add(code::material_missing, stream_file_name, material.line,
-                         in_quotes(material.name) + " has no file");
+                         in_quotes(material.name) + no_file(file));
         return;
     }
-    contents.refer_to(file);
     // A material that carries an edited one has that beside it.
     contents.refer_to(in_folder(materials_folder, material.name));
     const std::string& equal = first_of_content(material_of_content, facts->content, file);
@@ -37,6 +36,17 @@ void reference_check::check_material_of(const declared_material& material) {
         check_picture_of(file, facts->image_path, facts->image_line);
     else if (material.name.starts_with("TEX%3a") || material.name.starts_with("IMAGE_"))
         report.found.add(code::material_without_picture, file, facts->image_line, "no picture is named");
+}
+
+bool reference_check::refers_to(const std::string& file) {
+    const bool is_there = contents.has(file);
+    if (is_there)
+        contents.refer_to(file);
+    return is_there;
+}
+
+std::string reference_check::no_file(const std::string& file) const {
+    return contents.has(file) ? " has a file that cannot be read" : " has no file";
 }
 
 void reference_check::check_picture_of(const std::string& material_file, const std::string& path, std::size_t line) {
@@ -72,13 +82,12 @@ void reference_check::check_lamps() {
     for (std::size_t number = 0; number < report.stream.lamps.size(); ++number) {
         const stream_lamp& lamp = report.stream.lamps[number];
         const std::string file = in_folder(lights_folder, "light_" + std::to_string(number) + ".txt");
-        const auto facts = contents.has(file) ? check_lamp(files, file, lamp.is_direct, report.found) : std::nullopt;
+        const auto facts = refers_to(file) ? check_lamp(files, file, lamp.is_direct, report.found) : std::nullopt;
         if (!facts) {
             report.found.add(code::lamp_missing, stream_file_name, lamp.line,
-                             "lamp " + std::to_string(number) + " has no file");
+                             "lamp " + std::to_string(number) + no_file(file));
             continue;
         }
-        contents.refer_to(file);
         count_lamp_type(facts->type);
         report.lamps_without_power += facts->gives_light ? 0 : 1;
     }

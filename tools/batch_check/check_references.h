@@ -24,6 +24,10 @@ private:
     void check_material_of(const declared_material& material);
     void check_picture_of(const std::string& material_file, const std::string& path, std::size_t line);
     void compare_picture(const std::string& file);
+    // Whether the file is there; then something refers to it, be it readable or not.
+    bool refers_to(const std::string& file);
+    // What is wrong where a file is missing, or there and not readable.
+    std::string no_file(const std::string& file) const;
     void count_lamp_type(const std::string& type);
     // Says so if a full name leads to another folder than this one.
     void warn_of_other_folder(const batch_contents::place& place, const std::string& file, std::size_t line);
