@@ -29,8 +29,9 @@ void add_face(std::string& text, std::mt19937_64& random, bool is_turned) {
     text += "#; ProcessFace MESH\r\nMESH;\r\nTLAY;Layer0\r\nCULL;0\r\nMPUV;1\r\nMATL;10\r\nMPU2;1\r\nMAT2;10\r\n";
     const double angle = uniform(3);
     for (int corner = 0; corner < 4; ++corner) {
+        const int row = corner / 2;
         text += is_turned ? triple("NORM", std::cos(angle), std::sin(angle), 0) : triple("NORM", 0, 0, 1);
-        text += is_turned ? triple("UVQ", uniform(4), uniform(4), 1) : triple("UVQ", corner % 2, corner / 2, 1);
+        text += is_turned ? triple("UVQ", uniform(4), uniform(4), 1) : triple("UVQ", corner % 2, row, 1);
         text += is_turned ? triple("VERT", uniform(500), uniform(500), uniform(50))
                           : triple("VERT", std::round(uniform(900)) * 0.0254 + 0.0,
                                    std::round(uniform(900)) * 0.0254 + 0.0, 2.54);
