@@ -19,7 +19,10 @@ void reference_check::check_materials() {
 
 void reference_check::check_material_of(const declared_material& material) {
     const std::string file = in_folder(materials_folder, file_of_material(material.name));
-    const auto facts = refers_to(file) ? check_material(files, file, material.name, report.found) : std::nullopt;
+    const bool is_there = refers_to(file);
+    if (is_there && !checked_materials.insert(file).second)
+        return;
+    const auto facts = is_there ? check_material(files, file, material.name, report.found) : std::nullopt;
     if (!facts) {
         report.found.add(code::material_missing, stream_file_name, material.line,
                          in_quotes(material.name) + no_file(file));

@@ -7,6 +7,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace batch_check {
 
@@ -38,6 +39,7 @@ private:
     const batch_files& files;
     batch_contents& contents;
     batch_report& report;
+    std::unordered_set<std::string> checked_materials; // once, however often their names are declared
     std::unordered_map<std::string, std::string> material_of_content;
     std::unordered_map<std::string, std::string> picture_of_content;
 };
