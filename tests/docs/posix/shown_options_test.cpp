@@ -1,4 +1,4 @@
-// The pages show the options that the programs have: no others, and all of them.
+// The pages show the options that the programs have: no others, and all of them. On Windows they have fewer.
 
 #include "tests/docs/pages.h"
 #include "tests/docs/program_help.h"

@@ -1,4 +1,4 @@
-// The manual page of each program says what its help says, and names no other options.
+// The manual page of each program says what its help says, and names no other options. The help of Windows is shorter.
 
 #include "tests/docs/pages.h"
 #include "tests/docs/program_help.h"
