@@ -18,7 +18,29 @@ TEST(StreamNumbers, are_the_nearest_doubles_to_their_texts) {
         double expected = 0;
         std::from_chars(text, text + sizeof text, expected);
         ASSERT_EQ(read_real(text), expected) << text;
+        const std::string number = text;
+        const auto triple = read_triple("(" + number + "," + number + "," + number + ")");
+        ASSERT_EQ(triple, (std::array<double, 3>{expected, expected, expected})) << text;
     }
+}
+
+TEST(StreamNumbers, end_at_the_first_character_that_is_no_digit_whatever_it_is) {
+    for (int c = 0; c < 256; ++c) {
+        if ((c >= '0' && c <= '9') || c == '.' || c == 'e' || c == 'E')
+            continue;
+        const std::string text = std::string("12.34") + static_cast<char>(c) + "5678901";
+        std::string_view left = text;
+        double number = 0;
+        ASSERT_TRUE(take_number(left, number)) << c;
+        EXPECT_EQ(number, 12.34) << c;
+        EXPECT_EQ(left, std::string_view(text).substr(5)) << c;
+    }
+}
+
+TEST(StreamNumbers, of_more_digits_than_a_double_has_are_rounded_once) {
+    EXPECT_EQ(read_real("9007199254740993"), 9007199254740992.0); // 2^53 + 1, halfway, to the even one
+    EXPECT_EQ(read_real("0.1000000000000000055511151231257827021181583404541015625"), 0.1);
+    EXPECT_EQ(read_real("123456789012345678901234567890"), 123456789012345678901234567890.0);
 }
 
 TEST(StreamNumbers, in_triples_may_have_blanks_behind_commas_and_nothing_else) {

@@ -1,18 +1,61 @@
 #include "tools/batch_glb/stream_numbers.h"
 
+#include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace {
 
 // Exact as doubles, all of them; a whole number below 2^53 divided by one of them is rounded once.
 constexpr double powers_of_ten[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                     1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-constexpr int most_digits = 15; // 10^15 is below 2^53
+constexpr std::uint64_t whole_powers[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
+constexpr double signs[] = {1, -1}; // a product with one is exact, and no branch that is right half of the time
+constexpr int most_digits = 15;     // 10^15 is below 2^53
 
 bool is_digit(char c) {
     return c >= '0' && c <= '9';
+}
+
+// How many of eight characters, the first in the lowest byte, are digits before anything else comes. A byte that is
+// none gets its highest bit: at once if it is above 127, else from the sum, which is above 127 from 10 on. What a sum
+// carries on goes into later characters only.
+unsigned leading_digits(std::uint64_t values) {
+    constexpr std::uint64_t up_to_128 = 0x7676767676767676; // 128 - 10
+    constexpr std::uint64_t highest_bits = 0x8080808080808080;
+    return static_cast<unsigned>(std::countr_zero(((values + up_to_128) | values) & highest_bits)) / 8;
+}
+
+// The number that eight digits are, 0 to 9 a byte, the first in the lowest: pairs, then fours, then all.
+std::uint64_t number_of_digits(std::uint64_t values) {
+    const std::uint64_t pairs = (values * 10 + (values >> 8U)) & 0x00ff00ff00ff00ff;
+    const std::uint64_t fours = (pairs * 100 + (pairs >> 16U)) & 0x0000ffff0000ffff;
+    return (fours * 10000 + (fours >> 32U)) & 0xffffffff;
+}
+
+// Takes the digits at the front behind those of a number; gives how many. Eight at a time, for a question after each
+// digit is what takes longest in a stream.
+std::ptrdiff_t take_digits(const char*& at, const char* end, std::uint64_t& number) {
+    static_assert(std::endian::native == std::endian::little, "the first character is the lowest byte");
+    const char* const first = at;
+    std::uint64_t eight = 0;
+    while (end - at >= static_cast<std::ptrdiff_t>(sizeof eight)) {
+        std::memcpy(&eight, at, sizeof eight);
+        eight ^= 0x3030303030303030; // "00000000"
+        const unsigned count = leading_digits(eight);
+        // What is no digit falls out at the top, and zeros come in before the digits.
+        if (count > 0)
+            number = number * whole_powers[count] + number_of_digits(eight << 8 * (8 - count));
+        at += count;
+        if (count < sizeof eight)
+            return at - first;
+    }
+    while (at != end && is_digit(*at))
+        number = number * 10 + static_cast<std::uint64_t>(*at++ - '0');
+    return at - first;
 }
 
 bool take_slowly(std::string_view& text, double& number) {
@@ -36,23 +79,17 @@ bool take_number(std::string_view& text, double& number) {
     const bool negative = at != end && *at == '-';
     at += negative ? 1 : 0;
     std::uint64_t digits = 0;
-    const char* const first = at;
-    while (at != end && is_digit(*at))
-        digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
-    auto count = at - first;
-    auto behind_point = count - count;
+    std::ptrdiff_t count = take_digits(at, end, digits);
+    std::ptrdiff_t behind_point = 0;
     if (at != end && *at == '.' && count > 0) {
-        const char* const point = ++at;
-        while (at != end && is_digit(*at))
-            digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
-        behind_point = at - point;
+        ++at;
+        behind_point = take_digits(at, end, digits);
         count += behind_point;
     }
     const bool plain = count > 0 && count <= most_digits && (at == end || (*at != 'e' && *at != 'E'));
     if (!plain)
         return take_slowly(text, number);
-    const double value = static_cast<double>(digits) / powers_of_ten[behind_point];
-    number = negative ? -value : value;
+    number = signs[negative ? 1 : 0] * (static_cast<double>(digits) / powers_of_ten[behind_point]);
     text.remove_prefix(static_cast<std::size_t>(at - text.data()));
     return true;
 }

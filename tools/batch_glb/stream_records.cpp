@@ -35,7 +35,7 @@ private:
     // False for a line that is no record.
     bool take(std::string_view line) {
         if (line.starts_with("NORM;"))
-            return take_vector(line.substr(5), pending.normal);
+            return take_normal(line.substr(5));
         if (line.starts_with("VERT;"))
             return take_vector(line.substr(5), pending.position);
         if (line.starts_with("ADDV;"))
@@ -75,6 +75,19 @@ private:
         return triple.has_value();
     }
 
+    // The vertices of a level face have one normal, mostly.
+    bool take_normal(std::string_view payload) {
+        if (payload.empty() || payload != last_normal_text) {
+            if (!take_vector(payload, last_normal)) {
+                last_normal_text.clear();
+                return false;
+            }
+            last_normal_text = payload;
+        }
+        pending.normal = last_normal;
+        return true;
+    }
+
     bool take_coordinates(std::string_view payload) {
         const auto triple = read_triple(payload);
         if (triple)
@@ -101,6 +114,8 @@ private:
     stream_lines& lines;
     record_taker& taker;
     stream_corner pending;
+    std::string last_normal_text; // empty if there is none
+    gltf::float3 last_normal{};
     stream_reading found;
 };
 
