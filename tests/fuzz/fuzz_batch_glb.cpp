@@ -1,14 +1,18 @@
-// Reads any bytes as a batch and writes it as a GLB file, which must hold what its text says. Files of the batch follow
-// one another, each behind a line "== NAME"; what stands in front of the first is the stream.
+// Reads any bytes as a batch, writes it as a GLB file, which must hold what its text says, and draws it. Files of the
+// batch follow one another, each behind a line "== NAME"; what stands in front of the first is the stream.
 
 #include "tests/gltf/sound_glb.h"
 #include "tests/support/temporary_folder.h"
 #include "tools/batch_glb/batch_glb.h"
+#include "tools/batch_reading/stream_reader.h"
+#include "tools/raster/rasterizer.h"
+#include "tools/raster/stream_painter.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -36,6 +40,18 @@ void write_batch(const temporary_folder& folder, std::string_view bytes) {
     }
 }
 
+void draw(const std::string& batch_folder, const std::string& stream) {
+    view seen;
+    seen.eye = {3, -4, 5};
+    constexpr std::uint64_t most_work = 100000; // points, so that an input takes no longer than the others
+    rasterizer picture(seen, 8, 8, 1, std::nullopt, most_work);
+    stream_painter painter(batch_folder, picture);
+    read_stream(stream, painter);
+    painter.finish();
+    painter.notes();
+    picture.drawn();
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -48,5 +64,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::fprintf(stderr, "%s\n", fault.c_str());
         std::abort();
     }
+    draw(folder / "in", folder.read("in/batch_file.txt"));
     return 0;
 }
