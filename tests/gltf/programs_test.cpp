@@ -6,6 +6,7 @@
 #include "tests/support/run_program.h"
 #include "tests/support/temporary_folder.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace {
@@ -79,6 +80,24 @@ TEST(GlbPrograms, keep_a_material_once_however_often_it_is_declared) {
     const program_result seen = run("batch-to-glb", {folder / "batch", folder / "a.glb"});
     EXPECT_EQ(seen.status, 0) << seen.errors;
     EXPECT_LT(seen.most_bytes, 300000000U); // a thousand times that name are a thousand million
+}
+
+// Each lamp has a shape of its own, in a line of 30 bytes.
+TEST(GlbPrograms, refuse_a_stream_of_more_parts_than_a_file_can_hold) {
+    const temporary_folder folder;
+    std::ofstream stream(folder.write("batch/batch_file.txt", "#;\r\nMESH;\r\nTLAY;a\r\n"), std::ios::app);
+    for (int corner = 0; corner < 3; ++corner)
+        stream << "VERT;(" << corner << "," << corner * corner << ",0)\r\nADDV;" << corner << "\r\n";
+    for (int lamp = 0; lamp < 400000; ++lamp)
+        stream << "LITE;" << lamp << "\r\nFACE;0,1,2\r\n";
+    stream << "EMSH;\r\nEND;\r\n";
+    stream.close();
+    const program_result seen = run("batch-to-glb", {folder / "batch", folder / "a.glb"});
+    EXPECT_EQ(seen.status, 3);
+    EXPECT_EQ(seen.errors,
+              "batch-to-glb: the stream has too many materials and lamps on too many layers for one file\n");
+    EXPECT_LT(seen.most_bytes, 500000000U);
+    EXPECT_FALSE(folder.has("a.glb"));
 }
 
 TEST(GlbPrograms, keep_hidden_things_and_attributes_when_told_so) {

@@ -111,6 +111,30 @@ TEST(BatchView, what_the_camera_does_not_see_is_neither_drawn_nor_looked_at) {
     EXPECT_FALSE(with.picture == drawn_from(triangle_block() + triangle_block("-5")).picture);
 }
 
+TEST(BatchView, a_number_means_the_material_that_was_named_before_it) {
+    const auto colour_with = [](const std::string& declarations) {
+        const temporary_folder folder;
+        folder.write("batch/ZynBatch_Materials/red.qlobj", "Matl: red\r\nColor: 255\r\n");
+        folder.write("batch/ZynBatch_Materials/blue.qlobj", "Matl: blue\r\nColor: 16711680\r\n");
+        std::string block = triangle_block();
+        block.replace(block.find("MATL;0"), 6, "MATL;11");
+        block.replace(block.find("MAT2;0"), 6, "MAT2;11");
+        folder.write("batch/batch_file.txt", "#;\r\n" + declarations + block + "END;\r\n");
+        EXPECT_EQ(run("batch-view", {folder / "batch", "--png", folder / "a.png", "--size", "9x9"}).errors, "");
+        const image::picture picture = decoded(folder.read("a.png"));
+        std::string seen;
+        for (std::uint32_t at = 0; at < 9 * 9; ++at) {
+            const std::uint8_t* const pixel = picture.row(at / 9) + 3 * (at % 9); // blue, green, red
+            if (pixel[1] == 0 && seen.empty())
+                seen = pixel[0] > pixel[2] ? "blue" : "red";
+        }
+        return seen;
+    };
+    EXPECT_EQ(colour_with("MATF;red.OrnMaterial\r\nMATI;10\r\nMATI;11\r\n"), "red");
+    EXPECT_EQ(colour_with("MATF;red.OrnMaterial\r\nMATI;10\r\nMATF;blue.OrnMaterial\r\nMATI;11\r\n"), "blue");
+    EXPECT_EQ(colour_with("MATF;red.OrnMaterial\r\nMATI;11\r\nMATF;blue.OrnMaterial\r\nMATI;11\r\n"), "blue");
+}
+
 // The stream is written line by line, for what the test itself holds counts with what the program takes.
 TEST(BatchView, a_stream_of_any_length_takes_no_more_memory) {
     const temporary_folder folder;

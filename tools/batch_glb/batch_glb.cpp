@@ -77,7 +77,7 @@ gltf::json counts_json(batch_scene& scene) {
 
 std::vector<std::string> notes_of(const stream_reading& reading, batch_scene& scene) {
     std::vector<std::string> notes = scene.materials().notes();
-    if (!reading.has_end)
+    if (!reading.has_end && !scene.has_too_many_parts())
         notes.emplace_back("the stream has no \"END;\": the run that wrote it has not come to its end");
     if (reading.faults > 0)
         notes.push_back(std::to_string(reading.faults) +
@@ -107,7 +107,7 @@ public:
         }
         const stream_reading reading = read_records(lines, scene);
         if (scene.has_too_many_parts())
-            result.failure = "the stream has more layers and materials than a file can hold";
+            result.failure = "the stream has too many materials and lamps on too many layers for one file";
         else
             result.failure = writer.finish(document());
         if (!result.failure.empty())

@@ -47,8 +47,8 @@ batch_materials::file_look batch_materials::read_look(std::string_view name) {
 }
 
 // Nothing if there is no room for another one.
-std::optional<std::size_t> batch_materials::look_of(std::string_view name) {
-    const auto known = look_by_name.find(std::string(name));
+std::optional<std::size_t> batch_materials::look_of(const std::string& name) {
+    const auto known = look_by_name.find(name);
     if (known != look_by_name.end())
         return known->second;
     if (!room.keep(name.size()))
@@ -63,8 +63,15 @@ std::optional<std::size_t> batch_materials::look_of(std::string_view name) {
     return looks.size() - 1;
 }
 
-void batch_materials::declare(int number, std::string_view name) {
-    const std::optional<std::size_t> look = look_of(name);
+void batch_materials::name_next(std::string_view name) {
+    named = name;
+    named_look.reset();
+}
+
+void batch_materials::declare(int number) {
+    if (!named_look)
+        named_look = look_of(named);
+    const std::optional<std::size_t> look = *named_look;
     const auto known = by_number.find(number);
     if (look && known != by_number.end() && slots[known->second].look == *look)
         return;

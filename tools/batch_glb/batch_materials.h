@@ -22,9 +22,12 @@ public:
     // kept: counts what is declared; it outlives this.
     batch_materials(std::string batch_folder, gltf::glb_writer& to, kept_records& kept);
 
-    // "MATI;": from now on the number means the material of that file name. Its file is read once; without one it is
-    // white. Where there is no room for more the number means none.
-    void declare(int number, std::string_view name);
+    // "MATF;": the file of the materials that are declared from now on.
+    void name_next(std::string_view name);
+
+    // "MATI;": from now on the number means the material of the file that was named last. The file is read once;
+    // without one the material is white. Where there is no room for more the number means none.
+    void declare(int number);
 
     // Where the material stands that a number means now; the same for all numbers that mean none.
     std::size_t slot_of(int number) const;
@@ -64,7 +67,7 @@ private:
 
     void note(const std::string& text);
     file_look read_look(std::string_view name);
-    std::optional<std::size_t> look_of(std::string_view name);
+    std::optional<std::size_t> look_of(const std::string& name);
     file_look& look_at(std::size_t slot_number) { return looks[slots[slot_number].look]; }
     void find_picture(file_look& of);
     shown_picture load(const std::string& path);
@@ -74,6 +77,9 @@ private:
     kept_records& room;
     std::vector<file_look> looks;
     std::unordered_map<std::string, std::size_t> look_by_name;
+    std::string named; // by name_next
+    // Of that name, once it has been asked for: names may be of any length, and numbers without end may have the same.
+    std::optional<std::optional<std::size_t>> named_look;
     std::vector<slot> slots;
     std::unordered_map<int, std::size_t> by_number;
     std::unordered_map<std::string, shown_picture> by_path;

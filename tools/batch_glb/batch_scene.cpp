@@ -109,14 +109,18 @@ batch_scene::part* batch_scene::current_part(bool has_coordinates) {
     return chosen = &parts.try_emplace(key, writer.spool(), key.with_picture).first->second;
 }
 
-std::uint32_t batch_scene::vertex_in(part& to, block_vertex& vertex, const gltf::float3& face_normal) {
+// triangle: that of the corner, for a vertex without a sound normal.
+std::uint32_t batch_scene::vertex_in(part& to, block_vertex& vertex, const std::array<block_vertex*, 3>& triangle) {
     if (vertex.owner == &to)
         return vertex.index;
     const stream_corner& corner = vertex.corner;
     gltf::float3 normal = corner.normal;
     const double square = square_length(normal);
     if (!(std::abs(square - 1) < 1e-5)) // nine digits leave less
-        normal = square > 0 && std::isfinite(square) ? gltf::unit_vector(normal[0], normal[1], normal[2]) : face_normal;
+        normal =
+            square > 0 && std::isfinite(square)
+                ? gltf::unit_vector(normal[0], normal[1], normal[2])
+                : normal_of(triangle[0]->corner.position, triangle[1]->corner.position, triangle[2]->corner.position);
     gltf::float2 at{};
     if (std::isfinite(corner.coordinates[0]) && std::isfinite(corner.coordinates[1]))
         at = {corner.coordinates[0], 1 - corner.coordinates[1]};
@@ -155,10 +159,9 @@ void batch_scene::triangle(const std::array<int, 3>& corners, std::uint64_t line
     part* const to = current_part(at[0]->corner.has_coordinates);
     if (to == nullptr)
         return;
-    const gltf::float3 normal = normal_of(at[0]->corner.position, at[1]->corner.position, at[2]->corner.position);
     std::array<std::uint32_t, 3> indices{};
     for (std::size_t i = 0; i < 3; ++i)
-        indices[i] = vertex_in(*to, *at[i], normal);
+        indices[i] = vertex_in(*to, *at[i], at);
     to->data.add_indices(indices);
     note_line(*to, line);
     ++found.triangles;
@@ -166,10 +169,10 @@ void batch_scene::triangle(const std::array<int, 3>& corners, std::uint64_t line
 
 void batch_scene::record(std::string_view tag, std::string_view payload) {
     if (tag == "MATF")
-        declared_name = payload;
+        known.name_next(payload);
     else if (tag == "MATI") {
         if (const auto number = read_integer(payload)) {
-            known.declare(*number, declared_name);
+            known.declare(*number);
             current = {};
         }
     } else if (tag == "LITE" || tag == "LGHT")
@@ -240,6 +243,8 @@ std::size_t batch_scene::add_layer_node(std::size_t layer, const std::vector<std
     const std::size_t number =
         writer.add_text(gltf::list::meshes, "{\"name\":" + gltf::text_of(name) + ",\"primitives\":[");
     for (const auto& [key, each] : parts_of_it) {
+        if (writer.has_failed()) // a long name of many materials makes a text without end
+            break;
         if (each != parts_of_it.front().second)
             writer.extend(gltf::list::meshes, ",");
         add_primitive(key, *each);

@@ -80,7 +80,7 @@ private:
         std::string layer;
     };
 
-    static constexpr std::size_t most_parts = std::size_t{1} << 20U;
+    static constexpr std::size_t most_parts = std::size_t{1} << 18U;
 
     bool is_edge_block() const { return state.material == batch_materials::of_edges; }
     void set_state(std::string_view tag, std::string_view payload);
@@ -90,7 +90,7 @@ private:
     void add_line(const gltf::float3& from, const gltf::float3& to);
     std::size_t layer_number(const std::string& name);
     part* current_part(bool has_coordinates);
-    std::uint32_t vertex_in(part& to, block_vertex& vertex, const gltf::float3& face_normal);
+    std::uint32_t vertex_in(part& to, block_vertex& vertex, const std::array<block_vertex*, 3>& triangle);
     void note_line(part& to, std::uint64_t line);
     std::size_t add_layer_node(std::size_t layer, const std::vector<std::pair<part_key, part*>>& parts);
     void add_primitive(const part_key& key, part& from);
@@ -102,7 +102,6 @@ private:
     placed_things placed;
     block_vertices vertices;
     block_state state;
-    std::string declared_name;
     std::map<part_key, part> parts;
     std::array<part*, 2> current{}; // of the present state, without and with coordinates
     std::vector<std::string> layer_names;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cstring>
+#include <utility>
 
 namespace gltf {
 
@@ -90,8 +92,7 @@ bool glb_writer::has_failed() const {
 }
 
 // All but the lists and the closing brace.
-std::string glb_writer::head_of(const json& document) const {
-    json all = document;
+std::string glb_writer::head_of(json all) const {
     all["asset"] = {{"version", "2.0"}, {"generator", "tessaline"}};
     if (buffer_size > 0)
         all["buffers"] = {{{"byteLength", buffer_size}}};
@@ -113,8 +114,8 @@ std::uint64_t glb_writer::size_of_lists() const {
     return size;
 }
 
-std::string glb_writer::finish(const json& document) {
-    const std::string head = head_of(document);
+std::string glb_writer::finish(json document) {
+    const std::string head = head_of(std::move(document));
     const std::string tail = "}";
     const std::uint64_t json_bytes = head.size() + size_of_lists() + tail.size();
     const std::uint64_t total =
@@ -139,6 +140,8 @@ bool glb_writer::write_parts(const std::string& head, const std::string& tail, s
     std::string block;
     constexpr std::size_t block_size = std::size_t{1} << 18U;
     const auto to = [&](std::string_view bytes) {
+        if (block.empty() && bytes.size() >= block_size)
+            return out.write_all(bytes);
         block.append(bytes);
         if (block.size() < block_size)
             return true;
@@ -177,9 +180,9 @@ bool glb_writer::write_buffer(const std::function<bool(std::string_view)>& to) {
             return to(bytes);
         };
         const auto narrow = [&](std::string_view bytes) {
-            halves.clear();
-            for (std::size_t i = 0; i + 3 < bytes.size(); i += 4)
-                halves.append(bytes.substr(i, 2));
+            halves.resize(bytes.size() / 2);
+            for (std::size_t i = 0; i + 1 < halves.size(); i += 2)
+                std::memcpy(&halves[i], &bytes[2 * i], 2);
             return count_and_give(halves);
         };
         const bool done =

@@ -58,7 +58,7 @@ public:
 
     // Writes the file. document: what stands in the JSON text beside the lists above and "asset": "scene", "scenes",
     // "samplers". Gives why it could not be written, in words, or an empty text; then no file is left.
-    std::string finish(const json& document);
+    std::string finish(json document);
 
 private:
     struct json_list {
@@ -73,7 +73,7 @@ private:
     std::uint64_t size_of_lists() const;
     bool write_parts(const std::string& head, const std::string& tail, std::uint64_t json_bytes);
     bool write_buffer(const std::function<bool(std::string_view)>& to);
-    std::string head_of(const json& document) const;
+    std::string head_of(json all) const;
 
     std::string target; // the name of the file
     std::uint64_t most_bytes;

@@ -80,8 +80,10 @@ stream_painter::paint stream_painter::read_paint(const std::string& material_nam
 }
 
 void stream_painter::record(std::string_view tag, std::string_view payload) {
-    if (tag == "MATF")
+    if (tag == "MATF") {
         last_name = payload;
+        last_paint.reset();
+    }
     if (tag != "MATI")
         return;
     int number = 0;
@@ -91,13 +93,23 @@ void stream_painter::record(std::string_view tag, std::string_view payload) {
 
 // Where there is no room for more the number means no material.
 void stream_painter::declare(int number) {
-    auto known = paints_by_name.find(last_name);
-    if (known == paints_by_name.end() && room.keep(last_name.size()))
-        known = paints_by_name.emplace(last_name, read_paint(last_name)).first;
-    if (known != paints_by_name.end() && (paints.contains(number) || room.keep(0)))
-        paints[number] = known->second;
+    if (!last_paint)
+        last_paint = paint_named(last_name);
+    if (*last_paint && (paints.contains(number) || room.keep(0)))
+        paints[number] = **last_paint;
     else
         paints.erase(number);
+}
+
+// Nothing where there is no room for another name.
+std::optional<stream_painter::paint> stream_painter::paint_named(const std::string& material_name) {
+    auto known = paints_by_name.find(material_name);
+    if (known == paints_by_name.end()) {
+        if (!room.keep(material_name.size()))
+            return std::nullopt;
+        known = paints_by_name.emplace(material_name, read_paint(material_name)).first;
+    }
+    return known->second;
 }
 
 std::vector<std::string> stream_painter::notes() const {

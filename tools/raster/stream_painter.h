@@ -46,6 +46,7 @@ private:
         paint with;
     };
     void declare(int number);
+    std::optional<paint> paint_named(const std::string& material_name);
     void note_missing(const std::string& path);
     paint read_paint(const std::string& material_name);
     const image::picture* picture_of(const std::string& path);
@@ -55,6 +56,7 @@ private:
     std::string folder;
     rasterizer& picture;
     std::string last_name;                                         // of "MATF;"
+    std::optional<std::optional<paint>> last_paint;                // of that name, once it has been asked for
     kept_records room;                                             // for materials and their numbers
     std::map<int, paint> paints;                                   // by material number
     std::map<std::string, paint> paints_by_name;                   // of material files that have been read
