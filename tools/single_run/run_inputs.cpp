@@ -86,10 +86,10 @@ std::string settled_folder(const std::string& name) {
         const std::size_t end = std::min(full.find(platform::path_separator, begin), full.size());
         const std::string part = full.substr(begin, end - begin);
         begin = end + 1;
-        if (part == "..") // of what a link leads to, if the folder before it is one
-            settled = without_separators_at_end(
-                platform::real_name(settled + platform::path_separator + "..").value_or(platform::parent_of(settled)));
-        else if (!part.empty() && part != ".")
+        if (part == "..") { // of what a link leads to, if the folder before it is one
+            const auto above = platform::real_name(std::string(settled).append(1, platform::path_separator) + part);
+            settled = without_separators_at_end(above.value_or(platform::parent_of(settled)));
+        } else if (!part.empty() && part != ".")
             settled.append(settled.ends_with(platform::path_separator) ? 0 : 1, platform::path_separator).append(part);
     }
     return settled.empty() ? std::string(1, platform::path_separator) : settled;

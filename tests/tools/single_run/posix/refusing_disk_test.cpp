@@ -179,6 +179,11 @@ TEST_F(RefusingDisk, two_dots_behind_a_link_lead_to_the_folder_above_its_target)
     EXPECT_TRUE(here.has("a/batch/tessaline-run.json"));
 }
 
+TEST_F(RefusingDisk, two_dots_above_everything_lead_nowhere_else) {
+    EXPECT_EQ(run_program(start_of({here / "model.skp", "/.." + here / "batch"})).status, 0);
+    EXPECT_EQ(report()["folder"], here / "batch");
+}
+
 TEST_F(RefusingDisk, a_report_goes_to_a_pipe_and_a_link_to_a_report_stays) {
     here.write("report.json", "old");
     std::filesystem::create_symlink(here / "report.json", here / "link.json");
