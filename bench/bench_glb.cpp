@@ -64,7 +64,7 @@ void count_bytes(benchmark::State& state) {
 void split_lines(benchmark::State& state) {
     const std::string file = batch().folder / "batch_file.txt";
     for (auto _ : state) {
-        stream_lines lines;
+        file_lines lines;
         lines.open(file);
         std::string_view line;
         while (lines.next(line))

@@ -1,10 +1,11 @@
 #include "tests/support/temporary_folder.h"
-#include "tools/batch_glb/stream_lines.h"
 #include "tools/batch_glb/stream_numbers.h"
+#include "tools/batch_reading/file_lines.h"
 
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -59,11 +60,11 @@ TEST(StreamNumbers, of_corners_are_whole_and_three) {
         EXPECT_FALSE(read_corners(wrong)) << wrong;
 }
 
-TEST(StreamLines, are_the_same_however_small_the_block_is) {
+TEST(FileLines, are_the_same_however_small_the_block_is) {
     const temporary_folder folder;
     const std::string file = folder.write("a", "one\r\n\r\nthree is longer\nfour");
     for (std::size_t block = 1; block < 30; ++block) {
-        stream_lines lines;
+        file_lines lines;
         ASSERT_TRUE(lines.open(file, block));
         std::vector<std::string> found;
         for (std::string_view line; lines.next(line);)
@@ -73,11 +74,25 @@ TEST(StreamLines, are_the_same_however_small_the_block_is) {
     }
 }
 
-TEST(StreamLines, of_a_missing_file_are_told_and_of_an_empty_one_none) {
+TEST(FileLines, of_a_missing_file_are_told_and_of_an_empty_one_none) {
     const temporary_folder folder;
-    stream_lines lines;
+    file_lines lines;
     EXPECT_FALSE(lines.open(folder / "none"));
     ASSERT_TRUE(lines.open(folder.write("empty", "")));
     std::string_view line;
     EXPECT_FALSE(lines.next(line));
+}
+
+TEST(FileLines, of_more_than_64_MiB_end_the_reading) {
+    const temporary_folder folder;
+    const std::string file = folder.write("a", "one\n");
+    std::filesystem::resize_file(file, (std::uintmax_t{1} << 26U) + 10);
+    file_lines lines;
+    ASSERT_TRUE(lines.open(file));
+    std::string_view line;
+    EXPECT_TRUE(lines.next(line));
+    EXPECT_FALSE(lines.is_too_long());
+    EXPECT_FALSE(lines.next(line));
+    EXPECT_TRUE(lines.is_too_long());
+    EXPECT_EQ(lines.number(), 1U);
 }

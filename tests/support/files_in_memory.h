@@ -45,7 +45,7 @@ public:
         return found == files.end() ? std::nullopt : std::optional<std::uint64_t>(found->second.size());
     }
 
-    std::unique_ptr<batch_check::byte_source> open(const std::string& name) const override {
+    std::unique_ptr<byte_source> open(const std::string& name) const override {
         const auto found = files.find(name);
         return found == files.end() ? nullptr : std::make_unique<bytes_in_memory>(found->second);
     }
@@ -60,7 +60,7 @@ private:
 
 public:
     // The bytes must outlive it.
-    class bytes_in_memory : public batch_check::byte_source {
+    class bytes_in_memory : public byte_source {
     public:
         explicit bytes_in_memory(std::string_view all) : rest(all) {}
         std::size_t read(char* into, std::size_t size) override {

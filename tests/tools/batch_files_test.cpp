@@ -13,7 +13,7 @@ namespace {
 using batch_check::whole_file;
 
 // Gives one byte at a time.
-class slow_source : public batch_check::byte_source {
+class slow_source : public byte_source {
 public:
     explicit slow_source(std::string_view all) : bytes(all) {}
     std::size_t read(char* into, std::size_t size) override { return bytes.read(into, std::min<std::size_t>(size, 1)); }
@@ -27,7 +27,7 @@ class slow_files : public files_in_memory {
 public:
     explicit slow_files(std::uint64_t bytes) : files_in_memory(files_by_name{{"a.txt", text}}), said(bytes) {}
     std::optional<std::uint64_t> size(const std::string& /*name*/) const override { return said; }
-    std::unique_ptr<batch_check::byte_source> open(const std::string& /*name*/) const override {
+    std::unique_ptr<byte_source> open(const std::string& /*name*/) const override {
         return std::make_unique<slow_source>(text);
     }
 

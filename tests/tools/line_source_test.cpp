@@ -1,4 +1,4 @@
-#include "tools/batch_check/line_source.h"
+#include "tools/batch_reading/line_source.h"
 
 #include "tests/support/files_in_memory.h"
 
@@ -8,7 +8,6 @@
 
 namespace {
 
-using batch_check::line_source;
 using texts = std::vector<std::string>;
 
 texts lines_of(std::string_view text, std::size_t block, std::size_t longest = line_source::longest_line) {
@@ -86,7 +85,7 @@ TEST(LineSource, cuts_a_line_that_is_too_long_and_goes_on_behind_it) {
 
 TEST(LineSource, a_line_without_end_takes_no_more_memory_than_is_kept_of_it) {
     // Gives the same character for ever, well beyond what memory holds if it were kept.
-    class endless : public batch_check::byte_source {
+    class endless : public byte_source {
     public:
         std::size_t read(char* into, std::size_t size) override {
             if (given > std::size_t{1} << 30U)

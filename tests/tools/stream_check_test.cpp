@@ -407,8 +407,8 @@ TEST(StreamCheck, declarations_and_lamps_count_where_they_are_passed_over) {
 }
 
 TEST(StreamCheck, a_line_of_more_than_64_MiB_is_read_in_part_and_said) {
-    const lines long_name = {"TLAY;" + std::string(batch_check::line_source::longest_line + 1000000, 'x'), "CULL;0",
-                             "MATL;0", "MAT2;0"};
+    const lines long_name = {"TLAY;" + std::string(line_source::longest_line + 1000000, 'x'), "CULL;0", "MATL;0",
+                             "MAT2;0"};
     const batch_check::findings found = found_in({head, pass, face_head, long_name, triangle(0), close, end});
     EXPECT_EQ(found.count(code::stream_given_up), 1U) << batch_check::finding_lines(found);
 }

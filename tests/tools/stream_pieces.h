@@ -5,7 +5,7 @@
 #include "tests/support/files_in_memory.h"
 #include "tools/batch_check/check_stream.h"
 #include "tools/batch_check/first_screen.h"
-#include "tools/batch_check/line_source.h"
+#include "tools/batch_reading/line_source.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "platform/platform.h"
 #include "tools/batch_glb/batch_view.h"
-#include "tools/batch_glb/stream_lines.h"
+#include "tools/batch_reading/file_lines.h"
 #include "tools/batch_reading/stream_reader.h"
 #include "tools/page/draw_into_place.h"
 #include "tools/raster/rasterizer.h"
@@ -27,7 +27,7 @@ struct box_finder : public stream_visitor {
 
 // False if there is no stream that can be read.
 bool read_batch(const std::string& batch_folder, stream_visitor& visitor) {
-    stream_lines lines;
+    file_lines lines;
     if (!lines.open(batch_folder + platform::path_separator + "batch_file.txt"))
         return false;
     stream_line_reader reader(visitor);

@@ -3,7 +3,8 @@
 // Where the files of a batch come from: a folder of the disk, or the memory of a test. Names lead from the batch folder
 // on, with "/" between.
 
-#include <cstddef>
+#include "tools/batch_reading/byte_source.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -11,14 +12,6 @@
 #include <vector>
 
 namespace batch_check {
-
-// The bytes of a file, one after the other.
-class byte_source {
-public:
-    virtual ~byte_source() = default;
-    // Up to `size` bytes; 0 at the end and on an error.
-    virtual std::size_t read(char* into, std::size_t size) = 0;
-};
 
 struct listed_entry {
     std::string name; // without folder

@@ -4,8 +4,8 @@
 // counts as taken; a line that cannot stand where it stands is thrown as `out_of_order`, when its finding is made.
 
 #include "tools/batch_check/findings.h"
-#include "tools/batch_check/line_source.h"
 #include "tools/batch_check/number_forms.h"
+#include "tools/batch_reading/line_source.h"
 
 #include <optional>
 #include <span>

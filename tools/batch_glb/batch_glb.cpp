@@ -99,7 +99,7 @@ public:
     batch_glb_result run() {
         batch_glb_result result;
         const std::string stream = folder + platform::path_separator + "batch_file.txt";
-        stream_lines lines;
+        file_lines lines;
         if (!lines.open(stream)) {
             result.outcome = batch_glb_outcome::no_batch;
             result.failure = "there is no readable stream " + stream;

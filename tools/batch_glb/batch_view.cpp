@@ -2,8 +2,8 @@
 
 #include "platform/platform.h"
 #include "tessaline/reading/view_file.h"
-#include "tools/batch_glb/stream_lines.h"
 #include "tools/batch_glb/stream_numbers.h"
+#include "tools/batch_reading/file_lines.h"
 #include "tools/gltf/numbers.h"
 
 #include <algorithm>
@@ -134,7 +134,7 @@ std::optional<std::size_t> add_view(gltf::glb_writer& to, const std::string& bat
 }
 
 std::optional<std::size_t> add_sun(gltf::glb_writer& to, const std::string& batch_folder) {
-    stream_lines lines;
+    file_lines lines;
     if (!lines.open(batch_folder + platform::path_separator + "option_globals.txt"))
         return std::nullopt;
     std::optional<double> azimuth;

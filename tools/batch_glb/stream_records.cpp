@@ -8,7 +8,7 @@ constexpr std::uint64_t lines_between_questions = 1U << 16U;
 
 class record_reader {
 public:
-    record_reader(stream_lines& from, record_taker& to) : lines(from), taker(to) {}
+    record_reader(file_lines& from, record_taker& to) : lines(from), taker(to) {}
 
     stream_reading read() {
         std::string_view line;
@@ -111,7 +111,7 @@ private:
         return corners.has_value();
     }
 
-    stream_lines& lines;
+    file_lines& lines;
     record_taker& taker;
     stream_corner pending;
     std::string last_normal_text; // empty if there is none
@@ -121,6 +121,6 @@ private:
 
 } // namespace
 
-stream_reading read_records(stream_lines& lines, record_taker& taker) {
+stream_reading read_records(file_lines& lines, record_taker& taker) {
     return record_reader(lines, taker).read();
 }

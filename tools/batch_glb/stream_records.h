@@ -2,7 +2,7 @@
 
 // The records of a geometry stream, each line taken apart.
 
-#include "tools/batch_glb/stream_lines.h"
+#include "tools/batch_reading/file_lines.h"
 #include "tools/gltf/vertex_data.h"
 
 #include <cstdint>
@@ -38,4 +38,4 @@ struct stream_reading {
 };
 
 // Reads to the end of the lines.
-stream_reading read_records(stream_lines& lines, record_taker& taker);
+stream_reading read_records(file_lines& lines, record_taker& taker);

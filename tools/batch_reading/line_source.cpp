@@ -1,6 +1,4 @@
-#include "tools/batch_check/line_source.h"
-
-namespace batch_check {
+#include "tools/batch_reading/line_source.h"
 
 line_source::line_source(byte_source& from, std::size_t block, std::size_t longest)
     : source(from), block_size(block), longest_size(longest), buffer(block) {
@@ -80,5 +78,3 @@ void line_source::note_wrong_end() {
     if (wrong_end_count++ == 0)
         first_wrong = line_number;
 }
-
-} // namespace batch_check

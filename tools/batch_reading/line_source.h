@@ -2,22 +2,21 @@
 
 // The lines of a file of any size, one after the other, out of a buffer that is as large as the longest of them.
 
-#include "tools/batch_check/batch_files.h"
+#include "tools/batch_reading/byte_source.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
-#include <optional>
 #include <string_view>
 #include <vector>
 
-namespace batch_check {
-
 class line_source {
 public:
+    static constexpr std::size_t usual_block = std::size_t{1} << 18U;   // bytes
     static constexpr std::size_t longest_line = std::size_t{64} << 20U; // bytes; longer ones are cut
 
     // from: must outlive this. block: bytes that are read at once, at least 1.
-    explicit line_source(byte_source& from, std::size_t block = default_block, std::size_t longest = longest_line);
+    explicit line_source(byte_source& from, std::size_t block = usual_block, std::size_t longest = longest_line);
 
     // ---- looking; what is given holds until the next call of advance() or next_is()
     bool at_end() const { return is_at_end; }
@@ -45,8 +44,6 @@ public:
     std::uint64_t bytes_read() const { return read_count; }
 
 private:
-    static constexpr std::size_t default_block = std::size_t{1} << 18U;
-
     // Reads until the buffer holds a line feed at or behind `begin`, the file ends, or the line is too long.
     const char* feed_behind_buffer();
     // The same for a line that is too long: its end moves up to what is kept of it.
@@ -82,5 +79,3 @@ private:
     std::size_t cut_count = 0;
     std::uint64_t read_count = 0;
 };
-
-} // namespace batch_check
