@@ -112,6 +112,17 @@ TEST(StreamCheck, wants_a_layer_list_in_an_animation_and_only_there) {
     expect_nothing(found_in({head, layer_table, pass, unknown, end}));
 }
 
+TEST(StreamCheck, reports_the_first_fault_of_a_layer_list_alone) {
+    const auto found_with = [](const std::string& list) {
+        const lines listed = {"TLAY;Walls", list, "CULL;0", "MATL;0", "MAT2;0"};
+        return found_in({head, layer_table, pass, face_head, listed, triangle(0), close, end});
+    };
+    EXPECT_EQ(found_with("LYRS;7,8,x,9").count(code::stream_layer_number), 1U);
+    EXPECT_EQ(found_with("LYRS;7,8,x,9").kept().size(), 1U);
+    EXPECT_EQ(found_with("LYRS;0,x,7").count(code::stream_number), 1U);
+    EXPECT_EQ(found_with("LYRS;0,x,7").kept().size(), 1U);
+}
+
 TEST(StreamCheck, takes_materials_that_were_declared) {
     const lines painted = {"TLAY;Layer0", "CULL;0", "MATL;10", "MAT2;10"};
     expect_good({wall, face_head, painted, triangle(0), close});

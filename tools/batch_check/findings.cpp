@@ -28,10 +28,10 @@ std::uint64_t findings::left_out(code what) const {
 namespace {
 
 // Where a full name begins in a line: "/", "\\" or a drive letter behind nothing, or behind what separates words,
-// keys from values, and values from each other.
-std::size_t start_of_full_name(std::string_view text) {
+// keys from values, and values from each other; the end of the text if it begins behind so many bytes, or nowhere.
+std::size_t start_of_full_name(std::string_view text, std::size_t most_bytes) {
     constexpr std::string_view separating = " \t;:=,(\"'";
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    for (std::size_t i = 0; i < std::min(text.size(), most_bytes); ++i) {
         if (i > 0 && separating.find(text[i - 1]) == std::string_view::npos)
             continue;
         const std::string_view rest = text.substr(i);
@@ -46,7 +46,7 @@ std::size_t start_of_full_name(std::string_view text) {
 
 std::string in_quotes(std::string_view text) {
     constexpr std::size_t most_bytes = 80;
-    const std::size_t start = start_of_full_name(text);
+    const std::size_t start = start_of_full_name(text, most_bytes); // lines may be of many megabytes
     const std::size_t separator = text.find_last_of("/\\");
     std::string shown(text.substr(0, std::min(start, most_bytes + 1)));
     if (start < text.size())

@@ -87,6 +87,8 @@ private:
     shown_side take_side(int first);
     bool at_side();
     void take_layer_of_geometry();
+    // The first fault of a list is a finding: one list may have millions.
+    void check_layer_list(std::string_view list);
     uvq_use take_materials();
     int take_material_number(std::string_view tag);
     void take_back_material(int front);

@@ -37,15 +37,21 @@ void stream_check::take_layer_of_geometry() {
     lines.skip();
     if (!is_listed)
         return;
-    std::string_view list = lines.payload("LYRS;");
+    check_layer_list(lines.payload("LYRS;"));
+    lines.skip();
+}
+
+void stream_check::check_layer_list(std::string_view list) {
     do {
         const std::optional<int> index = whole_number(take_field(list, ","));
+        if (index && *index >= 0 && *index < layer_count)
+            continue;
         if (!index)
             lines.report(code::stream_number, "no list of whole numbers");
-        else if (*index < 0 || *index >= layer_count)
+        else
             lines.report(code::stream_layer_number, "no layer has the number " + std::to_string(*index));
+        return;
     } while (!list.empty());
-    lines.skip();
 }
 
 stream_check::uvq_use stream_check::take_materials() {
