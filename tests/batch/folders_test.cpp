@@ -110,7 +110,7 @@ TEST(FoldersBatch, the_date_line_holds_the_local_time_of_the_run) {
     std::set<std::string> possible;
     for (std::time_t moment = before; moment <= after; ++moment)
         for (const int hours_west : {4, 5}) { // in summer and in winter
-            const std::time_t local = moment - hours_west * 3600;
+            const std::time_t local = moment - std::time_t{3600} * hours_west;
             const std::tm parts = *std::gmtime(&local);
             char text[64];
             std::strftime(text, sizeof text, "#;%m/%d/%Y  %H:%M:%S ", &parts);

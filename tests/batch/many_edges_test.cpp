@@ -229,7 +229,7 @@ TEST(ManyEdgesBatch, true_lines_in_every_mode_and_view) {
             else if (view.file)
                 expect_stream(b, stream_of_lines(chosen(choice)));
             else
-                expect_stream(b, head + edges_begin + end_of_stream);
+                expect_stream(b, std::string(head).append(edges_begin).append(end_of_stream));
         }
 }
 
