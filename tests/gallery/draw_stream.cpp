@@ -5,6 +5,7 @@
 #include "sketchup/SketchUpAPI.h"
 #include "tools/batch_reading/stream_reader.h"
 #include "tools/command_line/answers.h"
+#include "tools/gltf/numbers.h"
 #include "tools/raster/model_camera.h"
 #include "tools/raster/rasterizer.h"
 #include "tools/raster/stream_painter.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr double metres_in_an_inch = 0.0254;
 constexpr std::size_t samples_a_pixel_side = 3;
 
 view camera_of_file(const std::string& model_file) {
@@ -22,7 +22,7 @@ view camera_of_file(const std::string& model_file) {
     SUModelRef model = SU_INVALID;
     if (SUModelCreateFromFile(&model, model_file.c_str()) != SU_ERROR_NONE)
         return result;
-    result = camera_of(model, metres_in_an_inch);
+    result = camera_of(model, gltf::metres_in_an_inch);
     SUModelRelease(&model);
     return result;
 }
