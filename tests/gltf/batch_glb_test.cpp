@@ -305,6 +305,13 @@ TEST(BatchGlb, gives_a_vertex_without_a_sound_normal_that_of_its_triangle) {
               (numbers{1, 0, 0, 1, 0, 0, 0, double{0.6F}, double{0.8F}}));
 }
 
+TEST(BatchGlb, cannot_read_a_normal_of_no_numbers) {
+    batch made("NORM;\r\nNORM;(0,0,1)\r\nNORM;\r\n");
+    made.convert();
+    EXPECT_EQ(made.result.notes,
+              (std::vector<std::string>{"2 lines of the stream cannot be read, the first of them line 2"}));
+}
+
 TEST(BatchGlb, takes_vertex_numbers_in_any_order_and_far_apart) {
     batch made("MESH;\r\nTLAY;a\r\nCULL;0\r\nMATL;0\r\nMAT2;0\r\nNORM;(0,0,1)\r\nVERT;(1,0,0)\r\nADDV;2000000000\r\n"
                "NORM;(0,0,1)\r\nVERT;(2,0,0)\r\nADDV;-5\r\nNORM;(0,0,1)\r\nVERT;(3,1,0)\r\nADDV;0\r\nFACE;0,-5,"
