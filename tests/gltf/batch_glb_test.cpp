@@ -354,8 +354,10 @@ TEST(BatchGlb, places_plants_outside_objects_and_section_planes) {
 }
 
 TEST(BatchGlb, leaves_out_what_has_a_name_beyond_the_room_for_names_and_says_so) {
-    batch made("PLLB;" + std::string(33554433, 'a') + "\r\nPLNM;Oak\r\nPLNT;1\r\nPLNT;1\r\n" +
-               "PLLB;Trees\r\nPLNM;Ash\r\nPLNT;1\r\n");
+    std::string stream = "PLLB;";
+    stream.resize(5 + 33554433, 'a'); // 32 MiB and one
+    stream += "\r\nPLNM;Oak\r\nPLNT;1\r\nPLNT;1\r\nPLLB;Trees\r\nPLNM;Ash\r\nPLNT;1\r\n";
+    batch made(stream);
     const read_glb glb = made.convert();
     EXPECT_TRUE(glb.node("Oak").is_null());
     EXPECT_FALSE(glb.node("Ash").is_null());

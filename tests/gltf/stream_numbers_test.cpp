@@ -20,7 +20,9 @@ TEST(StreamNumbers, are_the_nearest_doubles_to_their_texts) {
         std::from_chars(text, text + sizeof text, expected);
         ASSERT_EQ(read_real(text), expected) << text;
         const std::string number = text;
-        const auto triple = read_triple("(" + number + "," + number + "," + number + ")");
+        std::string three = "(" + number;
+        three.append(",").append(number).append(",").append(number).append(")");
+        const auto triple = read_triple(three);
         ASSERT_EQ(triple, (std::array<double, 3>{expected, expected, expected})) << text;
     }
 }

@@ -37,7 +37,7 @@ TEST(BatchView, the_picture_has_the_size_that_was_asked_for_and_shows_something)
     EXPECT_EQ(seen.status, 0) << seen.errors;
     const image::picture picture = decoded(folder.read("a.png"));
     EXPECT_EQ(picture.extent(), (image::picture_extent{60, 40, 24}));
-    const std::uint8_t* const middle = picture.row(20) + 30 * 3;
+    const std::uint8_t* const middle = picture.row(20) + std::size_t{30} * 3;
     EXPECT_NE((std::vector<int>{middle[0], middle[1], middle[2]}), (std::vector<int>{235, 235, 235})); // 0.92 * 255
     EXPECT_FALSE(folder.has("a.png.part"));
     EXPECT_FALSE(folder.has("a.html"));
@@ -124,7 +124,7 @@ TEST(BatchView, a_number_means_the_material_that_was_named_before_it) {
         const image::picture picture = decoded(folder.read("a.png"));
         std::string seen;
         for (std::uint32_t at = 0; at < 9 * 9; ++at) {
-            const std::uint8_t* const pixel = picture.row(at / 9) + 3 * (at % 9); // blue, green, red
+            const std::uint8_t* const pixel = picture.row(at / 9) + std::size_t{3} * (at % 9); // blue, green, red
             if (pixel[1] == 0 && seen.empty())
                 seen = pixel[0] > pixel[2] ? "blue" : "red";
         }
