@@ -63,19 +63,9 @@ fpt point_of_binary_text(std::string_view text) {
 
 } // namespace
 
-double magnitude(const fpt& vector) {
-    return std::sqrt(dot(vector, vector));
-}
-
-void fpt::make_unit(double length) {
-    const double own_length = magnitude(*this);
-    if (!std::isfinite(own_length)) {
-        cl_trace::here("fpt::make_unit", trace_level::report).report("Try/Catch Error during punit: %g,%g,%g", x, y, z);
-        return;
-    }
-    if (own_length == 0.0)
-        return;
-    *this = *this * (length / own_length);
+void report_no_magnitude(const fpt& vector) {
+    cl_trace::here("fpt::make_unit", trace_level::report)
+        .report("Try/Catch Error during punit: %g,%g,%g", vector.x, vector.y, vector.z);
 }
 
 std::string fpt_to_text(const fpt& point) {

@@ -2,6 +2,7 @@
 
 // Points, vectors and the small arithmetic on them, their text form, and the two scales of a lamp's intensity.
 
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -51,7 +52,20 @@ inline fpt cross(const fpt& a, const fpt& b) {
 }
 
 // The length of the vector, in the unit of its components.
-double magnitude(const fpt& vector);
+inline double magnitude(const fpt& vector) {
+    return std::sqrt(dot(vector, vector));
+}
+
+// Says at level 1 that a vector has no finite magnitude.
+void report_no_magnitude(const fpt& vector);
+
+inline void fpt::make_unit(double length) {
+    const double own_length = magnitude(*this);
+    if (!std::isfinite(own_length)) [[unlikely]]
+        report_no_magnitude(*this);
+    else if (own_length != 0.0)
+        *this = *this * (length / own_length);
+}
 
 // The value, or exactly 0 if its absolute value is below `limit`; a value of exactly `limit` stays.
 inline double snap_to_zero(double value, double limit) {

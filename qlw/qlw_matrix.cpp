@@ -39,26 +39,81 @@ fpt divided(const fpt& vector, double divisor) {
     return {vector.x / divisor, vector.y / divisor, vector.z / divisor};
 }
 
-} // namespace
+// The root of what is not 0 is not 0.
+bool has_no_length(const fpt& vector) {
+    return dot(vector, vector) == 0.0;
+}
 
-bool cl_matrix::create_from_vectors(const fpt& point, fpt& x_axis, fpt& y_axis, const fpt& scale_factors) {
-    if (magnitude(y_axis) == 0.0)
+// What lies along the local axes of a placement.
+struct local_axes {
+    fpt x;
+    fpt y;
+    fpt z;
+};
+
+// The unit axes of a placement whose x and y run along these vectors; false, and a report, as create_from_vectors says.
+bool find_axes(const fpt& x_axis, const fpt& y_axis, local_axes& found) {
+    if (has_no_length(y_axis))
         return false;
-    fpt z_axis = cross(x_axis, y_axis);
-    z_axis.make_unit(1.0);
-    if (magnitude(z_axis) == 0.0) {
+    found.z = cross(x_axis, y_axis);
+    found.z.make_unit(1.0);
+    if (has_no_length(found.z)) {
         cl_trace::here("cl_matrix::create_from_vectors", trace_level::report)
             .report("Could not create normal - X and Y vectors are co-linear: %s %s", fpt_to_text(x_axis),
                     fpt_to_text(y_axis));
         return false;
     }
-    x_axis.make_unit(1.0);
-    y_axis = cross(z_axis, x_axis);
-    y_axis.make_unit(1.0);
+    found.x = x_axis;
+    found.x.make_unit(1.0);
+    found.y = cross(found.z, found.x);
+    found.y.make_unit(1.0);
+    return true;
+}
 
-    set_column(inverse, 0, x_axis);
-    set_column(inverse, 1, y_axis);
-    set_column(inverse, 2, z_axis);
+// Two unit vectors in the plane with that normal; false, with x zero, if the helper is parallel to it.
+bool find_vectors_in_plane(const fpt& point, const fpt& normal, fpt& x, fpt& y) {
+    // The helper keeps the coordinates of the point instead of being a pure direction, so the placement turns with the
+    // place of the point. The consumers of the resulting axes depend on that.
+    const fpt step = std::abs(normal.z) < flat_normal_z ? fpt{0, 0, 1} : fpt{1, 0, 0};
+    const fpt helper = point + step;
+    x = cross(normal, helper);
+    y = cross(normal, x);
+    x.make_unit(1.0);
+    y.make_unit(1.0);
+    return !has_no_length(x);
+}
+
+// The rows of the inverse of the matrix with these columns; false, with nothing changed, if its determinant is 0.
+bool invert(const local_axes& columns, local_axes& rows) {
+    // The rows of the adjugate are the cross products of the columns of the matrix; each holds the cofactors of a
+    // column.
+    const fpt adjugate0 = cross(columns.y, columns.z);
+    const fpt adjugate1 = cross(columns.z, columns.x);
+    const fpt adjugate2 = cross(columns.x, columns.y);
+    const double determinant = dot(columns.x, adjugate0);
+    if (determinant == 0.0)
+        return false;
+    const double factor = 1.0 / determinant;
+    rows = {adjugate0 * factor, adjugate1 * factor, adjugate2 * factor};
+    return true;
+}
+
+fpt snapped_point(const fpt& point) {
+    return {snap_to_zero(point.x, smallest_coordinate), snap_to_zero(point.y, smallest_coordinate),
+            snap_to_zero(point.z, smallest_coordinate)};
+}
+
+} // namespace
+
+bool cl_matrix::create_from_vectors(const fpt& point, fpt& x_axis, fpt& y_axis, const fpt& scale_factors) {
+    local_axes axes;
+    if (!find_axes(x_axis, y_axis, axes))
+        return false;
+    x_axis = axes.x;
+    y_axis = axes.y;
+    set_column(inverse, 0, axes.x);
+    set_column(inverse, 1, axes.y);
+    set_column(inverse, 2, axes.z);
     set_row(forward, 3, {});
     invert_axes();
     scale(scale_factors.x, scale_factors.y, scale_factors.z);
@@ -67,18 +122,32 @@ bool cl_matrix::create_from_vectors(const fpt& point, fpt& x_axis, fpt& y_axis, 
 }
 
 bool cl_matrix::create_from_normal(const fpt& point, const fpt& normal) {
-    // The helper keeps the coordinates of the point instead of being a pure direction, so the placement turns with the
-    // place of the point. The consumers of the resulting axes depend on that.
-    const fpt step = std::abs(normal.z) < flat_normal_z ? fpt{0, 0, 1} : fpt{1, 0, 0};
-    const fpt helper = point + step;
-    fpt u = cross(normal, helper);
-    fpt w = cross(normal, u);
-    u.make_unit(1.0);
-    w.make_unit(1.0);
-    if (magnitude(u) == 0.0)
-        return true;
-    create_from_vectors(point, u, w, {1, 1, 1});
+    fpt x;
+    fpt y;
+    if (find_vectors_in_plane(point, normal, x, y))
+        create_from_vectors(point, x, y, {1, 1, 1});
     return true;
+}
+
+axis_points axis_points_of_plane(const fpt& point, const fpt& normal) {
+    fpt x;
+    fpt y;
+    local_axes axes;
+    if (!find_vectors_in_plane(point, normal, x, y) || !find_axes(x, y, axes))
+        return {{1, 0, 0}, {0, 1, 0}};
+    local_axes forward{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+    invert(axes, forward);
+    // The placement's own steps, but for those by a scale of 1 and an origin of 0, which change nothing but the sign of
+    // a zero, and that is lost in the sums.
+    const fpt origin{dot(forward.x, point), dot(forward.y, point), dot(forward.z, point)};
+    const fpt row_x{axes.x.x, axes.y.x, axes.z.x};
+    const fpt row_y{axes.x.y, axes.y.y, axes.z.y};
+    const fpt row_z{axes.x.z, axes.y.z, axes.z.z};
+    const auto world = [&](const fpt& local) {
+        const fpt offset = local + origin;
+        return snapped_point({dot(row_x, offset), dot(row_y, offset), dot(row_z, offset)});
+    };
+    return {world({1, 0, 0}), world({0, 1, 0})};
 }
 
 void cl_matrix::scale(double sx, double sy, double sz) {
@@ -95,24 +164,16 @@ fpt cl_matrix::forward_transform(const fpt& world) const {
 }
 
 fpt cl_matrix::inverse_transform(const fpt& local) const {
-    const fpt world = apply(inverse, local - row(forward, 3)) + origin;
-    return {snap_to_zero(world.x, smallest_coordinate), snap_to_zero(world.y, smallest_coordinate),
-            snap_to_zero(world.z, smallest_coordinate)};
+    return snapped_point(apply(inverse, local - row(forward, 3)) + origin);
 }
 
 int cl_matrix::invert_axes() {
-    // The rows of the adjugate are the cross products of the columns of the matrix; each holds the cofactors of a
-    // column.
-    const fpt adjugate0 = cross(column(inverse, 1), column(inverse, 2));
-    const fpt adjugate1 = cross(column(inverse, 2), column(inverse, 0));
-    const fpt adjugate2 = cross(column(inverse, 0), column(inverse, 1));
-    const double determinant = dot(column(inverse, 0), adjugate0);
-    if (determinant == 0.0)
+    local_axes rows;
+    if (!invert({column(inverse, 0), column(inverse, 1), column(inverse, 2)}, rows))
         return 0;
-    const double factor = 1.0 / determinant;
-    set_row(forward, 0, adjugate0 * factor);
-    set_row(forward, 1, adjugate1 * factor);
-    set_row(forward, 2, adjugate2 * factor);
+    set_row(forward, 0, rows.x);
+    set_row(forward, 1, rows.y);
+    set_row(forward, 2, rows.z);
     return 1;
 }
 

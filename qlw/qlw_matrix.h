@@ -50,3 +50,13 @@ public:
     matrix4 rotation = identity4; // the 3 by 3 part of `forward` without its scale
     std::int32_t flags = 0;       // not used by the mappings
 };
+
+// Two points beside a point, one along each of the local axes.
+struct axis_points {
+    fpt x;
+    fpt y;
+};
+
+// Where a new placement puts the local points (1, 0, 0) and (0, 1, 0) once create_from_normal(point, normal) has laid
+// it: the two results of inverse_transform, to the last bit, without the placement, of which a vertex needs no more.
+axis_points axis_points_of_plane(const fpt& point, const fpt& normal);

@@ -19,12 +19,9 @@ fpt transform_point(const transform16& matrix, const fpt& point) {
 }
 
 fpt transform_normal(const transform16& matrix, const fpt& normal, const fpt& point) {
-    cl_matrix plane;
-    plane.create_from_normal(point, {snapped(normal.x), snapped(normal.y), snapped(normal.z)});
-    const fpt beside_x = plane.inverse_transform({1, 0, 0});
-    const fpt beside_y = plane.inverse_transform({0, 1, 0});
+    const axis_points beside = axis_points_of_plane(point, {snapped(normal.x), snapped(normal.y), snapped(normal.z)});
     const fpt centre = transform_point(matrix, point);
-    fpt result = cross(transform_point(matrix, beside_x) - centre, transform_point(matrix, beside_y) - centre);
+    fpt result = cross(transform_point(matrix, beside.x) - centre, transform_point(matrix, beside.y) - centre);
     result.make_unit(1.0);
     return result;
 }

@@ -5,7 +5,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <random>
 
 using testing::ElementsAre;
@@ -33,6 +37,45 @@ void set_columns(matrix4& matrix, const fpt& x, const fpt& y, const fpt& z) {
     matrix[0] = {x.x, y.x, z.x, 0};
     matrix[1] = {x.y, y.y, z.y, 0};
     matrix[2] = {x.z, y.z, z.z, 0};
+}
+
+// Zeros of both signs, numbers near the limits of the placement, and any magnitude that a model or a damaged file has.
+double any_component(std::mt19937_64& random) {
+    constexpr std::array<double, 8> special{0.0, -0.0, 1.0, -1.0, 1e-8, 1e-4, -1e-4, 0.5};
+    const std::uint64_t kind = random() % 8;
+    if (kind == 0)
+        return special[random() % special.size()];
+    const double number = std::uniform_real_distribution<double>(-1, 1)(random);
+    constexpr std::array<double, 7> scales{1, 1000, 1e-8, 1e-4, 1e6, 1e120, 1e-160};
+    return number * scales[kind - 1];
+}
+
+fpt unit_vector(fpt vector) {
+    vector.make_unit(1);
+    return vector;
+}
+
+// What is no number is no number on either side, whatever its bits.
+bool same_number(double a, double b) {
+    return (std::isnan(a) && std::isnan(b)) || std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+bool same_point(const fpt& a, const fpt& b) {
+    return same_number(a.x, b.x) && same_number(a.y, b.y) && same_number(a.z, b.z);
+}
+
+// Whether the short way gives what the placement gives.
+testing::AssertionResult agree(const fpt& point, const fpt& normal) {
+    cl_matrix plane;
+    plane.create_from_normal(point, normal);
+    const fpt x = plane.inverse_transform({1, 0, 0});
+    const fpt y = plane.inverse_transform({0, 1, 0});
+    const axis_points found = axis_points_of_plane(point, normal);
+    if (same_point(found.x, x) && same_point(found.y, y))
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "point " << fpt_to_text(point) << ", normal " << fpt_to_text(normal) << ": "
+                                       << fpt_to_text(found.x) << " and " << fpt_to_text(found.y) << " instead of "
+                                       << fpt_to_text(x) << " and " << fpt_to_text(y);
 }
 
 } // namespace
@@ -171,6 +214,27 @@ TEST(PlacementFromNormal, a_normal_parallel_to_the_helper_leaves_the_placement_a
     EXPECT_TRUE(matrix.create_from_normal({1, 1, 1}, {0, 0, 0}));
     expect_identity(matrix);
     EXPECT_THAT(trace.take(), IsEmpty());
+}
+
+TEST(PointsAlongTheAxes, are_those_of_the_whole_placement_to_the_last_bit) {
+    std::mt19937_64 random(11);
+    const auto any_point = [&] { return fpt{any_component(random), any_component(random), any_component(random)}; };
+    for (int i = 0; i < 400000; ++i) {
+        const fpt point = any_point();
+        const fpt normal = i % 3 == 0 ? unit_vector(any_point()) : any_point();
+        ASSERT_TRUE(agree(point, normal)) << "pair " << i << " of seed 11";
+    }
+}
+
+// The helper lies one step along x, or along z for level normals; the threshold between the two, and both sides of it.
+TEST(PointsAlongTheAxes, are_those_of_the_placement_where_it_stays_as_it_was) {
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    const double edges[] = {0.0, -0.0, 1.0, -1.0, 1e-8, 0.9e-8, 1e-4, 0.99e-4, 5e-324, 1e154, 1e200, inf, std::nan("")};
+    for (const double x : edges)
+        for (const double y : edges)
+            for (const double z : edges)
+                for (const fpt& point : {fpt{0, 0, 0}, fpt{-1, 0, 5}, fpt{0, 0, -1}, fpt{x, y, z}, fpt{z, x, y}})
+                    ASSERT_TRUE(agree(point, {x, y, z}));
 }
 
 TEST(PlacementScale, columns_are_multiplied_and_rows_divided) {
