@@ -168,6 +168,9 @@ public:
     // What the face at hand is meshed into; kept for the next, so that a face allocates nothing.
     face_scratch scratch;
 
+    // Whether traces are heard, asked once for a list of faces; nothing outside of one.
+    std::optional<bool> traces_heard;
+
     // Answers about materials, so that a face asks neither for names nor for files.
     known_materials materials;
 

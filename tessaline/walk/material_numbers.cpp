@@ -32,8 +32,7 @@ bool is_distorted(SUFaceRef face, bool is_front) {
 }
 
 // The number that the texture writer knows the side's picture by; 0 if the picture is not the face's own.
-std::int32_t texture_id_of(SUFaceRef face, bool is_front) {
-    const bool is_heard = traces_are_heard();
+std::int32_t texture_id_of(SUFaceRef face, bool is_front, bool is_heard) {
     if (is_heard) {
         long told = 0;
         SUTextureWriterGetTextureIdForFace(texture_writer, face, is_front, &told);
@@ -124,7 +123,7 @@ material_of_side SketchUpReader::get_material_number(SUFaceRef face, SUMaterialR
                                .is_scattered = in_skatter_instances};
     if (side.has_texture && SUIsValid(texture_writer)) {
         side.not_affine = is_distorted(face, is_front) && !in_skatter_instances;
-        question.texture_id = texture_id_of(face, is_front);
+        question.texture_id = texture_id_of(face, is_front, traces_heard ? *traces_heard : traces_are_heard());
     }
     if (theApp.color_by_layer && current_oparms->reflection > 0)
         question.layer_reflection = cut_toward_zero(current_oparms->reflection);

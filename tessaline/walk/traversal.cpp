@@ -92,12 +92,14 @@ void SketchUpReader::process_faces(const list_walk& list) {
     if (faces.empty())
         return;
     const bool mirrored = is_mirrored(list.transform);
+    traces_heard = traces_are_heard(); // asks the system, which no face should
     for (const SUFaceRef face : faces) {
         current_oparms = oparms_array.push();
         ProcessFace(face, list.transform, mirrored, list.path);
         current_oparms = oparms_array.pop();
         advance_progress();
     }
+    traces_heard.reset();
     blocks.end_face_list();
 }
 

@@ -464,6 +464,17 @@ TEST_F(MaterialNumbers, what_each_textured_side_asks_the_writer_is_traced) {
               "material_numbers(#): SketchUpReader::get_material_number():: textureId? 1  back_textureId: 0\n");
 }
 
+TEST_F(MaterialNumbers, what_the_writer_is_asked_is_traced_for_a_list_of_faces_too) {
+    square(textured(12, "Brick"));
+    open_painted();
+    const trace_capture trace;
+    SUEntitiesRef entities = SU_INVALID;
+    SUModelGetEntities(open_model, &entities);
+    std::string path;
+    reader.ProcessEntities(entities, identity16, path, 1);
+    EXPECT_THAT(trace.text_without_line_numbers(), testing::HasSubstr("txtr id: 1, is_front: 1\n"));
+}
+
 TEST_F(MaterialNumbers, folders_that_cannot_be_made_cost_the_files_and_nothing_else) {
     theApp.batch_folder = batch / "missing/folder";
     square(textured(12, "Brick"));
