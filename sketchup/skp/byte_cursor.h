@@ -57,9 +57,9 @@ public:
     // A u32 count of things of at least smallest bytes each; fails if so many cannot be left.
     std::uint32_t count(std::size_t smallest) {
         const std::uint32_t n = u32();
-        if (static_cast<std::uint64_t>(n) * smallest > left())
-            fail("count " + std::to_string(n) + " needs " + std::to_string(static_cast<std::uint64_t>(n) * smallest) +
-                 " bytes, " + std::to_string(left()) + " left");
+        const std::uint64_t size = static_cast<std::uint64_t>(n) * smallest;
+        if (size > left()) [[unlikely]]
+            fail_short("count " + std::to_string(n) + " ", size);
         return n;
     }
 
@@ -69,9 +69,11 @@ public:
 
 private:
     void need(std::size_t size) const {
-        if (size > left())
-            fail("needs " + std::to_string(size) + " bytes, " + std::to_string(left()) + " left");
+        if (size > left()) [[unlikely]]
+            fail_short("", size);
     }
+    // Apart from the checks, which stand at every value and are to stay small.
+    [[noreturn]] void fail_short(const std::string& what, std::uint64_t size) const;
     template<class T>
     T value() {
         need(sizeof(T));

@@ -42,7 +42,16 @@ public:
 
     // Reads a tag; a new object takes its slot at once, so that its body may refer to it. Fails on an unknown class and
     // on a number that is not yet given.
-    object_tag next_tag();
+    object_tag next_tag() {
+        const std::uint16_t tag = u16();
+        if (tag == null_tag)
+            return {};
+        if (tag < long_tag)
+            return reference(tag);
+        if (tag != new_class_tag && tag != long_tag)
+            return object_of_class_slot(tag & ~std::uint32_t{short_class_bit});
+        return tag == long_tag ? long_tagged() : object_of_new_class();
+    }
 
     // Where the object of a slot is kept: a number that means something to the reader of its class alone.
     std::uint32_t place_of(std::uint32_t slot) const { return slots_[slot].place; }
@@ -55,12 +64,36 @@ private:
         std::uint32_t place = 0xFFFFFFFF;
     };
 
-    std::uint32_t take_slot(object_class what, bool is_class);
+    static constexpr std::uint16_t null_tag = 0;
+    static constexpr std::uint16_t long_tag = 0x7FFF; // a number of 32 bits follows
+    static constexpr std::uint16_t new_class_tag = 0xFFFF;
+    static constexpr std::uint16_t short_class_bit = 0x8000;
+    static constexpr std::uint32_t long_class_bit = 0x80000000;
+
+    std::uint32_t take_slot(object_class what, bool is_class) {
+        slots_.push_back({what, is_class});
+        return static_cast<std::uint32_t>(slots_.size() - 1);
+    }
     object_class read_class_name();
-    object_tag new_object(object_class what);
-    object_tag object_of_class_slot(std::uint32_t number);
-    object_tag reference(std::uint32_t number);
-    void require_slot(std::uint32_t number, bool is_class) const;
+    object_tag object_of_new_class();
+    object_tag new_object(object_class what) { return {what, true, take_slot(what, false)}; }
+    object_tag long_tagged() {
+        const std::uint32_t number = u32();
+        return (number & long_class_bit) != 0 ? object_of_class_slot(number & ~long_class_bit) : reference(number);
+    }
+    object_tag object_of_class_slot(std::uint32_t number) {
+        require_slot(number, true);
+        return new_object(slots_[number].what);
+    }
+    object_tag reference(std::uint32_t number) {
+        require_slot(number, false);
+        return {slots_[number].what, false, number};
+    }
+    void require_slot(std::uint32_t number, bool is_class) const {
+        if (number == 0 || number >= slots_.size() || slots_[number].is_class != is_class) [[unlikely]]
+            refuse_slot(number);
+    }
+    [[noreturn]] void refuse_slot(std::uint32_t number) const;
 
     static constexpr std::uint64_t free_array_elements = 65536;
 

@@ -4,6 +4,7 @@
 #include "sketchup/skp/classic/typed_values.h"
 
 #include <array>
+#include <bit>
 #include <iterator>
 #include <utility>
 
@@ -55,10 +56,13 @@ std::int64_t model_reader::read_persistent_id() {
     if (layout_.entity == 4)
         return static_cast<std::int64_t>(in_.u64());
     const std::uint8_t mask = in_.u8();
+    const std::span<const std::uint8_t> stored = in_.bytes(static_cast<std::size_t>(std::popcount(mask)));
     std::uint64_t id = 0;
-    for (unsigned i = 0; i < 8; ++i)
-        if ((mask >> i & 1) != 0)
-            id |= static_cast<std::uint64_t>(in_.u8()) << (8 * i);
+    unsigned places = mask;
+    for (const std::uint8_t byte : stored) {
+        id |= static_cast<std::uint64_t>(byte) << (8 * std::countr_zero(places));
+        places &= places - 1; // without the lowest
+    }
     return static_cast<std::int64_t>(id);
 }
 
