@@ -135,7 +135,7 @@ batch_place::stepped batch_place::restore() {
     if (held.take(platform::joined(aside, report_name), hold_kind::old_file) != hold_result::held)
         return {step::again, {}};
     if (name_is_taken(name)) {
-        if (!is_real_folder(name) || !(has_own_mark(name) || is_empty(name)))
+        if (!is_real_folder(name) || !(has_mark(name) || is_empty(name)))
             return {}; // not ours: the claim says so
         platform::held_file unfinished;
         if (has_mark(name) && unfinished.take(*this / mark_name, hold_kind::old_file) != hold_result::held)
@@ -194,10 +194,8 @@ batch_place::stepped batch_place::claim_once() {
 batch_place::stepped batch_place::claim_old_folder() {
     if (has_report(name))
         return put_aside(); // with a mark beside it, which no run has left there
-    if (has_own_mark(name))
-        return take_over_unfinished();
     if (has_mark(name))
-        return {step::done, foreign_mark};
+        return take_over_unfinished();
     if (!platform::list_folder(name))
         return {platform::exists(name) ? step::done : step::again, "cannot be read"};
     if (is_empty(name))

@@ -147,7 +147,20 @@ TEST_F(BatchPlace, a_mark_beside_a_report_costs_nothing_of_the_finished_batch) {
 TEST_F(BatchPlace, what_stands_in_the_place_of_what_was_put_aside_and_has_a_foreign_mark_is_never_touched) {
     here.write("batch.tessaline-run.before/tessaline-run.json.part", "half of a download");
     recover();
+    make_finished("batch", "old");
+    EXPECT_EQ(batch_place(here / "batch").claim(run_clock(std::nullopt)),
+              "cannot be put aside: " + here / "batch.tessaline-run.before" + " exists");
     EXPECT_EQ(here.read("batch.tessaline-run.before/tessaline-run.json.part"), "half of a download");
+}
+
+TEST_F(BatchPlace, what_has_a_foreign_mark_never_makes_room_for_the_old_batch) {
+    make_finished("batch.tessaline-run.before", "old");
+    here.write("batch/letter.txt", "dear reader");
+    here.write("batch/tessaline-run.json.part", "half of a download");
+    recover();
+    EXPECT_EQ(here.read("batch/letter.txt"), "dear reader");
+    EXPECT_EQ(here.read("batch/tessaline-run.json.part"), "half of a download");
+    EXPECT_TRUE(has_put_aside());
 }
 
 TEST_F(BatchPlace, a_folder_that_holds_a_mark_has_no_finished_report) {
