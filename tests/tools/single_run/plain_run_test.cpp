@@ -149,7 +149,8 @@ TEST_F(PlainRun, a_converter_that_ends_with_a_status_of_its_own_has_made_no_soun
     put_stand_in("status");
     const program_result outcome = run();
     EXPECT_EQ(outcome.status, 5);
-    EXPECT_EQ(last_line(outcome.errors), "tessaline-run: The converter ended with status 3, which it never does.");
+    EXPECT_EQ(outcome.errors, "tessaline: a bell\\x07\n"
+                              "tessaline-run: The converter ended with status 3, which it never does.\n");
     EXPECT_FALSE(here.has("batch"));
 }
 
@@ -233,9 +234,9 @@ TEST_F(PlainRun, a_batch_folder_is_named_without_dots) {
 TEST_F(PlainRun, what_makes_no_sense_has_status_2_and_one_line) {
     const std::string twice = here.write("twice/zyn_view.txt", "");
     const std::string view = here.write("zyn_view.txt", "");
-    const std::string reserved = here.write("batch_file.txt", "");
     const std::vector<std::vector<std::string>> all = {
         {"--option", "no_such_setting=1"},
+        {"--option", "no\nsuch\nsetting=1"},
         {"--option", "ivl_resx=wide"},
         {"--option", "ivl_resx"},
         {"--seconds", "0"},
@@ -244,7 +245,6 @@ TEST_F(PlainRun, what_makes_no_sense_has_status_2_and_one_line) {
         {"--with", here / "missing.txt"},
         {"--with", here / "home"},
         {"--with", view, "--with", twice},
-        {"--with", reserved},
         {"one_more_argument"},
     };
     for (const auto& options : all) {
@@ -254,6 +254,13 @@ TEST_F(PlainRun, what_makes_no_sense_has_status_2_and_one_line) {
         EXPECT_EQ(outcome.errors.find('\n'), outcome.errors.size() - 1) << outcome.errors;
         EXPECT_FALSE(here.has("batch"));
     }
+}
+
+TEST_F(PlainRun, a_file_with_a_name_of_the_run_itself_is_refused) {
+    for (const char* name :
+         {"geometry.qlm", "batch_file.txt", "tessaline-run.json", "tessaline-run.json.part", "tessaline-run.settings"})
+        EXPECT_EQ(run_with({"--with", here.write(std::string("p/") + name, "")}).status, 2) << name;
+    EXPECT_FALSE(here.has("batch"));
 }
 
 TEST_F(PlainRun, names_that_differ_in_case_are_one_where_the_system_takes_them_so) {

@@ -298,6 +298,8 @@ TEST_F(ListRun, a_list_that_cannot_be_worked_on_is_status_2_and_says_why) {
     };
     EXPECT_THAT(errors_of({"--list", here / "list", here / "out"}), HasSubstr("cannot be read"));
     EXPECT_THAT(errors_of({"--table", here / "list", here / "out"}), HasSubstr("cannot be read"));
+    EXPECT_EQ(errors_of({"--count", here / "no\nlist"}),
+              "tessaline-run: The list " + here / "no\\x0alist" + " cannot be read.\n");
     EXPECT_THAT(errors_of({"--count", here / "list"}), HasSubstr("cannot be read"));
     put_listed_model("x.skp");
     EXPECT_THAT(errors_of({"--list", here / "list", "--root", here / "out", here / "out"}),
@@ -335,6 +337,7 @@ TEST_F(ListRun, command_lines_that_make_no_sense_are_answered_with_the_usage) {
         EXPECT_FALSE(here.has("out"));
     }
     EXPECT_EQ(run_list({"--json", "x"}).errors, "tessaline-run: unknown option --json\n");
+    EXPECT_EQ(run_list({"--js\non"}).errors, "tessaline-run: unknown option --js\\x0aon\n");
     EXPECT_EQ(run_program(start_of({"--table", list, "--jobs", "1", out})).errors,
               "tessaline-run: unknown option --jobs\n");
 }

@@ -2,13 +2,14 @@
 //   wait    makes the file "waiting" beside the stream and waits to be ended
 //   half    leaves the beginning of a stream
 //   crash   ends as programs do that have gone wrong
-//   status  leaves nothing and ends with status 3
+//   status  tells its user something with a control character, leaves nothing and ends with status 3
 // Its arguments are those of the converter, of which the last is the stream, or those of the checker, of which the last
 // is the batch folder.
 
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <string>
 #include <thread>
@@ -43,5 +44,7 @@ int main(int argc, char** argv) {
         std::ofstream(stream, std::ios::binary) << "#;Tessaline Geometry\r\n";
     if (what == "crash")
         std::abort();
+    if (what == "status")
+        std::cerr << "a bell\x07\n";
     return what == "status" ? 3 : 0;
 }
