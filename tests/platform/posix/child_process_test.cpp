@@ -108,6 +108,20 @@ char state_of(const std::string& process) {
     return name_end == std::string::npos ? '\0' : text[name_end + 2];
 }
 
+// It makes the pipe larger than what is taken at once, and has ended before a second piece is asked for.
+TEST(ChildProcess, all_that_waits_when_a_program_has_ended_is_handed_on) {
+    child_start start = shell("echo $$; exec perl -e 'fcntl(STDOUT, 1031, 1 << 20) or die; print \"x\" x 500000'");
+    std::string output;
+    start.on_output = [&output](std::string_view bytes) {
+        output += bytes;
+        const std::string process = output.substr(0, output.find('\n'));
+        for (char state = 'R'; state != 'Z' && state != '\0'; state = state_of(process))
+            std::this_thread::yield();
+    };
+    EXPECT_EQ(platform::run_child(start).number, 0);
+    EXPECT_EQ(output.size() - output.find('\n') - 1, 500000u);
+}
+
 // Whenever a piece was taken, the next one stands in the pipe, which is full before anybody looks at it.
 TEST(ChildProcess, one_that_never_stops_printing_is_called_off_all_the_same) {
     const platform::end_requests noted;
