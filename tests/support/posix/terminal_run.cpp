@@ -100,11 +100,8 @@ terminal_outcome run_on_terminal(const program_start& start, const std::vector<t
     return run(start, talk, &settings, nullptr);
 }
 
-std::vector<std::string> rows_left_on_terminal(const std::string& command, const std::string& keys) {
+std::vector<std::string> rows_left_on_terminal(const std::string& command, const std::vector<terminal_exchange>& talk) {
     const winsize size{24, 100, 0, 0};
-    std::vector<terminal_exchange> talk;
-    if (!keys.empty())
-        talk.push_back({"", keys});
     terminal_screen screen(size.ws_col);
     screen.show(run({"/bin/sh", {"-c", command}}, talk, nullptr, &size).shown);
     return screen.rows();

@@ -23,9 +23,10 @@ struct terminal_outcome {
 // failure of the test.
 terminal_outcome run_on_terminal(const program_start& start, const std::vector<terminal_exchange>& talk);
 
-// The rows of a screen of 100 columns (terminal_screen.h) when the command has ended that was started there, keys typed
-// among it. command: for the shell. keys: typed when the command shows anything.
-std::vector<std::string> rows_left_on_terminal(const std::string& command, const std::string& keys = {});
+// The rows of a screen of 100 columns (terminal_screen.h) when the command has ended that was started there, with what
+// was typed among them. command: for the shell.
+std::vector<std::string> rows_left_on_terminal(const std::string& command,
+                                               const std::vector<terminal_exchange>& talk = {});
 
 // One argument of a command line, quoted for the shell.
 std::string shell_quoted(const std::string& argument);

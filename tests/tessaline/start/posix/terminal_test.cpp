@@ -69,7 +69,11 @@ TEST_F(OnATerminal, what_stands_on_the_line_already_is_not_erased_by_a_message) 
     EXPECT_THAT(rows[0], StartsWith("first: Tessaline - "));
 }
 
-class MissingModel : public run_fixture {};
+class MissingModel : public run_fixture {
+protected:
+    // Answered when it stands there whole: what is typed before would be shown in the midst of it.
+    static terminal_exchange answer(const std::string& keys) { return {"]: ", keys}; }
+};
 
 TEST_F(MissingModel, a_missing_model_in_quotes_is_told_of_where_nobody_can_be_asked) {
     const std::string missing = batch / "a b/missing.qlm"; // holds a blank, so that the line has it in quotation marks
@@ -82,7 +86,7 @@ TEST_F(MissingModel, a_missing_model_in_quotes_is_told_of_where_nobody_can_be_as
 TEST_F(MissingModel, a_missing_model_in_quotes_is_told_of_behind_the_question_for_the_stream) {
     const std::string missing = batch / "a b/missing.qlm";
     const std::string command = shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(missing);
-    const std::vector<std::string> rows = rows_left_on_terminal(command, batch / "out.xml\n");
+    const std::vector<std::string> rows = rows_left_on_terminal(command, {answer(batch / "out.xml\n")});
     const std::string shown = testing::PrintToString(rows);
     const std::size_t question = shown.find("Tessaline, Debug Mode - to create SKP XML file [");
     const std::size_t message = shown.find("Could not find input filename ");
@@ -93,7 +97,7 @@ TEST_F(MissingModel, a_missing_model_in_quotes_is_told_of_behind_the_question_fo
 TEST_F(MissingModel, a_dismissed_question_ends_the_run_without_a_word) {
     const std::string command = shell_quoted(TESSALINE_PROGRAM) + ' ' + shell_quoted(batch / "a b/missing.qlm");
     const std::string end_of_input = "\x04";
-    const std::string shown = testing::PrintToString(rows_left_on_terminal(command, end_of_input));
+    const std::string shown = testing::PrintToString(rows_left_on_terminal(command, {answer(end_of_input)}));
     EXPECT_THAT(shown, testing::HasSubstr("Tessaline, Debug Mode - to create SKP XML file ["));
     EXPECT_THAT(shown, testing::Not(testing::HasSubstr("Could not find")));
 }
