@@ -31,7 +31,7 @@ void set_column(matrix4& matrix, std::size_t index, const fpt& value) {
 }
 
 // The 3 by 3 part applied to a column vector.
-fpt apply(const matrix4& matrix, const fpt& vector) {
+fpt turned(const matrix4& matrix, const fpt& vector) {
     return {dot(row(matrix, 0), vector), dot(row(matrix, 1), vector), dot(row(matrix, 2), vector)};
 }
 
@@ -160,11 +160,11 @@ void cl_matrix::scale(double sx, double sy, double sz) {
 }
 
 fpt cl_matrix::forward_transform(const fpt& world) const {
-    return apply(forward, world - origin) + row(forward, 3);
+    return turned(forward, world - origin) + row(forward, 3);
 }
 
 fpt cl_matrix::inverse_transform(const fpt& local) const {
-    return snapped_point(apply(inverse, local - row(forward, 3)) + origin);
+    return snapped_point(turned(inverse, local - row(forward, 3)) + origin);
 }
 
 int cl_matrix::invert_axes() {
