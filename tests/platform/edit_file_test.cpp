@@ -64,7 +64,7 @@ TEST(EditFile, loses_no_change_of_many_at_once) {
                     EXPECT_EQ(platform::edit_file(name, no_limit, 10000, appending("x")), platform::edit_result::done);
             });
     }
-    EXPECT_EQ(folder.read("a"), std::string(writers * changes, 'x'));
+    EXPECT_EQ(folder.read("a"), std::string(std::size_t{writers} * changes, 'x'));
 }
 
 } // namespace
