@@ -111,6 +111,20 @@ TEST(BatchView, what_the_camera_does_not_see_is_neither_drawn_nor_looked_at) {
     EXPECT_FALSE(with.picture == drawn_from(triangle_block() + triangle_block("-5")).picture);
 }
 
+// The material takes one of 1,048,576 places, its numbers the others.
+TEST(BatchView, numbers_of_materials_beyond_the_room_for_them_are_told_of) {
+    const temporary_folder folder;
+    folder.write("batch/ZynBatch_Materials/a.qlobj", "Matl: a\r\nColor: 255\r\n");
+    std::ofstream stream(folder.write("batch/batch_file.txt", "#;\r\nMATF;a\r\n"), std::ios::binary | std::ios::app);
+    for (int number = 10; number < 1048590; ++number)
+        stream << "MATI;" << number << "\r\n";
+    stream << "END;\r\n";
+    stream.close();
+    EXPECT_EQ(run("batch-view", {folder / "batch", "--png", folder / "a.png", "--size", "8x8"}).errors,
+              "batch-view: left out of what the stream declares and places: 5; there is room for 1048576 records with "
+              "33554432 bytes of names\n");
+}
+
 TEST(BatchView, a_number_means_the_material_that_was_named_before_it) {
     const auto colour_with = [](const std::string& declarations) {
         const temporary_folder folder;
