@@ -60,6 +60,24 @@ function(tessaline_show target scope)
   target_include_directories(${target} ${scope} ${shown})
 endfunction()
 
+# Else a compiler cache would give objects that refuse a precompiled header of the same bytes.
+set(precompiled_alike)
+if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+  set(precompiled_alike "SHELL:-Xclang -fno-pch-timestamp")
+endif()
+
+# tessaline_precompile(ROOM): what nearly every source includes of the standard library is compiled once, for the lowest
+# room, and serves all rooms.
+function(tessaline_precompile room)
+  target_compile_options(${room} PRIVATE ${precompiled_alike})
+  if(room STREQUAL text)
+    target_precompile_headers(text PRIVATE <algorithm> <array> <functional> <memory> <optional> <span> <string>
+      <string_view> <unordered_map> <variant> <vector>)
+  else()
+    target_precompile_headers(${room} REUSE_FROM text)
+  endif()
+endfunction()
+
 # tessaline_room(NAME LINK TARGET... [FOLDERS FOLDER...] [SHOW PATH...] [SOURCES FILE...]): a static library of every
 # .cpp of the current folder and of the folders named, or of the files named. It shows its folder, or the paths named.
 function(tessaline_room name)
@@ -79,15 +97,14 @@ function(tessaline_room name)
   add_library(${name} STATIC ${sources})
   target_link_libraries(${name} PUBLIC tessaline_flags ${room_LINK})
   target_compile_options(${name} PRIVATE ${for_the_fuzzer})
+  if(TESSALINE_PRECOMPILE)
+    tessaline_precompile(${name})
+  endif()
   tessaline_show(${name} PUBLIC ${room_SHOW})
 endfunction()
 
 # What is tested is optimised; optimising the tests themselves would only lengthen the build.
-set(how_tests_compile -O0)
-if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
-  # Else a compiler cache would give objects that refuse a precompiled header of the same bytes.
-  list(APPEND how_tests_compile "SHELL:-Xclang -fno-pch-timestamp")
-endif()
+set(how_tests_compile -O0 ${precompiled_alike})
 
 # tessaline_test(NAME LABEL LINK TARGET... [FOLDERS FOLDER...]): one GoogleTest program of every *_test.cpp (and *.c,
 # and the helper *.cpp files beside them) of the current folder and the folders named, and of folders in them for this
