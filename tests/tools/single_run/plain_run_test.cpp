@@ -209,6 +209,7 @@ TEST_F(PlainRun, a_report_never_replaces_what_the_run_reads) {
     EXPECT_EQ(run_with({"--json", here / "model.skp"}).status, 2);
     EXPECT_EQ(run_with({"--json", here / "home/../model.skp"}).status, 2);
     EXPECT_EQ(run_with({"--with", view, "--json", view}).status, 2);
+    EXPECT_EQ(run_with({"--json", here / "batch"}).status, 2);
     EXPECT_EQ(here.read("model.skp"), model);
     EXPECT_EQ(here.read("zyn_view.txt"), "a view");
     EXPECT_FALSE(here.has("batch"));
