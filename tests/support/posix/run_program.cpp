@@ -40,7 +40,7 @@ std::vector<std::string> changed_environment(const std::vector<environment_chang
             variables.erase(name);
     std::vector<std::string> texts;
     for (const auto& [name, value] : variables)
-        texts.push_back(name + '=' + value);
+        texts.emplace_back(name).append("=").append(value);
     return texts;
 }
 
