@@ -17,6 +17,7 @@ endif()
 
 if(NOT PRECOMPILED)
   file(STRINGS ${SOURCES} sources)
+  list(FILTER sources INCLUDE REGEX "\\.cpp$") # a source that the build makes stands there with its rule, no file
   foreach(source ${sources})
     cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${ROOM})
     file(STRINGS ${source} first_line REGEX "^[^/]" LIMIT_COUNT 1 ENCODING UTF-8) # after the comments at its head
