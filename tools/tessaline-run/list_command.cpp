@@ -1,8 +1,8 @@
 #include "tools/tessaline-run/list_command.h"
 
 #include "platform/platform.h"
-#include "tools/command_line/answers.h"
 #include "text/one_line.h"
+#include "tools/command_line/answers.h"
 #include "tools/single_run/run_options.h"
 #include "tools/single_run/run_status.h"
 #include "tools/tessaline-run/list_run.h"
