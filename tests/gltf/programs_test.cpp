@@ -85,7 +85,8 @@ TEST(GlbPrograms, keep_a_material_once_however_often_it_is_declared) {
 // Each lamp has a shape of its own, in a line of 30 bytes.
 TEST(GlbPrograms, refuse_a_stream_of_more_parts_than_a_file_can_hold) {
     const temporary_folder folder;
-    std::ofstream stream(folder.write("batch/batch_file.txt", "#;\r\nMESH;\r\nTLAY;a\r\n"), std::ios::app);
+    std::ofstream stream(folder.write("batch/batch_file.txt", "#;\r\nMESH;\r\nTLAY;a\r\n"),
+                         std::ios::app | std::ios::binary);
     for (int corner = 0; corner < 3; ++corner)
         stream << "VERT;(" << corner << "," << corner * corner << ",0)\r\nADDV;" << corner << "\r\n";
     for (int lamp = 0; lamp < 400000; ++lamp)
