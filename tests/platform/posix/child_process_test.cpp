@@ -37,6 +37,20 @@ child_start shell(const std::string& script) {
     return {"/bin/sh", {"-c", script}};
 }
 
+// While it lives, the signal is not ignored: whoever runs the tests may do that, as a shell does for what it starts in
+// the background.
+class heard_signal {
+public:
+    explicit heard_signal(int signal_number) : number(signal_number), before(std::signal(signal_number, SIG_DFL)) {}
+    heard_signal(const heard_signal&) = delete;
+    heard_signal& operator=(const heard_signal&) = delete;
+    ~heard_signal() { std::signal(number, before); }
+
+private:
+    int number;
+    void (*before)(int);
+};
+
 TEST(ChildProcess, hands_on_what_is_printed_and_the_status) {
     const seen_child seen = run(shell("echo out; echo err >&2; exit 5"));
     EXPECT_EQ(seen.end.fate, child_fate::ended);
@@ -181,6 +195,7 @@ TEST(ChildProcess, every_signal_that_asks_to_end_ends_the_program_and_is_told_by
     const std::pair<int, const char*> all[] = {
         {SIGTERM, "SIGTERM"}, {SIGINT, "SIGINT"}, {SIGHUP, "SIGHUP"}, {SIGQUIT, "SIGQUIT"}, {SIGXCPU, "SIGXCPU"}};
     for (const auto& [number, name] : all) {
+        const heard_signal heard(number);
         const platform::end_requests noted;
         child_start start = shell("echo begun; exec sleep 1000");
         start.on_output = [number = number](std::string_view) { raise(number); };
@@ -190,6 +205,7 @@ TEST(ChildProcess, every_signal_that_asks_to_end_ends_the_program_and_is_told_by
 }
 
 TEST(ChildProcess, a_request_to_end_is_forgotten_with_whoever_noted_it) {
+    const heard_signal heard(SIGINT);
     {
         const platform::end_requests noted;
         raise(SIGINT);

@@ -25,7 +25,7 @@ started_program::started_program(const program_start& start, uid_t user, how_wat
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     process = fork();
     if (process == 0) {
-        for (const int number : {SIGHUP, SIGINT, SIGTERM})
+        for (const int number : {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGXCPU})
             signal(number, SIG_DFL); // whoever runs the tests may ignore them
         for (const auto& [name, value] : start.environment)
             value ? setenv(name.c_str(), value->c_str(), 1) : unsetenv(name.c_str());
